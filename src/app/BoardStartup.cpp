@@ -1,0 +1,109 @@
+#include "BoardStartup.h"
+
+#include "BoardApi.h"
+#include "BoardLoader.h"
+#include "BoardTexts.h"
+#include "CardRegistry.h"
+#include "PromptService.h"
+
+#include <array>
+
+BoardStartup::BoardStartup(BoardApi& board, CardRegistry& registry, PromptService& prompt)
+    : m_board(board), m_registry(registry), m_prompt(prompt)
+{
+}
+
+QString BoardStartup::loadFailureText(BoardFamily family, std::int32_t result)
+{
+    const QString controller = QString::fromLatin1(familyControllerName(family));
+    switch (result) {
+    case -10:
+        return QStringLiteral("FAIL! %1 NOT SUPPORT THE PROCESS....").arg(controller);
+    case -7:
+        return QStringLiteral("FAIL! %1 CHECK THE HARDWARE VERSION....").arg(controller);
+    case -5:
+        return QStringLiteral("FAIL! %1 CEHCK UP-BOARD POSITION....").arg(controller);
+    case -4:
+        // The RM library's message has always read "ERRORR"; users search for it as written.
+        return family == BoardFamily::RM
+                   ? QStringLiteral("FAIL! %1 DATA BUS LINE ERRORR....").arg(controller)
+                   : QStringLiteral("FAIL! %1 DATA BUS LINE ERROR....").arg(controller);
+    case -2:
+        return QStringLiteral("FAIL! %1 PARAMETER FILE DOES NOT MATCH....").arg(controller);
+    default:
+        return QString();
+    }
+}
+
+bool BoardStartup::loadDevices(const QStringList& libraryProblems)
+{
+    if (!libraryProblems.isEmpty())
+        m_prompt.inform(libraryProblems.join(QLatin1Char('\n')));
+
+    std::array<std::int32_t, kFamilyCount> results{};
+    for (BoardFamily family : kAllFamilies) {
+        // A family whose library could not be loaded counts as having no board.
+        results[static_cast<std::size_t>(familyIndex(family))] =
+            m_board.hasLibrary(family) ? m_board.LoadDevice(family) : -1;
+    }
+
+    bool anyBoard = false;
+    for (BoardFamily family : kAllFamilies) {
+        const std::int32_t result = results[static_cast<std::size_t>(familyIndex(family))];
+        if (result < -1) {
+            const QString text = loadFailureText(family, result);
+            if (!text.isEmpty())
+                m_prompt.inform(text);
+        }
+        anyBoard = anyBoard || result >= 0;
+    }
+    if (!anyBoard) {
+        m_prompt.inform(QStringLiteral("FAIL! LOAD DEVICE DRIVER ...."));
+        return false;
+    }
+    for (BoardFamily family : kAllFamilies)
+        m_registry.setLoadResult(family, results[static_cast<std::size_t>(familyIndex(family))]);
+    return true;
+}
+
+std::int32_t BoardStartup::readCardInfo(BoardFamily family, CardNo card)
+{
+    nrx_i32 reserved = 0;
+    nrx_i32 firmware = 0;
+    nrx_i32 axisCount = 0;
+    nrx_i32 infoValue = 0;
+    nrx_i32 ioCount = 0;
+    m_board.BoardInfo(family, card, &reserved, &firmware, &axisCount, &infoValue, &ioCount);
+    m_registry.setCardInfo(family, card, axisCount, infoValue, ioCount);
+    return firmware;
+}
+
+std::string BoardStartup::libraryVersionText(BoardFamily family)
+{
+    const QByteArray fileName = BoardLoader::libraryFileName(family).toLatin1();
+    return BoardTexts::libraryVersionText(m_board.GetDllVersion(family, fileName.constData()));
+}
+
+void BoardStartup::offerSave()
+{
+    for (BoardFamily family : kAllFamilies) {
+        for (int card = 0; card < kMaxCards; ++card) {
+            if (!m_registry.parametersChanged(family, card))
+                continue;
+            const QString text = QStringLiteral("%1(%2) board parameters are changed.\n"
+                                                "Do you want to save parameter to file?")
+                                     .arg(QLatin1String(familyDisplayName(family)))
+                                     .arg(card);
+            if (m_prompt.askYesNo(text))
+                m_board.SaveFile(family, static_cast<CardNo>(card));
+        }
+    }
+}
+
+void BoardStartup::unloadDevices()
+{
+    for (BoardFamily family : kAllFamilies) {
+        if (m_registry.count(family) > 0)
+            m_board.UnloadDevice(family);
+    }
+}

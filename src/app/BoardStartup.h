@@ -1,0 +1,45 @@
+#pragma once
+
+#include "BoardFamily.h"
+
+#include <QStringList>
+
+#include <cstdint>
+#include <string>
+
+class BoardApi;
+class CardRegistry;
+class PromptService;
+
+// The life of the boards within one run: the load at start with its messages, the reading
+// of each card's information, the save prompt at exit and the unload.
+class BoardStartup
+{
+public:
+    BoardStartup(BoardApi& board, CardRegistry& registry, PromptService& prompt);
+
+    // Loads every family (RL, RM, RN, all before any result is looked at), shows the message
+    // of each faulty family and stores the counts. Returns false, after "FAIL! LOAD DEVICE
+    // DRIVER ....", when no family has a board; the program must then end.
+    // libraryProblems (a missing library or export) are shown first, in one message.
+    bool loadDevices(const QStringList& libraryProblems = {});
+
+    // Reads BoardInfo for a card into the registry; returns the firmware value.
+    std::int32_t readCardInfo(BoardFamily family, CardNo card);
+    // "Dll Ver. : ..." for the family's library.
+    std::string libraryVersionText(BoardFamily family);
+
+    // For each changed card (families, then cards 0..7) asks whether to save; Yes calls
+    // SaveFile.
+    void offerSave();
+    // UnloadDevice for each family that has boards.
+    void unloadDevices();
+
+    // The message a LoadDevice result gives, or an empty text for none.
+    static QString loadFailureText(BoardFamily family, std::int32_t result);
+
+private:
+    BoardApi& m_board;
+    CardRegistry& m_registry;
+    PromptService& m_prompt;
+};
