@@ -6,7 +6,11 @@
 #include <cstdint>
 
 // Which of the two motion windows owns an AxesMoving flag.
-enum class MovingOwner { SingleAxis = 0, MultiAxis = 1 };
+enum class MovingOwner
+{
+    SingleAxis = 0,
+    MultiAxis = 1
+};
 
 // The board the tool windows work on, and whether a motion window has axes moving.
 struct ActiveController

@@ -11,8 +11,8 @@ struct AppState
 {
     ActiveController active;
     CardRegistry registry;
-    QString moduleDirectory;  // the executable's folder, with a trailing separator
-    QString settingsFilePath; // moduleDirectory + "ZelbrinOrvane.ini"
+    QString moduleDirectory;        // the executable's folder, with a trailing separator
+    QString settingsFilePath;       // moduleDirectory + "ZelbrinOrvane.ini"
     int statusFollowsOperation = 1; // "Change_Status_Axis_Depend_On_Operation"
     int logLevel = 2;
 

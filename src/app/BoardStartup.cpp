@@ -10,8 +10,7 @@
 
 BoardStartup::BoardStartup(BoardApi& board, CardRegistry& registry, PromptService& prompt)
     : m_board(board), m_registry(registry), m_prompt(prompt)
-{
-}
+{}
 
 QString BoardStartup::loadFailureText(BoardFamily family, std::int32_t result)
 {

@@ -2,7 +2,8 @@
 
 // The private notifications exchanged between the main frame, the workspace tree and the tool
 // windows, with their traditional numbers (WM_USER + n).
-enum UserMessage : int {
+enum UserMessage : int
+{
     UM_OPEN_TOOL = 1124,
     UM_TREE_BUILD = 1125,
     UM_SELECT_BOARD = 1126,
@@ -20,7 +21,8 @@ enum UserMessage : int {
 };
 
 // The tool-window kinds, as carried by UM_OPEN_TOOL and UM_VIEW_COMMAND.
-enum ToolKind : int {
+enum ToolKind : int
+{
     ToolSystemIo = 100,
     ToolDigitalIo = 101,
     ToolParameter = 102,

@@ -15,7 +15,8 @@ int main(int argc, char* argv[])
     QApplication::setApplicationName(QStringLiteral("Orvane"));
 
     AppState state;
-    state.moduleDirectory = QDir(QCoreApplication::applicationDirPath()).absolutePath() + QLatin1Char('/');
+    state.moduleDirectory =
+        QDir(QCoreApplication::applicationDirPath()).absolutePath() + QLatin1Char('/');
     BoardLoader loader(state.moduleDirectory);
     loader.loadAll();
     BoardApi board;

@@ -27,8 +27,7 @@ private:
 
 namespace detail {
 
-template <typename Fn, Fn NrxFunctionTable::*Member>
-class BoardOperation;
+template <typename Fn, Fn NrxFunctionTable::*Member> class BoardOperation;
 
 // One operation of the contract, callable as op(family, args...) with the export's own
 // parameter types. A family without a library, or without this export, calls nothing and
@@ -63,7 +62,10 @@ public:
 
     // Installs (or, with nullptr, removes) the function table of a family. The table must
     // outlive its use here.
-    void setTable(BoardFamily family, const NrxFunctionTable* table) { m_tables.set(family, table); }
+    void setTable(BoardFamily family, const NrxFunctionTable* table)
+    {
+        m_tables.set(family, table);
+    }
     bool hasLibrary(BoardFamily family) const { return m_tables.find(family) != nullptr; }
 
 private:

@@ -12,7 +12,7 @@ struct FamilyNames
     const char* controller;
 };
 
-#define ORVANE_FAMILY_NAMES_(index, shortName, prefix, stem, controller) \
+#define ORVANE_FAMILY_NAMES_(index, shortName, prefix, stem, controller)                           \
     FamilyNames{#shortName, prefix, stem, #controller},
 constexpr FamilyNames kNames[kFamilyCount] = {NRX_FOR_EACH_FAMILY(ORVANE_FAMILY_NAMES_)};
 #undef ORVANE_FAMILY_NAMES_

@@ -4,7 +4,12 @@
 #include <cstdint>
 
 // The three board families, their numbers and the names the program shows for them.
-enum class BoardFamily : int { RL = 0, RM = 1, RN = 2 };
+enum class BoardFamily : int
+{
+    RL = 0,
+    RM = 1,
+    RN = 2
+};
 
 using CardNo = std::uint16_t;
 using AxisNo = std::uint16_t;
@@ -16,7 +21,10 @@ constexpr int kMaxAxes = 8;
 constexpr std::array<BoardFamily, kFamilyCount> kAllFamilies{BoardFamily::RL, BoardFamily::RM,
                                                              BoardFamily::RN};
 
-constexpr int familyIndex(BoardFamily family) { return static_cast<int>(family); }
+constexpr int familyIndex(BoardFamily family)
+{
+    return static_cast<int>(family);
+}
 constexpr bool isKnownFamily(BoardFamily family)
 {
     return familyIndex(family) >= 0 && familyIndex(family) < kFamilyCount;

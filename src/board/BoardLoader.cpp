@@ -39,7 +39,7 @@ QStringList BoardLoader::resolveTable(BoardFamily family, const Resolver& resolv
     const QByteArray prefix(familyExportPrefix(family));
     table = NrxFunctionTable{};
 #define ORVANE_RESOLVE_(ret, name, params, args, families)                                         \
-    if ((families) & familyBit) {                                                                  \
+    if ((families)&familyBit) {                                                                    \
         const QByteArray exportName = prefix + #name;                                              \
         table.name = reinterpret_cast<nrx_##name##_fn>(resolve(exportName.constData()));           \
         if (table.name == nullptr)                                                                 \
@@ -81,10 +81,10 @@ void BoardLoader::loadFamily(BoardFamily family)
         return;
     }
     QLibrary& library = *slot.library;
-    const QStringList missing =
-        resolveTable(family, [&library](const char* name) {
-            return reinterpret_cast<void*>(library.resolve(name));
-        }, slot.table);
+    const QStringList missing = resolveTable(
+        family,
+        [&library](const char* name) { return reinterpret_cast<void*>(library.resolve(name)); },
+        slot.table);
     if (!missing.isEmpty()) {
         m_problems << QStringLiteral("Board library %1 lacks the export(s) %2")
                           .arg(fileName, missing.join(QStringLiteral(", ")));

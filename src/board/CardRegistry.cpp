@@ -6,11 +6,13 @@
 
 namespace {
 
-constexpr std::size_t idx(BoardFamily family) { return static_cast<std::size_t>(familyIndex(family)); }
+constexpr std::size_t idx(BoardFamily family)
+{
+    return static_cast<std::size_t>(familyIndex(family));
+}
 
 // Start values a user meets the first time an axis is chosen: a short, visible move.
-constexpr std::array<std::int32_t, kTestValueCount> kTestValueDefaults{1, 100, 1000, 0, 1000,
-                                                                       0, 0};
+constexpr std::array<std::int32_t, kTestValueCount> kTestValueDefaults{1, 100, 1000, 0, 1000, 0, 0};
 
 const FamilyCardTable kNoBoards{};
 
@@ -34,7 +36,8 @@ void CardRegistry::setLoadResult(BoardFamily family, std::int32_t loadResult)
         return;
     // A ninth card has no slot: the registry holds eight per family.
     const std::int64_t count = static_cast<std::int64_t>(loadResult) + 1;
-    m_tables[idx(family)].count = static_cast<std::int32_t>(std::min<std::int64_t>(count, kMaxCards));
+    m_tables[idx(family)].count =
+        static_cast<std::int32_t>(std::min<std::int64_t>(count, kMaxCards));
 }
 
 std::int32_t CardRegistry::count(BoardFamily family) const
@@ -61,17 +64,20 @@ void CardRegistry::setCardInfo(BoardFamily family, CardNo card, std::int32_t axi
 
 std::int32_t CardRegistry::axisCount(BoardFamily family, int card) const
 {
-    return validCard(family, card) ? m_tables[idx(family)].axisCount[static_cast<std::size_t>(card)] : 0;
+    return validCard(family, card) ? m_tables[idx(family)].axisCount[static_cast<std::size_t>(card)]
+                                   : 0;
 }
 
 std::int32_t CardRegistry::infoValue(BoardFamily family, int card) const
 {
-    return validCard(family, card) ? m_tables[idx(family)].infoValue[static_cast<std::size_t>(card)] : 0;
+    return validCard(family, card) ? m_tables[idx(family)].infoValue[static_cast<std::size_t>(card)]
+                                   : 0;
 }
 
 std::int32_t CardRegistry::ioCount(BoardFamily family, int card) const
 {
-    return validCard(family, card) ? m_tables[idx(family)].ioCount[static_cast<std::size_t>(card)] : 0;
+    return validCard(family, card) ? m_tables[idx(family)].ioCount[static_cast<std::size_t>(card)]
+                                   : 0;
 }
 
 std::string CardRegistry::modelName(BoardFamily family, int card) const

@@ -18,7 +18,8 @@ struct FamilyCardTable
 };
 
 // The seven values the motion pages remember per family, card and axis while the program runs.
-enum class TestValue {
+enum class TestValue
+{
     Count,
     DelayTime,
     Distance,
@@ -58,8 +59,7 @@ public:
     void setParametersChanged(BoardFamily family, int card, bool changed);
 
     std::int32_t testValue(BoardFamily family, int card, int axis, TestValue which) const;
-    void setTestValue(BoardFamily family, int card, int axis, TestValue which,
-                      std::int32_t value);
+    void setTestValue(BoardFamily family, int card, int axis, TestValue which, std::int32_t value);
 
     const FamilyCardTable& table(BoardFamily family) const;
 

@@ -28,22 +28,22 @@ typedef int32_t nrx_i32;
 
 /* Parameter pairs: SetX(card, axis, code) / GetX(card, axis). The list takes a
  * mapper M that is called as M(X, name, families). */
-#define NRX_FOR_EACH_PARAMETER_PAIR_(M, X) \
-    M(X, PulseMode, NRX_FAMILIES_ALL)      \
-    M(X, EncoderMode, NRX_FAMILIES_ALL)    \
-    M(X, EncoderDir, NRX_FAMILIES_ALL)     \
-    M(X, EncoderZ, NRX_FAMILIES_ALL)       \
-    M(X, SpeedMode, NRX_FAMILIES_ALL)      \
-    M(X, RangeMode, NRX_FAMILIES_ALL)      \
-    M(X, FixedRange, NRX_FAMILIES_ALL)     \
-    M(X, CompCountMode, NRX_FAMILIES_ALL)  \
-    M(X, Org, NRX_FAMILIES_ALL)            \
-    M(X, SvCClrTime, NRX_FAMILIES_ALL)     \
-    M(X, FilterTime, NRX_FAMILIES_ALL)     \
-    M(X, FilterSensor, NRX_FAMILIES_ALL)   \
-    M(X, FilterSvIF, NRX_FAMILIES_ALL)     \
-    M(X, FilterEncoderZ, NRX_FAMILIES_ALL) \
-    M(X, FilterExt, NRX_FAMILIES_ALL)      \
+#define NRX_FOR_EACH_PARAMETER_PAIR_(M, X)                                                         \
+    M(X, PulseMode, NRX_FAMILIES_ALL)                                                              \
+    M(X, EncoderMode, NRX_FAMILIES_ALL)                                                            \
+    M(X, EncoderDir, NRX_FAMILIES_ALL)                                                             \
+    M(X, EncoderZ, NRX_FAMILIES_ALL)                                                               \
+    M(X, SpeedMode, NRX_FAMILIES_ALL)                                                              \
+    M(X, RangeMode, NRX_FAMILIES_ALL)                                                              \
+    M(X, FixedRange, NRX_FAMILIES_ALL)                                                             \
+    M(X, CompCountMode, NRX_FAMILIES_ALL)                                                          \
+    M(X, Org, NRX_FAMILIES_ALL)                                                                    \
+    M(X, SvCClrTime, NRX_FAMILIES_ALL)                                                             \
+    M(X, FilterTime, NRX_FAMILIES_ALL)                                                             \
+    M(X, FilterSensor, NRX_FAMILIES_ALL)                                                           \
+    M(X, FilterSvIF, NRX_FAMILIES_ALL)                                                             \
+    M(X, FilterEncoderZ, NRX_FAMILIES_ALL)                                                         \
+    M(X, FilterExt, NRX_FAMILIES_ALL)                                                              \
     M(X, FilterStop, NRX_FAMILIES_RN)
 
 /* P(name, families) for each parameter pair. */
@@ -147,16 +147,17 @@ NRX_FOR_EACH_OPERATION(NRX_DECLARE_FN_TYPE_)
 #undef NRX_DECLARE_FN_TYPE_
 
 /* One family's resolved exports; a null entry is an operation the family lacks. */
-typedef struct NrxFunctionTable {
+typedef struct NrxFunctionTable
+{
 #define NRX_DECLARE_FN_FIELD_(ret, name, params, args, fam) nrx_##name##_fn name;
     NRX_FOR_EACH_OPERATION(NRX_DECLARE_FN_FIELD_)
 #undef NRX_DECLARE_FN_FIELD_
 } NrxFunctionTable;
 
 /* Export prefixes and library file stems, indexed by family (RL, RM, RN). */
-#define NRX_FOR_EACH_FAMILY(F)                      \
-    F(0, RL, "NRX520L_", "nrxMApiRlv_x64", RX520L) \
-    F(1, RM, "NRX540L_", "nrxMApiRmv_x64", RX540L) \
+#define NRX_FOR_EACH_FAMILY(F)                                                                     \
+    F(0, RL, "NRX520L_", "nrxMApiRlv_x64", RX520L)                                                 \
+    F(1, RM, "NRX540L_", "nrxMApiRmv_x64", RX540L)                                                 \
     F(2, RN, "NRX590L_", "nrxMApiRnv_x64", RX590L)
 
 #ifdef __cplusplus

@@ -38,7 +38,8 @@ private slots:
     {
         Rig rig(-1, -1, -1);
         QVERIFY(!rig.startup.loadDevices());
-        QCOMPARE(rig.prompt.messages(), QStringList{QStringLiteral("FAIL! LOAD DEVICE DRIVER ....")});
+        QCOMPARE(rig.prompt.messages(),
+                 QStringList{QStringLiteral("FAIL! LOAD DEVICE DRIVER ....")});
         rig.startup.unloadDevices();
         for (RecordingBoard* board : {&rig.rl, &rig.rm, &rig.rn})
             QCOMPARE(board->calls(), QStringList{QStringLiteral("LoadDevice()")});
@@ -112,8 +113,10 @@ private slots:
     {
         Rig rig(0, 0, 0);
         rig.api.setTable(BoardFamily::RM, nullptr);
-        QVERIFY(rig.startup.loadDevices({QStringLiteral("Board library libx.so not found in /opt")}));
-        QCOMPARE(rig.prompt.messages().first(), QStringLiteral("Board library libx.so not found in /opt"));
+        QVERIFY(
+            rig.startup.loadDevices({QStringLiteral("Board library libx.so not found in /opt")}));
+        QCOMPARE(rig.prompt.messages().first(),
+                 QStringLiteral("Board library libx.so not found in /opt"));
         QCOMPARE(rig.registry.count(BoardFamily::RM), 0);
         QCOMPARE(rig.rm.calls(), QStringList());
     }
@@ -130,7 +133,8 @@ private slots:
         QCOMPARE(rig.registry.modelName(BoardFamily::RL, 0), std::string("NRX-RL416V"));
 
         rig.rl.setResult("GetDllVersion", 20415);
-        QCOMPARE(rig.startup.libraryVersionText(BoardFamily::RL), std::string("Dll Ver. : 2.4.5.5"));
+        QCOMPARE(rig.startup.libraryVersionText(BoardFamily::RL),
+                 std::string("Dll Ver. : 2.4.5.5"));
         QVERIFY(rig.rl.calls().last().startsWith(QStringLiteral("GetDllVersion(\"")));
         QVERIFY(rig.rl.calls().last().contains(QStringLiteral("nrxMApiRlv_x64")));
     }

@@ -44,13 +44,19 @@ private slots:
 
     void firmware_noFirmwareValueDiffersByFamily()
     {
-        QCOMPARE(BoardTexts::firmwareText(BoardFamily::RL, 0x51), std::string("Firmware Ver. : 5.1"));
-        QCOMPARE(BoardTexts::firmwareText(BoardFamily::RM, 0x51), std::string("Firmware Ver. : 0.0"));
-        QCOMPARE(BoardTexts::firmwareText(BoardFamily::RM, 0x50), std::string("Firmware Ver. : 5.0"));
-        QCOMPARE(BoardTexts::firmwareText(BoardFamily::RN, 0x50), std::string("Firmware Ver. : 0.0"));
+        QCOMPARE(BoardTexts::firmwareText(BoardFamily::RL, 0x51),
+                 std::string("Firmware Ver. : 5.1"));
+        QCOMPARE(BoardTexts::firmwareText(BoardFamily::RM, 0x51),
+                 std::string("Firmware Ver. : 0.0"));
+        QCOMPARE(BoardTexts::firmwareText(BoardFamily::RM, 0x50),
+                 std::string("Firmware Ver. : 5.0"));
+        QCOMPARE(BoardTexts::firmwareText(BoardFamily::RN, 0x50),
+                 std::string("Firmware Ver. : 0.0"));
         QCOMPARE(BoardTexts::firmwareText(BoardFamily::RL, 0), std::string("Firmware Ver. : 0.0"));
-        QCOMPARE(BoardTexts::firmwareText(BoardFamily::RL, 0x1a3), std::string("Firmware Ver. : 1.3"));
-        QCOMPARE(BoardTexts::firmwareText(BoardFamily::RN, 0xb), std::string("Firmware Ver. : b.b"));
+        QCOMPARE(BoardTexts::firmwareText(BoardFamily::RL, 0x1a3),
+                 std::string("Firmware Ver. : 1.3"));
+        QCOMPARE(BoardTexts::firmwareText(BoardFamily::RN, 0xb),
+                 std::string("Firmware Ver. : b.b"));
     }
 
     void registry_countsFromLoadResults()

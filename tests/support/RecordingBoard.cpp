@@ -7,8 +7,7 @@ namespace {
 std::array<RecordingBoard*, kFamilyCount> g_instances{};
 
 // Fills a table whose entries forward to the recording board of family F.
-template <int F>
-void fillTable(NrxFunctionTable& table)
+template <int F> void fillTable(NrxFunctionTable& table)
 {
 #define ORVANE_RECORDING_ENTRY_(ret, name, params, args, families)                                 \
     table.name = [] params -> ret {                                                                \
@@ -36,7 +35,7 @@ RecordingBoard::RecordingBoard(BoardFamily family) : m_family(family)
     // The table mirrors a real library: a family lacks the operations it does not export.
     const int familyBit = 1 << familyIndex(family);
 #define ORVANE_DROP_FOREIGN_(ret, name, params, args, families)                                    \
-    if (!((families) & familyBit))                                                                 \
+    if (!((families)&familyBit))                                                                   \
         m_table.name = nullptr;
     NRX_FOR_EACH_OPERATION(ORVANE_DROP_FOREIGN_)
 #undef ORVANE_DROP_FOREIGN_
@@ -131,8 +130,8 @@ std::int32_t RecordingBoard::resultFor(const std::string& name,
     return general != m_results.end() ? general->second : 0;
 }
 
-const std::vector<std::int32_t>* RecordingBoard::outsFor(const std::string& name,
-                                                         const std::vector<std::int64_t>& ints) const
+const std::vector<std::int32_t>*
+RecordingBoard::outsFor(const std::string& name, const std::vector<std::int64_t>& ints) const
 {
     if (!ints.empty()) {
         auto specific = m_outsFor.find(Key{name, ints[0], ints.size() >= 2 ? ints[1] : 0});

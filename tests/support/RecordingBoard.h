@@ -50,15 +50,13 @@ public:
                          std::vector<std::int32_t> values);
 
     // Used by the generated table entries.
-    template <typename R>
-    struct Call;
+    template <typename R> struct Call;
     static RecordingBoard* instance(int family);
 
 private:
     using Key = std::tuple<std::string, std::int64_t, std::int64_t>;
 
-    template <typename T>
-    static void noteInteger(std::vector<std::int64_t>& ints, T value);
+    template <typename T> static void noteInteger(std::vector<std::int64_t>& ints, T value);
     template <typename T>
     QString formatArgument(T value, std::int64_t lastInteger, const std::vector<std::int32_t>* outs,
                            std::size_t& outIndex);
@@ -67,8 +65,7 @@ private:
     const std::vector<std::int32_t>* outsFor(const std::string& name,
                                              const std::vector<std::int64_t>& ints) const;
 
-    template <typename R, typename... T>
-    R record(const char* name, T... args);
+    template <typename R, typename... T> R record(const char* name, T... args);
 
     BoardFamily m_family;
     NrxFunctionTable m_table{};
@@ -80,20 +77,17 @@ private:
     std::map<std::string, std::vector<std::int32_t>> m_outs;
 };
 
-template <typename R>
-struct RecordingBoard::Call
+template <typename R> struct RecordingBoard::Call
 {
     RecordingBoard* board;
     const char* name;
-    template <typename... T>
-    R operator()(T... args) const
+    template <typename... T> R operator()(T... args) const
     {
         return board ? board->record<R>(name, args...) : R{};
     }
 };
 
-template <typename T>
-void RecordingBoard::noteInteger(std::vector<std::int64_t>& ints, T value)
+template <typename T> void RecordingBoard::noteInteger(std::vector<std::int64_t>& ints, T value)
 {
     if constexpr (std::is_integral_v<T>)
         ints.push_back(static_cast<std::int64_t>(value));
@@ -121,8 +115,7 @@ QString RecordingBoard::formatArgument(T value, std::int64_t lastInteger,
     }
 }
 
-template <typename R, typename... T>
-R RecordingBoard::record(const char* name, T... args)
+template <typename R, typename... T> R RecordingBoard::record(const char* name, T... args)
 {
     std::vector<std::int64_t> ints;
     (noteInteger(ints, args), ...);
