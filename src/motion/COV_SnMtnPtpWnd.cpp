@@ -1,0 +1,337 @@
+#include "COV_SnMtnPtpWnd.h"
+
+#include "AppState.h"
+#include "BoardApi.h"
+#include "FieldText.h"
+#include "IsNumericText.h"
+#include "PromptService.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace {
+const QString kParametersChanged =
+    QStringLiteral("Parameters are changed. Do you want to set parameter?");
+const QString kPps = QStringLiteral("[pps]");
+const QString kMsec = QStringLiteral("[msec]");
+const QString kPulse = QStringLiteral("[pulse]");
+} // namespace
+
+COV_SnMtnPtpWnd::COV_SnMtnPtpWnd(AppState& state, BoardApi& board, PromptService& prompt,
+                                 QWidget* parent)
+    : QWidget(parent), m_state(state), m_board(board), m_prompt(prompt)
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(createProfileGroup());
+    layout->addWidget(createRepeatGroup());
+    layout->addWidget(createPositionGroup());
+    layout->addWidget(createDisplayGroup());
+    layout->addStretch();
+    connectControls();
+
+    m_motionTypeCombo->setCurrentIndex(static_cast<int>(m_motionType));
+    clearTimeAndCount();
+    applyFieldStates();
+}
+
+QLineEdit* COV_SnMtnPtpWnd::addField(QGridLayout* grid, int row, const QString& label,
+                                     const QString& unit, const char* name, QLabel** labelOut)
+{
+    auto* caption = new QLabel(label);
+    auto* edit = new QLineEdit;
+    edit->setObjectName(QLatin1String(name));
+    caption->setBuddy(edit);
+    grid->addWidget(caption, row, 0);
+    grid->addWidget(edit, row, 1);
+    if (!unit.isEmpty())
+        grid->addWidget(new QLabel(unit), row, 2);
+    if (labelOut != nullptr)
+        *labelOut = caption;
+    return edit;
+}
+
+QWidget* COV_SnMtnPtpWnd::createProfileGroup()
+{
+    auto* group = new QGroupBox;
+    auto* grid = new QGridLayout(group);
+    m_motionTypeCombo = new QComboBox;
+    m_motionTypeCombo->setObjectName(QStringLiteral("motionType"));
+    m_motionTypeCombo->addItems({QStringLiteral("0 : Jog"), QStringLiteral("1 : Relative"),
+                                 QStringLiteral("2 : Absolute")});
+    grid->addWidget(new QLabel(QStringLiteral(" Motion Type")), 0, 0);
+    grid->addWidget(m_motionTypeCombo, 0, 1);
+    m_drive = addField(grid, 1, QStringLiteral(" Drive Speed"), kPps, "driveSpeed");
+    m_initial = addField(grid, 2, QStringLiteral(" Initial Speed"), kPps, "initialSpeed");
+    m_accel = addField(grid, 3, QStringLiteral(" Accel Time"), kMsec, "accelTime", &m_accelLabel);
+    m_decel = addField(grid, 4, QStringLiteral(" Decel Time"), kMsec, "decelTime");
+    return group;
+}
+
+QWidget* COV_SnMtnPtpWnd::createRepeatGroup()
+{
+    auto* group = new QGroupBox;
+    auto* grid = new QGridLayout(group);
+    m_repeat = new QCheckBox(QStringLiteral(" Repeat"));
+    m_repeat->setObjectName(QStringLiteral("repeat"));
+    m_infinite = new QCheckBox(QStringLiteral("Infinite"));
+    m_infinite->setObjectName(QStringLiteral("infinite"));
+    grid->addWidget(m_repeat, 0, 0);
+    grid->addWidget(m_infinite, 0, 1);
+    m_count = addField(grid, 1, QStringLiteral(" Count"), QString(), "count");
+    m_delay = addField(grid, 2, QStringLiteral(" Delay Time"), kMsec, "delayTime");
+    return group;
+}
+
+QWidget* COV_SnMtnPtpWnd::createPositionGroup()
+{
+    auto* group = new QGroupBox;
+    auto* grid = new QGridLayout(group);
+    m_position1 = addField(grid, 0, QStringLiteral(" Position 1"), kPulse, "position1");
+    m_position2 =
+        addField(grid, 1, QStringLiteral(" Position 2"), kPulse, "position2", &m_position2Label);
+    m_setCommand = addField(grid, 2, QStringLiteral(" Set Command"), kPulse, "setCommand");
+    m_commandButton = new QPushButton(QStringLiteral("Command"));
+    grid->addWidget(m_commandButton, 2, 3);
+    m_setActual = addField(grid, 3, QStringLiteral(" Set Actual"), kPulse, "setActual");
+    m_actualButton = new QPushButton(QStringLiteral("Actual"));
+    grid->addWidget(m_actualButton, 3, 3);
+    return group;
+}
+
+QWidget* COV_SnMtnPtpWnd::createDisplayGroup()
+{
+    auto* group = new QGroupBox;
+    auto* grid = new QGridLayout(group);
+    m_repeatCount = addField(grid, 0, QStringLiteral(" Repeat Count"), QString(), "repeatCount");
+    m_cycleTime = addField(grid, 1, QStringLiteral(" Cycle Time"), kMsec, "cycleTime");
+    m_repeatCount->setReadOnly(true);
+    m_cycleTime->setReadOnly(true);
+    return group;
+}
+
+void COV_SnMtnPtpWnd::connectControls()
+{
+    connect(m_motionTypeCombo, &QComboBox::activated, this,
+            [this](int index) { onMotionTypeActivated(index); });
+    connect(m_repeat, &QCheckBox::clicked, this, [this](bool ticked) { onRepeatClicked(ticked); });
+    connect(m_drive, &QLineEdit::textChanged, this,
+            [this](const QString& text) { onDriveSpeedChanged(text); });
+    connect(m_commandButton, &QPushButton::clicked, this, [this] { onCommandClicked(); });
+    connect(m_actualButton, &QPushButton::clicked, this, [this] { onActualClicked(); });
+}
+
+BoardFamily COV_SnMtnPtpWnd::family() const
+{
+    return m_state.active.family;
+}
+
+void COV_SnMtnPtpWnd::setCardAxis(CardNo card, AxisNo axis)
+{
+    m_card = card;
+    m_axis = axis;
+}
+
+void COV_SnMtnPtpWnd::applyFieldStates()
+{
+    const bool jog = m_motionType == MotionType::Jog;
+    const bool relative = m_motionType == MotionType::Relative;
+    m_position1->setEnabled(m_motionType == MotionType::Absolute);
+    m_position2->setEnabled(!jog);
+    m_position2Label->setText(relative ? QStringLiteral(" Distance")
+                                       : QStringLiteral(" Position 2"));
+    m_decel->setEnabled(!jog);
+    m_accelLabel->setText(jog ? QStringLiteral(" Acc/Dec Time") : QStringLiteral(" Accel Time"));
+    m_repeat->setEnabled(!jog);
+    m_repeat->setVisible(!jog);
+    if (jog)
+        m_repeat->setChecked(false);
+    m_infinite->setChecked(false);
+    m_infinite->setEnabled(relative);
+    m_infinite->setVisible(relative && m_repeat->isChecked());
+    m_count->setEnabled(!jog);
+    m_delay->setEnabled(!jog);
+}
+
+void COV_SnMtnPtpWnd::load()
+{
+    const CardRegistry& registry = m_state.registry;
+    const auto remembered = [&](TestValue which) {
+        return registry.testValue(family(), m_card, m_axis, which);
+    };
+    const PtpSpeeds speeds = m_motionType == MotionType::Jog
+                                 ? PtpSpeeds::readJog(m_board, family(), m_card, m_axis)
+                                 : PtpSpeeds::readPositioning(m_board, family(), m_card, m_axis);
+    setFieldNumber(m_drive, speeds.drive);
+    setFieldNumber(m_initial, speeds.initial);
+    setFieldNumber(m_accel, speeds.accelMs);
+    setFieldNumber(m_decel, speeds.decelMs);
+    setFieldNumber(m_setCommand, remembered(TestValue::SetCommand));
+    setFieldNumber(m_setActual, remembered(TestValue::SetActual));
+    setFieldNumber(m_count, remembered(TestValue::Count));
+    setFieldNumber(m_delay, remembered(TestValue::DelayTime));
+    if (m_motionType == MotionType::Relative) {
+        setFieldNumber(m_position2, remembered(TestValue::Distance));
+    } else if (m_motionType == MotionType::Absolute) {
+        setFieldNumber(m_position1, remembered(TestValue::Position1));
+        setFieldNumber(m_position2, remembered(TestValue::Position2));
+    }
+}
+
+PtpSpeeds COV_SnMtnPtpWnd::speedFields() const
+{
+    PtpSpeeds speeds;
+    speeds.drive = fieldNumber(m_drive);
+    speeds.initial = fieldNumber(m_initial);
+    speeds.accelMs = fieldNumber(m_accel);
+    speeds.decelMs = fieldNumber(m_decel);
+    return speeds;
+}
+
+bool COV_SnMtnPtpWnd::parametersChanged(BoardFamily boardFamily) const
+{
+    const PtpSpeeds fields = speedFields();
+    if (m_motionType == MotionType::Jog) {
+        const PtpSpeeds board = PtpSpeeds::readJog(m_board, boardFamily, m_card, m_axis);
+        return fields.initial != board.initial || fields.drive != board.drive ||
+               fields.accelMs != board.accelMs;
+    }
+    const PtpSpeeds board = PtpSpeeds::readPositioning(m_board, boardFamily, m_card, m_axis);
+    return fields.initial != board.initial || fields.drive != board.drive ||
+           fields.accelMs != board.accelMs || fields.decelMs != board.decelMs;
+}
+
+void COV_SnMtnPtpWnd::setParameters(BoardFamily boardFamily)
+{
+    const PtpSpeeds speeds = speedFields();
+    if (m_motionType == MotionType::Jog)
+        speeds.writeJog(m_board, boardFamily, m_card, m_axis);
+    else
+        speeds.writePositioning(m_board, boardFamily, m_card, m_axis);
+}
+
+RepeatFields COV_SnMtnPtpWnd::readFields()
+{
+    CardRegistry& registry = m_state.registry;
+    const auto remember = [&](TestValue which, std::int32_t value) {
+        registry.setTestValue(family(), m_card, m_axis, which, value);
+    };
+    remember(TestValue::Count, fieldNumber(m_count));
+    remember(TestValue::DelayTime, fieldNumber(m_delay));
+    if (m_motionType == MotionType::Relative) {
+        remember(TestValue::Distance, fieldNumber(m_position2));
+    } else if (m_motionType == MotionType::Absolute) {
+        remember(TestValue::Position1, fieldNumber(m_position1));
+        remember(TestValue::Position2, fieldNumber(m_position2));
+    }
+    RepeatFields fields;
+    fields.count = registry.testValue(family(), m_card, m_axis, TestValue::Count);
+    fields.delayMs = registry.testValue(family(), m_card, m_axis, TestValue::DelayTime);
+    fields.distance = registry.testValue(family(), m_card, m_axis, TestValue::Distance);
+    fields.position1 = registry.testValue(family(), m_card, m_axis, TestValue::Position1);
+    fields.position2 = registry.testValue(family(), m_card, m_axis, TestValue::Position2);
+    return fields;
+}
+
+bool COV_SnMtnPtpWnd::repeatTicked() const
+{
+    return m_repeat->isChecked();
+}
+
+bool COV_SnMtnPtpWnd::infiniteTicked() const
+{
+    return m_infinite->isChecked();
+}
+
+void COV_SnMtnPtpWnd::setRepeat(bool ticked)
+{
+    m_repeat->setChecked(ticked);
+}
+
+void COV_SnMtnPtpWnd::setInfinite(bool ticked)
+{
+    m_infinite->setChecked(ticked);
+}
+
+void COV_SnMtnPtpWnd::showTimeAndCount(int elapsedMs, int cycleCount)
+{
+    // Refreshed every 10 ms: touch the displays only when the figure changed.
+    const QString time = QString::number(elapsedMs);
+    const QString count = QString::number(cycleCount);
+    if (m_cycleTime->text() != time)
+        m_cycleTime->setText(time);
+    if (m_repeatCount->text() != count)
+        m_repeatCount->setText(count);
+}
+
+void COV_SnMtnPtpWnd::clearTimeAndCount()
+{
+    m_repeatCount->setText(QStringLiteral("0"));
+    m_cycleTime->setText(QStringLiteral("0"));
+}
+
+void COV_SnMtnPtpWnd::setSequenceLocked(bool locked)
+{
+    m_motionTypeCombo->setEnabled(!locked);
+    m_repeat->setEnabled(!locked);
+    m_infinite->setEnabled(!locked);
+}
+
+void COV_SnMtnPtpWnd::onMotionTypeActivated(int index)
+{
+    if (index < 0 || index > static_cast<int>(MotionType::Absolute))
+        return;
+    if (parametersChanged(family()) && m_prompt.askYesNo(kParametersChanged))
+        setParameters(family());
+    m_motionType = static_cast<MotionType>(index);
+    applyFieldStates();
+    emit motionTypeChanged();
+    load();
+}
+
+void COV_SnMtnPtpWnd::onRepeatClicked(bool ticked)
+{
+    if (!ticked) {
+        m_infinite->setChecked(false);
+        m_infinite->setEnabled(false);
+        m_infinite->setVisible(false);
+    } else if (m_motionType == MotionType::Relative) {
+        m_infinite->setChecked(false);
+        m_infinite->setEnabled(true);
+        m_infinite->setVisible(true);
+    }
+    emit repeatChanged();
+}
+
+void COV_SnMtnPtpWnd::onDriveSpeedChanged(const QString& text)
+{
+    if (m_restoringDrive)
+        return;
+    if (IsNumericText(text, false)) {
+        m_lastValidDrive = text;
+        return;
+    }
+    m_prompt.inform(QStringLiteral("Input value is incorrect!"));
+    m_restoringDrive = true;
+    m_drive->setText(m_lastValidDrive);
+    m_restoringDrive = false;
+}
+
+void COV_SnMtnPtpWnd::onCommandClicked()
+{
+    const std::int32_t value = fieldNumber(m_setCommand);
+    m_board.SetCommandPos(family(), m_card, m_axis, value);
+    m_state.registry.setTestValue(family(), m_card, m_axis, TestValue::SetCommand, value);
+}
+
+void COV_SnMtnPtpWnd::onActualClicked()
+{
+    const std::int32_t value = fieldNumber(m_setActual);
+    m_board.SetActualPos(family(), m_card, m_axis, value);
+    m_state.registry.setTestValue(family(), m_card, m_axis, TestValue::SetActual, value);
+}

@@ -1,0 +1,98 @@
+#pragma once
+
+#include "BoardFamily.h"
+#include "MotionTypes.h"
+#include "PtpSpeeds.h"
+
+#include <QWidget>
+
+struct AppState;
+class BoardApi;
+class PromptService;
+class QCheckBox;
+class QComboBox;
+class QGridLayout;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+
+// The "Point To Point" page of the single-axis window: the speed profile, repeat settings and
+// positions of a move, and the cycle time and count while the host sequences it.
+class COV_SnMtnPtpWnd : public QWidget
+{
+    Q_OBJECT
+
+public:
+    COV_SnMtnPtpWnd(AppState& state, BoardApi& board, PromptService& prompt,
+                    QWidget* parent = nullptr);
+
+    void setCardAxis(CardNo card, AxisNo axis);
+    // Fills every field for the card and axis: remembered values and the board's profile.
+    void load();
+    bool parametersChanged(BoardFamily family) const;
+    void setParameters(BoardFamily family);
+
+    MotionType motionType() const { return m_motionType; }
+    bool repeatTicked() const;
+    bool infiniteTicked() const;
+    void setRepeat(bool ticked);
+    void setInfinite(bool ticked);
+
+    PtpSpeeds speedFields() const;
+    // Reads Count, Delay Time and the targets of the motion type into the remembered values.
+    RepeatFields readFields();
+
+    void showTimeAndCount(int elapsedMs, int cycleCount);
+    void clearTimeAndCount();
+    void setSequenceLocked(bool locked);
+
+signals:
+    void motionTypeChanged();
+    void repeatChanged();
+
+private:
+    QLineEdit* addField(QGridLayout* grid, int row, const QString& label, const QString& unit,
+                        const char* name, QLabel** labelOut = nullptr);
+    QWidget* createProfileGroup();
+    QWidget* createRepeatGroup();
+    QWidget* createPositionGroup();
+    QWidget* createDisplayGroup();
+    void connectControls();
+
+    BoardFamily family() const;
+    void applyFieldStates();
+    void onMotionTypeActivated(int index);
+    void onRepeatClicked(bool ticked);
+    void onDriveSpeedChanged(const QString& text);
+    void onCommandClicked();
+    void onActualClicked();
+
+    AppState& m_state;
+    BoardApi& m_board;
+    PromptService& m_prompt;
+    CardNo m_card = 0;
+    AxisNo m_axis = 0;
+    MotionType m_motionType = MotionType::Jog;
+    QString m_lastValidDrive;
+    bool m_restoringDrive = false;
+
+    QComboBox* m_motionTypeCombo = nullptr;
+    QLineEdit* m_drive = nullptr;
+    QLineEdit* m_initial = nullptr;
+    QLineEdit* m_accel = nullptr;
+    QLabel* m_accelLabel = nullptr;
+    QLineEdit* m_decel = nullptr;
+    QCheckBox* m_repeat = nullptr;
+    QCheckBox* m_infinite = nullptr;
+    QLineEdit* m_count = nullptr;
+    QLineEdit* m_delay = nullptr;
+    QLineEdit* m_position1 = nullptr;
+    QLineEdit* m_position2 = nullptr;
+    QLabel* m_position2Label = nullptr;
+    QLineEdit* m_setCommand = nullptr;
+    QPushButton* m_commandButton = nullptr;
+    QLineEdit* m_setActual = nullptr;
+    QPushButton* m_actualButton = nullptr;
+    QLineEdit* m_repeatCount = nullptr;
+    QLineEdit* m_cycleTime = nullptr;
+};

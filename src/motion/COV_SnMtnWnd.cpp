@@ -1,0 +1,456 @@
+#include "COV_SnMtnWnd.h"
+
+#include "AppState.h"
+#include "BoardApi.h"
+#include "COV_SnMtnHomeWnd.h"
+#include "COV_SnMtnPtpWnd.h"
+#include "FrameRelay.h"
+#include "JogReleaseGuard.h"
+#include "PromptService.h"
+#include "QtClockwork.h"
+
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QTabBar>
+#include <QVBoxLayout>
+
+namespace {
+const QString kParametersChanged =
+    QStringLiteral("Parameters are changed. Do you want to set parameter?");
+
+QPushButton* makeButton(const QString& caption, const char* name)
+{
+    auto* button = new QPushButton(caption);
+    button->setObjectName(QLatin1String(name));
+    button->setAutoDefault(false);
+    return button;
+}
+} // namespace
+
+COV_SnMtnWnd::COV_SnMtnWnd(const ToolContext& context, QWidget* parent)
+    : COV_SnMtnWnd(context, std::make_unique<QtClockwork>(), nullptr, parent)
+{}
+
+COV_SnMtnWnd::COV_SnMtnWnd(const ToolContext& context, SequencerClockwork& clockwork,
+                           QWidget* parent)
+    : COV_SnMtnWnd(context, nullptr, &clockwork, parent)
+{}
+
+COV_SnMtnWnd::COV_SnMtnWnd(const ToolContext& context, std::unique_ptr<QtClockwork> ownClockwork,
+                           SequencerClockwork* clockwork, QWidget* parent)
+    : ToolView(parent), m_context(context), m_ownClockwork(std::move(ownClockwork)),
+      m_sequencer(context.state.active, context.board, context.prompt,
+                  clockwork != nullptr ? *clockwork : *m_ownClockwork, *this)
+{
+    auto* layout = new QHBoxLayout(this);
+    auto* left = new QVBoxLayout;
+    left->addWidget(createSelectorRow());
+    left->addWidget(createPageArea(), 1);
+    layout->addLayout(left, 1);
+    layout->addWidget(createButtonColumn());
+    connectControls();
+
+    fillCardCombo();
+    layoutMotionButtons();
+    m_axis = static_cast<AxisNo>(m_context.state.active.axis);
+    reload();
+}
+
+COV_SnMtnWnd::~COV_SnMtnWnd()
+{
+    m_sequencer.endHeldJog();
+    m_context.state.active.axis = 0;
+    m_context.state.active.setAxesMoving(MovingOwner::SingleAxis, false);
+}
+
+QWidget* COV_SnMtnWnd::createSelectorRow()
+{
+    auto* row = new QWidget;
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    m_cardCombo = new QComboBox;
+    m_cardCombo->setObjectName(QStringLiteral("cardCombo"));
+    m_axisCombo = new QComboBox;
+    m_axisCombo->setObjectName(QStringLiteral("axisCombo"));
+    layout->addWidget(new QLabel(QStringLiteral("Card No. : ")));
+    layout->addWidget(m_cardCombo);
+    layout->addSpacing(16);
+    layout->addWidget(new QLabel(QStringLiteral("Axis No. : ")));
+    layout->addWidget(m_axisCombo);
+    layout->addStretch();
+    return row;
+}
+
+QWidget* COV_SnMtnWnd::createPageArea()
+{
+    auto* area = new QWidget;
+    auto* layout = new QVBoxLayout(area);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    m_tabBar = new QTabBar;
+    m_tabBar->setObjectName(QStringLiteral("tabBar"));
+    m_tabBar->addTab(QStringLiteral("Home"));
+    m_tabBar->addTab(QStringLiteral("Point To Point"));
+    m_pages = new QStackedWidget;
+    m_pages->setFrameShape(QFrame::StyledPanel);
+    m_homePage = new COV_SnMtnHomeWnd(m_context.state, m_context.board);
+    m_ptpPage = new COV_SnMtnPtpWnd(m_context.state, m_context.board, m_context.prompt);
+    m_pages->addWidget(m_homePage);
+    m_pages->addWidget(m_ptpPage);
+    m_pages->setCurrentWidget(m_homePage);
+    layout->addWidget(m_tabBar);
+    layout->addWidget(m_pages, 1);
+    return area;
+}
+
+QWidget* COV_SnMtnWnd::createMotionButtons()
+{
+    auto* row = new QWidget;
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    m_minus = makeButton(QStringLiteral("-"), "minusButton");
+    m_plus = makeButton(QStringLiteral("+"), "plusButton");
+    m_minus->setMinimumHeight(48);
+    m_plus->setMinimumHeight(48);
+    // Equal stretch keeps "-" the size of "+"; alone, "-" takes the whole row.
+    layout->addWidget(m_minus, 1);
+    layout->addWidget(m_plus, 1);
+    return row;
+}
+
+QWidget* COV_SnMtnWnd::createButtonColumn()
+{
+    auto* column = new QWidget;
+    auto* layout = new QVBoxLayout(column);
+    layout->setContentsMargins(0, 0, 0, 0);
+    m_eStop = makeButton(QStringLiteral("E-Stop"), "eStopButton");
+    m_sStop = makeButton(QStringLiteral("S-Stop"), "sStopButton");
+    m_servo = makeButton(QStringLiteral("Servo On"), "servoButton");
+    m_alarmReset = makeButton(QStringLiteral("Alarm Reset"), "alarmResetButton");
+    m_counterClear = makeButton(QStringLiteral("Counter Clear"), "counterClearButton");
+    m_setPrm = makeButton(QStringLiteral("Set Prm"), "setPrmButton");
+    m_parameterSetup = makeButton(QStringLiteral("Parameter Setup"), "parameterSetupButton");
+    m_close = makeButton(QStringLiteral("Close"), "closeButton");
+    m_eStop->setMinimumHeight(40);
+    m_sStop->setMinimumHeight(40);
+    for (QPushButton* button : {m_eStop, m_sStop, m_servo})
+        layout->addWidget(button);
+    layout->addSpacing(12);
+    layout->addWidget(createMotionButtons());
+    layout->addSpacing(12);
+    for (QPushButton* button : {m_alarmReset, m_counterClear, m_setPrm, m_parameterSetup})
+        layout->addWidget(button);
+    layout->addStretch();
+    layout->addWidget(m_close);
+    return column;
+}
+
+void COV_SnMtnWnd::connectControls()
+{
+    for (QPushButton* button : {m_minus, m_plus, m_alarmReset})
+        button->installEventFilter(this);
+    m_jogGuard = new JogReleaseGuard(this, [this] { m_sequencer.endHeldJog(); });
+    m_jogGuard->watchButton(m_minus);
+    m_jogGuard->watchButton(m_plus);
+
+    connect(m_tabBar, &QTabBar::currentChanged, this, [this](int index) { onTabChanged(index); });
+    connect(m_cardCombo, &QComboBox::activated, this,
+            [this](int index) { onCardActivated(index); });
+    connect(m_axisCombo, &QComboBox::activated, this,
+            [this](int index) { onAxisActivated(index); });
+    connect(m_eStop, &QPushButton::clicked, this, [this] { m_sequencer.suddenStop(); });
+    connect(m_sStop, &QPushButton::clicked, this, [this] { m_sequencer.decelStop(); });
+    connect(m_servo, &QPushButton::clicked, this, [this] { onServoClicked(); });
+    connect(m_counterClear, &QPushButton::clicked, this, [this] {
+        m_context.board.PutSvCClrCmd(m_context.state.active.family, m_card, m_axis);
+    });
+    connect(m_setPrm, &QPushButton::clicked, this, [this] { onSetPrmClicked(); });
+    connect(m_parameterSetup, &QPushButton::clicked, this,
+            [this] { m_context.frame.sendToFrame(UM_OPEN_TOOL, ToolParameter); });
+    connect(m_close, &QPushButton::clicked, this, [this] { requestClose(); });
+    connect(m_ptpPage, &COV_SnMtnPtpWnd::motionTypeChanged, this,
+            [this] { layoutMotionButtons(); });
+    connect(m_ptpPage, &COV_SnMtnPtpWnd::repeatChanged, this, [this] { layoutMotionButtons(); });
+}
+
+void COV_SnMtnWnd::fillCardCombo()
+{
+    const AppState& state = m_context.state;
+    const int cards = state.activeCardCount();
+    m_cardCombo->clear();
+    for (int card = 0; card < cards; ++card)
+        m_cardCombo->addItem(QString::number(card));
+    m_card = static_cast<CardNo>(state.active.card);
+    m_cardCombo->setCurrentIndex(state.active.card);
+    m_cardCombo->setEnabled(cards != 1);
+}
+
+void COV_SnMtnWnd::reload()
+{
+    AppState& state = m_context.state;
+    setWindowTitle(
+        QStringLiteral("Single Axis Motion - %1(%2)").arg(state.modelName(m_card)).arg(m_card));
+    const int axes = state.registry.axisCount(state.active.family, m_card);
+    m_axisCombo->clear();
+    for (int axis = 0; axis < axes; ++axis)
+        m_axisCombo->addItem(QString::number(axis));
+    if (m_axis > axes - 1) {
+        m_axis = 0;
+        state.active.axis = 0;
+    }
+    m_axisCombo->setCurrentIndex(m_axis);
+    updateServoCaption();
+    loadPages();
+}
+
+void COV_SnMtnWnd::loadPages()
+{
+    m_sequencer.setCardAxis(m_card, m_axis);
+    m_homePage->setCardAxis(m_card, m_axis);
+    m_homePage->load();
+    m_ptpPage->setCardAxis(m_card, m_axis);
+    m_ptpPage->load();
+}
+
+void COV_SnMtnWnd::updateServoCaption()
+{
+    m_servoOn = m_context.board.GetSvOn(m_context.state.active.family, m_card, m_axis) != 0;
+    m_servo->setText(m_servoOn ? QStringLiteral("Servo Off") : QStringLiteral("Servo On"));
+}
+
+void COV_SnMtnWnd::layoutMotionButtons()
+{
+    const bool pointToPoint = m_currentTab == MotionTab::PointToPoint;
+    const MotionType type = m_ptpPage->motionType();
+    const bool autoMove = type == MotionType::Absolute && m_ptpPage->repeatTicked();
+    if (pointToPoint && !autoMove) {
+        switch (type) {
+        case MotionType::Jog:
+            m_minus->setText(QStringLiteral("-Jog"));
+            m_plus->setText(QStringLiteral("+Jog"));
+            break;
+        case MotionType::Relative:
+            m_minus->setText(QStringLiteral("Dec."));
+            m_plus->setText(QStringLiteral("Inc"));
+            break;
+        case MotionType::Absolute:
+            m_minus->setText(QStringLiteral("Pos. 1"));
+            m_plus->setText(QStringLiteral("Pos. 2"));
+            break;
+        }
+        m_plus->show();
+        return;
+    }
+    m_plus->hide();
+    m_minus->setText(pointToPoint ? QStringLiteral("Auto Move") : QStringLiteral("Home"));
+}
+
+void COV_SnMtnWnd::promptForVisiblePage(BoardFamily family)
+{
+    const bool home = m_currentTab == MotionTab::Home;
+    const bool changed =
+        home ? m_homePage->parametersChanged(family) : m_ptpPage->parametersChanged(family);
+    if (!changed || !m_context.prompt.askYesNo(kParametersChanged))
+        return;
+    if (home)
+        m_homePage->setParameters(family);
+    else
+        m_ptpPage->setParameters(family);
+    m_context.frame.sendToFrame(UM_PARAM_CHANGED, m_card);
+}
+
+void COV_SnMtnWnd::onTabChanged(int index)
+{
+    const auto tab = static_cast<MotionTab>(index);
+    if (tab == m_currentTab || index < 0)
+        return;
+    m_ptpPage->setRepeat(false);
+    m_ptpPage->setInfinite(false);
+    promptForVisiblePage(m_context.state.active.family);
+    m_currentTab = tab;
+    layoutMotionButtons();
+    if (tab == MotionTab::Home) {
+        m_pages->setCurrentWidget(m_homePage);
+        m_homePage->load();
+    } else {
+        m_pages->setCurrentWidget(m_ptpPage);
+        m_ptpPage->load();
+    }
+}
+
+void COV_SnMtnWnd::onCardActivated(int index)
+{
+    promptForVisiblePage(m_context.state.active.family);
+    m_card = static_cast<CardNo>(index);
+    reload();
+    m_context.frame.sendToFrame(UM_CARD_CHANGED, m_card);
+}
+
+void COV_SnMtnWnd::onAxisActivated(int index)
+{
+    promptForVisiblePage(m_context.state.active.family);
+    m_axis = static_cast<AxisNo>(index);
+    m_context.state.active.axis = index;
+    updateServoCaption();
+    loadPages();
+    m_context.frame.sendToFrame(UM_AXIS_CHANGED, m_axis);
+}
+
+void COV_SnMtnWnd::onControllerChanged()
+{
+    const ActiveController& active = m_context.state.active;
+    // The fields still belong to the family that was active before the change.
+    promptForVisiblePage(active.previousFamily != active.family ? active.previousFamily
+                                                                : active.family);
+    fillCardCombo();
+    reload();
+}
+
+void COV_SnMtnWnd::onServoClicked()
+{
+    const BoardFamily family = m_context.state.active.family;
+    const bool on = m_context.board.GetSvOn(family, m_card, m_axis) == 0;
+    m_context.board.PutSvOn(family, m_card, m_axis, on ? 1 : 0);
+    m_servoOn = on;
+    m_servo->setText(on ? QStringLiteral("Servo Off") : QStringLiteral("Servo On"));
+}
+
+void COV_SnMtnWnd::onSetPrmClicked()
+{
+    const BoardFamily family = m_context.state.active.family;
+    if (m_currentTab == MotionTab::Home)
+        m_homePage->setParameters(family);
+    else
+        m_ptpPage->setParameters(family);
+    m_context.frame.sendToFrame(UM_PARAM_CHANGED, m_card);
+}
+
+void COV_SnMtnWnd::handleUserMessage(UserMessage message, int wParam)
+{
+    switch (message) {
+    case UM_CONTROLLER_CHANGED:
+        onControllerChanged();
+        break;
+    case UM_MOTION_TYPE_CHANGED:
+    case UM_REPEAT_CHANGED:
+        layoutMotionButtons();
+        break;
+    case UM_VIEW_COMMAND:
+        if (wParam == ToolSingleAxis)
+            reload();
+        break;
+    default:
+        break;
+    }
+}
+
+bool COV_SnMtnWnd::closePrompted()
+{
+    m_sequencer.endHeldJog();
+    if (m_closeConfirmed)
+        return false;
+    promptForVisiblePage(m_context.state.active.family);
+    m_closeConfirmed = true;
+    return true;
+}
+
+void COV_SnMtnWnd::requestClose()
+{
+    closePrompted();
+    emit closeRequested();
+}
+
+void COV_SnMtnWnd::closeEvent(QCloseEvent* event)
+{
+    // The frame may close the child directly; the prompt is still asked once.
+    closePrompted();
+    event->accept();
+}
+
+void COV_SnMtnWnd::hideEvent(QHideEvent* event)
+{
+    m_sequencer.endHeldJog();
+    ToolView::hideEvent(event);
+}
+
+void COV_SnMtnWnd::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::ActivationChange && !isActiveWindow())
+        m_sequencer.endHeldJog();
+    ToolView::changeEvent(event);
+}
+
+bool COV_SnMtnWnd::eventFilter(QObject* watched, QEvent* event)
+{
+    const auto type = event->type();
+    if (type != QEvent::MouseButtonPress && type != QEvent::MouseButtonRelease)
+        return ToolView::eventFilter(watched, event);
+    if (static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton)
+        return false;
+    const bool down = type == QEvent::MouseButtonPress;
+    if (watched == m_alarmReset) {
+        // The alarm-reset output is held for as long as the button is.
+        m_context.board.PutSvAlmRst(m_context.state.active.family, m_card, m_axis, down ? 1 : 0);
+    } else if (watched == m_minus || watched == m_plus) {
+        if (down)
+            m_sequencer.press(watched == m_minus ? DirectionMinus : DirectionPlus);
+        else
+            m_sequencer.release();
+    }
+    // The buttons still get the event, so they look pressed.
+    return false;
+}
+
+MotionType COV_SnMtnWnd::motionType() const
+{
+    return m_ptpPage->motionType();
+}
+
+bool COV_SnMtnWnd::repeatTicked() const
+{
+    return m_ptpPage->repeatTicked();
+}
+
+bool COV_SnMtnWnd::infiniteTicked() const
+{
+    return m_ptpPage->infiniteTicked();
+}
+
+PtpSpeeds COV_SnMtnWnd::speedFields() const
+{
+    return m_ptpPage->speedFields();
+}
+
+RepeatFields COV_SnMtnWnd::takeRepeatFields()
+{
+    return m_ptpPage->readFields();
+}
+
+HomeSettings COV_SnMtnWnd::homeFields() const
+{
+    return m_homePage->fields();
+}
+
+void COV_SnMtnWnd::showCycle(int elapsedMs, int cycleCount)
+{
+    m_ptpPage->showTimeAndCount(elapsedMs, cycleCount);
+}
+
+void COV_SnMtnWnd::clearCycleDisplay()
+{
+    m_ptpPage->clearTimeAndCount();
+}
+
+void COV_SnMtnWnd::setSequenceLocked(bool locked)
+{
+    m_cardCombo->setEnabled(!locked && m_cardCombo->count() > 1);
+    m_axisCombo->setEnabled(!locked);
+    m_tabBar->setEnabled(!locked);
+    m_ptpPage->setSequenceLocked(locked);
+}
