@@ -1,0 +1,448 @@
+#include "COV_MainFrame.h"
+
+#include "AppState.h"
+#include "BoardApi.h"
+#include "COV_AboutDlg.h"
+#include "COV_LogLevDlg.h"
+#include "COV_StBaseWnd.h"
+#include "COV_SysCfgDlg.h"
+#include "COV_UtMtnStWnd.h"
+#include "COV_WsSysWnd.h"
+#include "OrvaneSettings.h"
+#include "PromptService.h"
+#include "ToolView.h"
+#include "ToolWindowHost.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QDir>
+#include <QDockWidget>
+#include <QFile>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QSettings>
+#include <QStatusBar>
+#include <QToolBar>
+
+namespace {
+const QString kLayoutOrganisation = QStringLiteral("Local AppWizard-Generated Applications");
+const QString kLayoutKey = QStringLiteral("CommandBars");
+const QString kMovingRefusal =
+    QStringLiteral("Axes are moving !\nCan not change active controller !");
+} // namespace
+
+COV_MainFrame::COV_MainFrame(AppState& state, BoardApi& board, PromptService& prompt,
+                             const ToolWindowFactory& factory, QWidget* parent)
+    : QMainWindow(parent), m_state(state), m_board(board), m_prompt(prompt), m_factory(factory),
+      m_startup(board, state.registry, prompt), m_context{state, board, prompt, *this}
+{
+    setWindowTitle(QStringLiteral("Orvane"));
+    m_monitorTimer.setObjectName(QStringLiteral("MonitorTick"));
+    m_monitorTimer.setInterval(kMonitorIntervalMs);
+    connect(&m_monitorTimer, &QTimer::timeout, this, [this] { MonitorTick(); });
+}
+
+COV_MainFrame::~COV_MainFrame()
+{
+    m_monitorTimer.stop();
+    // Tool windows may still talk to the boards while they go; unload after them.
+    if (m_tools)
+        m_tools->destroyAll();
+    m_startup.unloadDevices();
+}
+
+bool COV_MainFrame::create(const QStringList& libraryProblems)
+{
+    m_mdiArea = new QMdiArea(this);
+    setCentralWidget(m_mdiArea);
+    m_tools = new ToolWindowHost(*m_mdiArea, m_factory, m_context, this);
+    createStatusBar();
+    createMenus();
+    createToolBar();
+    readSettings();
+    createDocks();
+    applySkin();
+
+    if (!m_startup.loadDevices(libraryProblems))
+        return false;
+    m_tree->handleUserMessage(UM_TREE_BUILD);
+    // The pages draw their captions for the family the tree has just made active.
+    m_statusView->handleUserMessage(UM_CONTROLLER_CHANGED, 0);
+    updatePaneTitles();
+    fillCombos();
+    restoreLayout();
+    m_monitorTimer.start();
+    return true;
+}
+
+void COV_MainFrame::createStatusBar()
+{
+    statusBar()->showMessage(QStringLiteral("Ready"));
+}
+
+void COV_MainFrame::createMenus()
+{
+    QMenuBar* bar = menuBar();
+    bar->setObjectName(QStringLiteral("Menu Bar"));
+    bar->addMenu(createSystemMenu());
+    bar->addMenu(createToolMenu(QStringLiteral("IO Monitoring"),
+                                {{"System IO", ToolSystemIo}, {"Digital IO", ToolDigitalIo}}));
+    QMenu* setup = createToolMenu(QStringLiteral("Setup"), {{"Parameter", ToolParameter}});
+    setup->addAction(QStringLiteral("Actual Speed Calculator"), this,
+                     [this] { runCommand(FrameCommand::ActualSpeedCalculator); });
+    bar->addMenu(setup);
+    bar->addMenu(createToolMenu(QStringLiteral("Motion"),
+                                {{"Single Axis", ToolSingleAxis}, {"Multi Axis", ToolMultiAxis}}));
+    bar->addMenu(createStatusMenu());
+    bar->addMenu(createWindowMenu());
+    bar->addMenu(createHelpMenu());
+}
+
+QMenu* COV_MainFrame::createSystemMenu()
+{
+    auto* menu = new QMenu(QStringLiteral("System"), this);
+    menu->addAction(QStringLiteral("Save Parameter"), this,
+                    [this] { runCommand(FrameCommand::SaveParameter); });
+    menu->addAction(QStringLiteral("System Reset"), this,
+                    [this] { runCommand(FrameCommand::SystemReset); });
+    menu->addSeparator();
+    menu->addAction(QStringLiteral("Environment Setup"), this, [this] { environmentSetup(); });
+    menu->addAction(QStringLiteral("Log Level"), this, [this] { logLevelSetup(); });
+    menu->addSeparator();
+    menu->addAction(QStringLiteral("E&xit"), this, [this] { close(); });
+    return menu;
+}
+
+QMenu* COV_MainFrame::createToolMenu(const QString& title,
+                                     std::initializer_list<std::pair<const char*, ToolKind>> tools)
+{
+    auto* menu = new QMenu(title, this);
+    for (const auto& [text, kind] : tools) {
+        const ToolKind chosen = kind;
+        menu->addAction(QString::fromLatin1(text), this, [this, chosen] { openTool(chosen); });
+    }
+    return menu;
+}
+
+QMenu* COV_MainFrame::createStatusMenu()
+{
+    QMenu* menu =
+        createToolMenu(QStringLiteral("Status"), {{"Axis Status", ToolAxisStatus},
+                                                  {"System Diagnosis", ToolSystemDiagnosis}});
+    menu->addSeparator();
+    menu->addAction(QStringLiteral("Card"), this,
+                    [this] { m_statusView->showPage(COV_StBaseWnd::CardPage); });
+    // "Main", "Error" and "Input" are the axis status monitor's words; the docked view has
+    // no page for them.
+    menu->addAction(QStringLiteral("Main"));
+    menu->addAction(QStringLiteral("Drv"), this,
+                    [this] { m_statusView->showPage(COV_StBaseWnd::DrivePage); });
+    menu->addAction(QStringLiteral("Error"));
+    menu->addAction(QStringLiteral("Input"));
+    return menu;
+}
+
+QMenu* COV_MainFrame::createWindowMenu()
+{
+    auto* menu = new QMenu(QStringLiteral("&Window"), this);
+    menu->addAction(QStringLiteral("&Cascade"), this, [this] { m_mdiArea->cascadeSubWindows(); });
+    menu->addAction(QStringLiteral("&Tile"), this, [this] { m_mdiArea->tileSubWindows(); });
+    menu->addAction(QStringLiteral("&Arrange Icons"), this, [this] {
+        int x = 0;
+        for (QMdiSubWindow* window : m_mdiArea->subWindowList()) {
+            if (!window->isMinimized())
+                continue;
+            window->move(x, m_mdiArea->viewport()->height() - window->height());
+            x += window->width();
+        }
+    });
+    menu->addAction(QStringLiteral("Close All"), this, [this] { closeAllTools(); });
+    QMenu* list = menu->addMenu(QStringLiteral("Window List"));
+    connect(list, &QMenu::aboutToShow, this, [this, list] {
+        list->clear();
+        for (QMdiSubWindow* window : m_mdiArea->subWindowList()) {
+            QAction* entry = list->addAction(window->windowTitle(), this, [this, window] {
+                m_mdiArea->setActiveSubWindow(window);
+            });
+            entry->setCheckable(true);
+            entry->setChecked(window == m_mdiArea->activeSubWindow());
+        }
+    });
+    return menu;
+}
+
+QMenu* COV_MainFrame::createHelpMenu()
+{
+    auto* menu = new QMenu(QStringLiteral("&Help"), this);
+    menu->addAction(QStringLiteral("&About Orvane..."), this, [this] {
+        COV_AboutDlg about(this);
+        about.exec();
+    });
+    return menu;
+}
+
+void COV_MainFrame::createToolBar()
+{
+    QToolBar* bar = addToolBar(QStringLiteral("Main"));
+    bar->setObjectName(QStringLiteral("Main"));
+    m_familyCombo = new QComboBox(bar);
+    m_familyCombo->setObjectName(QStringLiteral("FamilyCombo"));
+    m_familyCombo->setMinimumContentsLength(10);
+    m_familyCombo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_cardCombo = new QComboBox(bar);
+    m_cardCombo->setObjectName(QStringLiteral("CardCombo"));
+    m_cardCombo->setMinimumContentsLength(3);
+    m_cardCombo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    bar->addWidget(m_familyCombo);
+    bar->addWidget(m_cardCombo);
+    // Only the user's choices count; the frame's own refills must not echo back.
+    connect(m_familyCombo, &QComboBox::activated, this, [this](int index) { chooseFamily(index); });
+    connect(m_cardCombo, &QComboBox::activated, this, [this](int index) { chooseCard(index); });
+}
+
+QDockWidget* COV_MainFrame::createDock(const QString& objectName, const QString& title,
+                                       QWidget* content, Qt::DockWidgetArea area)
+{
+    auto* dock = new QDockWidget(title, this);
+    dock->setObjectName(objectName);
+    dock->setFeatures(QDockWidget::NoDockWidgetFeatures);
+    dock->setAllowedAreas(area);
+    content->setParent(dock);
+    dock->setWidget(content);
+    addDockWidget(area, dock);
+    return dock;
+}
+
+void COV_MainFrame::createDocks()
+{
+    m_tree = new COV_WsSysWnd(m_state, m_startup, *this, this);
+    connect(m_tree, &COV_WsSysWnd::setActiveControllerRequested, this,
+            [this] { setActiveControllerFromTree(); });
+    m_treeDock = createDock(QStringLiteral("WorkspacePane"), QStringLiteral("Workspace"), m_tree,
+                            Qt::LeftDockWidgetArea);
+    m_tree->setMinimumSize(200, 120);
+
+    m_statusView = new COV_StBaseWnd(m_state, m_board, this);
+    m_statusView->setFixedWidth(kStatusPaneWidth);
+    m_statusDock = createDock(QStringLiteral("AxisStatusPane"), QString(), m_statusView,
+                              Qt::RightDockWidgetArea);
+
+    m_motionPane = new COV_UtMtnStWnd(m_state, m_board, *this, this);
+    m_motionPane->setFixedHeight(kMotionPaneHeight);
+    m_motionDock = createDock(QStringLiteral("MotionStatusPane"), QString(), m_motionPane,
+                              Qt::BottomDockWidgetArea);
+    // The bottom pane runs under the side panes' full height only between them.
+    setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
+    setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+}
+
+void COV_MainFrame::readSettings()
+{
+    if (m_state.moduleDirectory.isEmpty())
+        m_state.moduleDirectory =
+            QDir(QCoreApplication::applicationDirPath()).absolutePath() + QLatin1Char('/');
+    m_state.settingsFilePath = m_state.moduleDirectory + OrvaneSettings::settingsFileName();
+    const OrvaneSettings::System values = OrvaneSettings::readSystem(m_state.settingsFilePath);
+    m_showStatusWindow = values.showStatusWindow;
+    m_statusFollowsOperation = values.statusFollowsOperation;
+    m_state.statusFollowsOperation = values.statusFollowsOperation;
+}
+
+void COV_MainFrame::applySkin()
+{
+    QFile skin(m_state.moduleDirectory + QStringLiteral("Skin/NORMALBLUE.qss"));
+    if (skin.open(QIODevice::ReadOnly))
+        qApp->setStyleSheet(QString::fromUtf8(skin.readAll()));
+}
+
+void COV_MainFrame::restoreLayout()
+{
+    const QSettings settings(kLayoutOrganisation, QStringLiteral("Orvane"));
+    restoreState(settings.value(kLayoutKey).toByteArray());
+    // The pane's switch takes effect at start only, whatever the saved layout says.
+    m_statusDock->setVisible(m_showStatusWindow != 0);
+}
+
+void COV_MainFrame::saveLayout() const
+{
+    QSettings settings(kLayoutOrganisation, QStringLiteral("Orvane"));
+    settings.setValue(kLayoutKey, saveState());
+}
+
+void COV_MainFrame::closeEvent(QCloseEvent* event)
+{
+    m_startup.offerSave();
+    saveLayout();
+    m_monitorTimer.stop();
+    event->accept();
+}
+
+void COV_MainFrame::MonitorTick()
+{
+    m_motionPane->refresh();
+    m_statusView->refresh();
+}
+
+void COV_MainFrame::sendToFrame(UserMessage message, int wParam)
+{
+    switch (message) {
+    case UM_OPEN_TOOL:
+        m_tools->open(static_cast<ToolKind>(wParam));
+        // Opening the single-axis window announces the active axis to everyone.
+        if (wParam == ToolSingleAxis)
+            sendToFrame(UM_AXIS_CHANGED, m_state.active.axis);
+        break;
+    case UM_TREE_BUILD:
+        fillCombos();
+        updatePaneTitles();
+        break;
+    case UM_PARAM_CHANGED:
+        m_state.registry.setParametersChanged(m_state.active.family, wParam, true);
+        break;
+    case UM_CARD_CHANGED:
+        m_tree->handleUserMessage(UM_CARD_CHANGED, wParam);
+        break;
+    case UM_CONTROLLER_CHANGED:
+        updatePaneTitles();
+        wParam = 0;
+        [[fallthrough]];
+    case UM_AXIS_CHANGED:
+    case UM_STATUS_CARD_CHANGED:
+    case UM_STATUS_AXIS_CHANGED:
+        fillCombos();
+        m_statusView->handleUserMessage(message, wParam);
+        relayToToolViews(message, wParam);
+        break;
+    case UM_HOME_LIMIT_USE:
+    case UM_VIEW_COMMAND:
+        relayToToolViews(message, wParam);
+        break;
+    default:
+        // The rest pass between a page and its own window, not through the frame.
+        break;
+    }
+}
+
+void COV_MainFrame::relayToToolViews(UserMessage message, int wParam)
+{
+    for (ToolView* view : m_tools->openViews())
+        view->handleUserMessage(message, wParam);
+}
+
+bool COV_MainFrame::refuseWhileMoving()
+{
+    if (!m_state.active.anyAxesMoving())
+        return false;
+    m_prompt.inform(kMovingRefusal);
+    fillCombos();
+    return true;
+}
+
+void COV_MainFrame::setActiveControllerFromTree()
+{
+    if (!refuseWhileMoving())
+        m_tree->handleUserMessage(UM_CONTROLLER_CHANGED);
+}
+
+void COV_MainFrame::chooseFamily(int comboIndex)
+{
+    if (refuseWhileMoving())
+        return;
+    const QString text = m_familyCombo->itemText(comboIndex);
+    for (BoardFamily family : kAllFamilies) {
+        if (!text.contains(QLatin1String(familyShortName(family))))
+            continue;
+        fillCardCombo(family, 0);
+        m_tree->handleUserMessage(UM_SELECT_BOARD, familyIndex(family),
+                                  m_cardCombo->currentIndex());
+        return;
+    }
+}
+
+void COV_MainFrame::chooseCard(int comboIndex)
+{
+    if (!refuseWhileMoving())
+        m_tree->handleUserMessage(UM_SELECT_CARD, comboIndex);
+}
+
+void COV_MainFrame::fillCardCombo(BoardFamily family, int selection)
+{
+    QStringList cards;
+    for (int card = 0; card < m_state.registry.cardCount(family); ++card)
+        cards << QString::number(card);
+    QStringList shown;
+    for (int i = 0; i < m_cardCombo->count(); ++i)
+        shown << m_cardCombo->itemText(i);
+    if (shown != cards) {
+        m_cardCombo->clear();
+        m_cardCombo->addItems(cards);
+    }
+    if (m_cardCombo->currentIndex() != selection)
+        m_cardCombo->setCurrentIndex(selection);
+}
+
+void COV_MainFrame::fillCombos()
+{
+    QStringList families;
+    int selection = -1;
+    for (BoardFamily family : kAllFamilies) {
+        if (!m_state.registry.hasBoards(family))
+            continue;
+        if (family == m_state.active.family)
+            selection = static_cast<int>(families.size());
+        families << QString::fromLatin1(familyDisplayName(family));
+    }
+    QStringList shown;
+    for (int i = 0; i < m_familyCombo->count(); ++i)
+        shown << m_familyCombo->itemText(i);
+    if (shown != families) {
+        m_familyCombo->clear();
+        m_familyCombo->addItems(families);
+    }
+    if (m_familyCombo->currentIndex() != selection)
+        m_familyCombo->setCurrentIndex(selection);
+    fillCardCombo(m_state.active.family, m_state.active.card);
+}
+
+void COV_MainFrame::updatePaneTitles()
+{
+    const QString model = m_state.modelName(m_state.active.card);
+    const int card = m_state.active.card;
+    m_statusDock->setWindowTitle(QStringLiteral("Axis Status - %1(%2)").arg(model).arg(card));
+    m_motionDock->setWindowTitle(QStringLiteral("Motion Status - %1(%2)").arg(model).arg(card));
+}
+
+void COV_MainFrame::closeAllTools()
+{
+    m_tools->closeAll();
+}
+
+void COV_MainFrame::runCommand(FrameCommand command)
+{
+    m_factory.run(command, m_context, this);
+}
+
+void COV_MainFrame::environmentSetup()
+{
+    COV_SysCfgDlg dialog(m_state.settingsFilePath, this);
+    dialog.exec();
+    // The show-status switch waits for the next start; following the operation applies now.
+    m_statusFollowsOperation = dialog.values().statusFollowsOperation;
+    m_state.statusFollowsOperation = m_statusFollowsOperation;
+}
+
+void COV_MainFrame::logLevelSetup()
+{
+    COV_LogLevDlg dialog(
+        OrvaneSettings::readLogLevel(m_state.moduleDirectory, m_state.active.family), this);
+    if (dialog.exec() == QDialog::Accepted)
+        applyLogLevel(dialog.level());
+}
+
+void COV_MainFrame::applyLogLevel(int level)
+{
+    m_state.logLevel = level;
+    m_board.LogCheck(m_state.active.family, static_cast<nrx_u16>(level));
+}

@@ -1,0 +1,120 @@
+#pragma once
+
+#include "BoardStartup.h"
+#include "FrameRelay.h"
+#include "ToolContext.h"
+#include "ToolWindowFactory.h"
+
+#include <QMainWindow>
+#include <QTimer>
+
+class BoardApi;
+class COV_StBaseWnd;
+class COV_UtMtnStWnd;
+class COV_WsSysWnd;
+class PromptService;
+class QComboBox;
+class QDockWidget;
+class QMdiArea;
+class QMenu;
+class ToolWindowHost;
+struct AppState;
+
+// The main window: menus, the "Main" toolbar with the family and card combos, the three
+// docked panes, the tool windows, the 10 ms monitor tick, and the one place that decides who
+// hears each notification.
+class COV_MainFrame : public QMainWindow, public FrameRelay
+{
+    Q_OBJECT
+
+public:
+    static constexpr int kMonitorIntervalMs = 10;
+    static constexpr int kStatusPaneWidth = 200;
+    static constexpr int kMotionPaneHeight = 96;
+
+    COV_MainFrame(AppState& state, BoardApi& board, PromptService& prompt,
+                  const ToolWindowFactory& factory, QWidget* parent = nullptr);
+    ~COV_MainFrame() override;
+
+    // Builds the bars and panes, reads the settings, loads the boards and, if any board is
+    // there, builds the tree and starts the monitor tick. False when the program must end.
+    bool create(const QStringList& libraryProblems = {});
+
+    // The relay: every notification a window sends the frame, and who hears it.
+    void sendToFrame(UserMessage message, int wParam = 0) override;
+    // The 10 ms refresh of the motion-status pane and the status view.
+    void MonitorTick();
+
+    // Commands of the menus and the tree.
+    void openTool(ToolKind kind) { sendToFrame(UM_OPEN_TOOL, kind); }
+    void setActiveControllerFromTree();
+    void chooseFamily(int comboIndex);
+    void chooseCard(int comboIndex);
+    void closeAllTools();
+    void environmentSetup();
+    void logLevelSetup();
+    // What the log-level dialog's OK does: keeps the level and hands it to the active
+    // family's library only.
+    void applyLogLevel(int level);
+
+    COV_WsSysWnd* tree() const { return m_tree; }
+    COV_StBaseWnd* statusView() const { return m_statusView; }
+    COV_UtMtnStWnd* motionPane() const { return m_motionPane; }
+    QDockWidget* treeDock() const { return m_treeDock; }
+    QDockWidget* statusDock() const { return m_statusDock; }
+    QDockWidget* motionDock() const { return m_motionDock; }
+    QComboBox* familyCombo() const { return m_familyCombo; }
+    QComboBox* cardCombo() const { return m_cardCombo; }
+    ToolWindowHost& toolWindows() const { return *m_tools; }
+    QTimer& monitorTimer() { return m_monitorTimer; }
+    const ToolContext& context() const { return m_context; }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void createMenus();
+    QMenu* createSystemMenu();
+    QMenu* createToolMenu(const QString& title,
+                          std::initializer_list<std::pair<const char*, ToolKind>> tools);
+    QMenu* createStatusMenu();
+    QMenu* createWindowMenu();
+    QMenu* createHelpMenu();
+    void createToolBar();
+    void createStatusBar();
+    QDockWidget* createDock(const QString& objectName, const QString& title, QWidget* content,
+                            Qt::DockWidgetArea area);
+    void createDocks();
+    void readSettings();
+    void applySkin();
+    void restoreLayout();
+    void saveLayout() const;
+
+    bool refuseWhileMoving();
+    void fillCombos();
+    void fillCardCombo(BoardFamily family, int selection);
+    void updatePaneTitles();
+    void relayToToolViews(UserMessage message, int wParam);
+    void runCommand(FrameCommand command);
+
+    AppState& m_state;
+    BoardApi& m_board;
+    PromptService& m_prompt;
+    const ToolWindowFactory& m_factory;
+    BoardStartup m_startup;
+    ToolContext m_context;
+
+    QMdiArea* m_mdiArea = nullptr;
+    ToolWindowHost* m_tools = nullptr;
+    COV_WsSysWnd* m_tree = nullptr;
+    COV_StBaseWnd* m_statusView = nullptr;
+    COV_UtMtnStWnd* m_motionPane = nullptr;
+    QDockWidget* m_treeDock = nullptr;
+    QDockWidget* m_statusDock = nullptr;
+    QDockWidget* m_motionDock = nullptr;
+    QComboBox* m_familyCombo = nullptr;
+    QComboBox* m_cardCombo = nullptr;
+    QTimer m_monitorTimer;
+    int m_showStatusWindow = 1;
+    int m_statusFollowsOperation = 1;
+};

@@ -1,0 +1,46 @@
+#include "COV_SysCfgDlg.h"
+
+#include <QCheckBox>
+#include <QDialogButtonBox>
+#include <QVBoxLayout>
+
+COV_SysCfgDlg::COV_SysCfgDlg(QString settingsFilePath, QWidget* parent)
+    : QDialog(parent), m_path(std::move(settingsFilePath)),
+      m_values(OrvaneSettings::readSystem(m_path))
+{
+    setWindowTitle(QStringLiteral("System Environment Setup"));
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(createChecks());
+    layout->addWidget(createButtons());
+}
+
+QWidget* COV_SysCfgDlg::createChecks()
+{
+    auto* box = new QWidget(this);
+    auto* layout = new QVBoxLayout(box);
+    layout->setContentsMargins(0, 0, 0, 0);
+    m_showStatus = new QCheckBox(QStringLiteral(" Default Show Axis Status Window "), box);
+    m_followOperation =
+        new QCheckBox(QStringLiteral(" Change Status Window Axis Depeng On Operation Window"), box);
+    m_showStatus->setChecked(m_values.showStatusWindow != 0);
+    m_followOperation->setChecked(m_values.statusFollowsOperation != 0);
+    layout->addWidget(m_showStatus);
+    layout->addWidget(m_followOperation);
+    return box;
+}
+
+QWidget* COV_SysCfgDlg::createButtons()
+{
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    connect(buttons, &QDialogButtonBox::accepted, this, [this] { accept(); });
+    connect(buttons, &QDialogButtonBox::rejected, this, [this] { reject(); });
+    return buttons;
+}
+
+void COV_SysCfgDlg::accept()
+{
+    m_values.showStatusWindow = m_showStatus->isChecked() ? 1 : 0;
+    m_values.statusFollowsOperation = m_followOperation->isChecked() ? 1 : 0;
+    OrvaneSettings::writeSystem(m_path, m_values);
+    QDialog::accept();
+}

@@ -1,0 +1,38 @@
+#include "COrvaneApp.h"
+
+#include "BoardLoader.h"
+#include "COV_MainFrame.h"
+
+#include <QApplication>
+#include <QDir>
+
+COrvaneApp::COrvaneApp()
+{
+    QApplication::setApplicationName(QStringLiteral("Orvane"));
+    m_state.moduleDirectory =
+        QDir(QCoreApplication::applicationDirPath()).absolutePath() + QLatin1Char('/');
+}
+
+COrvaneApp::~COrvaneApp()
+{
+    // The frame unloads the boards as it goes, before the libraries are closed.
+    m_frame.reset();
+    m_loader.reset();
+}
+
+int COrvaneApp::run()
+{
+    m_loader = std::make_unique<BoardLoader>(m_state.moduleDirectory);
+    m_loader->loadAll();
+    for (BoardFamily family : kAllFamilies)
+        m_board.setTable(family, m_loader->table(family));
+
+    m_frame = std::make_unique<COV_MainFrame>(m_state, m_board, m_prompt, m_factory);
+    m_prompt.setParent(m_frame.get());
+    if (!m_frame->create(m_loader->problems()))
+        return 1;
+    m_frame->showMaximized();
+    const int result = QApplication::exec();
+    m_frame.reset();
+    return result;
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "AppState.h"
+#include "BoardApi.h"
+#include "MessageBoxPrompt.h"
+#include "ToolWindowFactory.h"
+
+#include <memory>
+
+class BoardLoader;
+class COV_MainFrame;
+
+// The program: loads the board libraries from its own folder, creates the main frame shown
+// maximised, runs the event loop and tears everything down in order. Construct it after the
+// QApplication.
+class COrvaneApp
+{
+public:
+    COrvaneApp();
+    ~COrvaneApp();
+    COrvaneApp(const COrvaneApp&) = delete;
+    COrvaneApp& operator=(const COrvaneApp&) = delete;
+
+    // Where the tool windows and dialogs of every subsystem are registered before run().
+    ToolWindowFactory& toolWindows() { return m_factory; }
+
+    // Returns the program's exit code; 1 when no board could be loaded.
+    int run();
+
+private:
+    AppState m_state;
+    BoardApi m_board;
+    MessageBoxPrompt m_prompt;
+    ToolWindowFactory m_factory;
+    std::unique_ptr<BoardLoader> m_loader;
+    std::unique_ptr<COV_MainFrame> m_frame;
+};

@@ -1,0 +1,169 @@
+#include "ToolWindowHost.h"
+
+#include "ToolView.h"
+#include "ToolWindowFactory.h"
+
+#include <QCloseEvent>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+
+ToolWindowHost::ToolWindowHost(QMdiArea& area, const ToolWindowFactory& factory,
+                               const ToolContext& context, QObject* parent)
+    : QObject(parent), m_area(area), m_factory(factory), m_context(context)
+{}
+
+ToolWindowHost::~ToolWindowHost()
+{
+    destroyAll();
+}
+
+ToolWindowHost::Slot& ToolWindowHost::slot(ToolKind kind)
+{
+    return m_slots[static_cast<std::size_t>(kind - kToolKindFirst)];
+}
+
+const ToolWindowHost::Slot& ToolWindowHost::slot(ToolKind kind) const
+{
+    return m_slots[static_cast<std::size_t>(kind - kToolKindFirst)];
+}
+
+ToolWindowHost::Slot* ToolWindowHost::slotOf(const QObject* window)
+{
+    for (Slot& entry : m_slots) {
+        if (entry.window && entry.window == window)
+            return &entry;
+    }
+    return nullptr;
+}
+
+ToolView* ToolWindowHost::view(ToolKind kind) const
+{
+    return kind >= kToolKindFirst && kind <= kToolKindLast ? slot(kind).view.data() : nullptr;
+}
+
+QMdiSubWindow* ToolWindowHost::window(ToolKind kind) const
+{
+    return kind >= kToolKindFirst && kind <= kToolKindLast ? slot(kind).window.data() : nullptr;
+}
+
+std::vector<ToolView*> ToolWindowHost::openViews() const
+{
+    std::vector<ToolView*> views;
+    for (const Slot& entry : m_slots) {
+        if (entry.window && entry.view)
+            views.push_back(entry.view);
+    }
+    return views;
+}
+
+bool ToolWindowHost::open(ToolKind kind)
+{
+    if (kind < kToolKindFirst || kind > kToolKindLast)
+        return false;
+    Slot& entry = slot(kind);
+    if (entry.window) {
+        entry.window->showNormal();
+        m_area.setActiveSubWindow(entry.window);
+        entry.window->raise();
+        return true;
+    }
+    if (!m_factory.has(kind))
+        return false;
+
+    auto* window = new QMdiSubWindow(&m_area);
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    ToolView* view = m_factory.create(kind, m_context, window);
+    if (view == nullptr) {
+        delete window;
+        return false;
+    }
+    window->setWidget(view);
+    window->setWindowTitle(view->windowTitle());
+    connect(view, &QWidget::windowTitleChanged, window, &QWidget::setWindowTitle);
+    connect(view, &ToolView::closeRequested, this, [this, kind] { viewAgreedToClose(kind); });
+    window->installEventFilter(this);
+    m_area.addSubWindow(window);
+    entry = Slot{window, view, false};
+    ++m_created;
+
+    window->adjustSize();
+    window->move(m_cascade.placeNew(m_area.viewport()->size()));
+    window->show();
+    m_area.setActiveSubWindow(window);
+    return true;
+}
+
+void ToolWindowHost::forget(Slot& entry)
+{
+    if (entry.window)
+        entry.window->removeEventFilter(this);
+    entry = Slot{};
+    m_cascade.windowDestroyed();
+}
+
+void ToolWindowHost::viewAgreedToClose(ToolKind kind)
+{
+    Slot& entry = slot(kind);
+    if (!entry.window)
+        return;
+    if (m_closing == entry.window) {
+        // Inside the window's own close event: the filter lets it through.
+        entry.closeAgreed = true;
+        return;
+    }
+    QMdiSubWindow* window = entry.window;
+    forget(entry);
+    window->close();
+}
+
+bool ToolWindowHost::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::Close)
+        return QObject::eventFilter(watched, event);
+    Slot* entry = slotOf(watched);
+    if (entry == nullptr)
+        return false;
+    // The title bar's close button: the view decides (it may ask about unsaved values).
+    m_closing = watched;
+    entry->view->requestClose();
+    m_closing = nullptr;
+    if (!entry->closeAgreed) {
+        event->ignore();
+        return true;
+    }
+    forget(*entry);
+    return false;
+}
+
+void ToolWindowHost::closeAll()
+{
+    for (;;) {
+        QMdiSubWindow* active = m_area.activeSubWindow();
+        Slot* entry = active ? slotOf(active) : nullptr;
+        if (entry == nullptr) {
+            for (Slot& each : m_slots) {
+                if (each.window) {
+                    entry = &each;
+                    break;
+                }
+            }
+        }
+        if (entry == nullptr)
+            return;
+        const QMdiSubWindow* asked = entry->window;
+        entry->view->requestClose();
+        if (slotOf(asked) != nullptr)
+            return; // the view declined
+    }
+}
+
+void ToolWindowHost::destroyAll()
+{
+    for (Slot& entry : m_slots) {
+        if (!entry.window)
+            continue;
+        QMdiSubWindow* window = entry.window;
+        forget(entry);
+        delete window;
+    }
+}

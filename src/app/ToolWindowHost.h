@@ -1,0 +1,68 @@
+#pragma once
+
+#include "CascadePlacement.h"
+#include "ToolContext.h"
+#include "UserMessage.h"
+
+#include <QObject>
+#include <QPointer>
+
+#include <array>
+#include <vector>
+
+class QMdiArea;
+class QMdiSubWindow;
+class ToolView;
+class ToolWindowFactory;
+
+// The frame's tool windows: at most one of each kind, each in an MDI child placed by the
+// cascade rule. A child closes only when its view agrees (ToolView::closeRequested).
+class ToolWindowHost : public QObject
+{
+    Q_OBJECT
+
+public:
+    ToolWindowHost(QMdiArea& area, const ToolWindowFactory& factory, const ToolContext& context,
+                   QObject* parent = nullptr);
+    ~ToolWindowHost() override;
+
+    // Raises the kind's window, or creates it. False when the kind has no window.
+    bool open(ToolKind kind);
+    ToolView* view(ToolKind kind) const;
+    QMdiSubWindow* window(ToolKind kind) const;
+    // The open views in kind order.
+    std::vector<ToolView*> openViews() const;
+    // Asks the active window's view to close, then the next one, until none is left or a
+    // view declines.
+    void closeAll();
+    // Closes every window at once, without asking (the frame is going away).
+    void destroyAll();
+
+    int createdCount() const { return m_created; }
+    const CascadePlacement& cascade() const { return m_cascade; }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    struct Slot
+    {
+        QPointer<QMdiSubWindow> window;
+        QPointer<ToolView> view;
+        bool closeAgreed = false;
+    };
+
+    Slot& slot(ToolKind kind);
+    const Slot& slot(ToolKind kind) const;
+    Slot* slotOf(const QObject* window);
+    void viewAgreedToClose(ToolKind kind);
+    void forget(Slot& entry);
+
+    QMdiArea& m_area;
+    const ToolWindowFactory& m_factory;
+    ToolContext m_context;
+    std::array<Slot, kToolKindLast - kToolKindFirst + 1> m_slots;
+    CascadePlacement m_cascade;
+    int m_created = 0;
+    const QObject* m_closing = nullptr; // the window whose close event is being decided
+};
