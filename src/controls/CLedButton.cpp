@@ -26,9 +26,9 @@ void CLedButton::SetStateCount(unsigned count, bool repaint)
 
 void CLedButton::resetColors()
 {
-    for (LedData& data : m_states) {
-        data.text = palette().color(QPalette::ButtonText);
-        data.background = palette().color(QPalette::Button);
+    for (LedData& entry : m_states) {
+        entry.text = palette().color(QPalette::ButtonText);
+        entry.background = palette().color(QPalette::Button);
     }
 }
 
