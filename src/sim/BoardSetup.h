@@ -1,0 +1,77 @@
+#pragma once
+
+#include "SimConstants.h"
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace nrxsim {
+
+class IniFile;
+
+// The simulated hardware of one family: cards, their wiring and the sensors on each axis,
+// read from the boards file or, without one, the built-in set.
+class BoardSetup
+{
+public:
+    static constexpr const char* FileName = "NrxSimBoards.ini";
+
+    // Where an input line gets its level: a constant, or an output of the same card.
+    struct Signal
+    {
+        bool fromOutput = false;
+        int value = 0; // 0/1, or the output bit
+    };
+
+    // Sensor geometry in machine pulses, and how each switch is wired.
+    // A level is the wiring: 0 normally open (low active), 1 normally closed (high active).
+    struct Axis
+    {
+        int64_t start = 0;
+        int64_t plusLimit = 60000;   // active at and above
+        int64_t minusLimit = -60000; // active at and below
+        int limitLevel = 0;
+        int64_t origin = -5000; // centre of the origin dog
+        int64_t originWidth = 1000;
+        int originLevel = 0;
+        int64_t zPeriod = 4000; // one Z mark every zPeriod pulses
+        int64_t zOffset = 0;
+        int zLevel = 0;
+        Signal alarm;
+        int alarmLevel = 0;
+        int inposLevel = 0;
+    };
+
+    struct Card
+    {
+        int axes = 4;
+        int io = 16;
+        int32_t firmware = 0x21;
+        int32_t info = 0;
+        Signal emergency;
+        int emergencyLevel = 0;
+        std::array<Signal, MaxIoPoints> inputs{};
+        std::array<Axis, MaxAxes> axis{};
+    };
+
+    // familyIndex 0 RL, 1 RM, 2 RN. Without a file, the built-in set.
+    static BoardSetup read(int familyIndex, const IniFile* file);
+
+    static const char* familyName(int familyIndex);
+
+    int familyIndex = 0;
+    bool fromFile = false;
+    std::vector<Card> cards;
+    std::optional<int32_t> forcedLoadResult;
+    int32_t version = 1020304;
+    std::vector<std::string> warnings; // values the file got wrong, for the log
+
+private:
+    static BoardSetup builtIn(int familyIndex);
+    static Card card(int axes, int io, int32_t firmware, int32_t info);
+};
+
+} // namespace nrxsim

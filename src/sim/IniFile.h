@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+
+namespace nrxsim {
+
+// A read-only INI document: [section] headers, key=value lines, ';' or '#' comments.
+// Section and key names are case-insensitive; the last of duplicate keys wins.
+class IniFile
+{
+public:
+    IniFile() = default;
+    static std::optional<IniFile> load(const std::string& path);
+    static IniFile parse(const std::string& text);
+
+    bool hasSection(const std::string& section) const;
+    std::optional<std::string> value(const std::string& section, const std::string& key) const;
+    // A decimal or 0x-hexadecimal integer; nullopt when absent or not a number.
+    std::optional<int64_t> integer(const std::string& section, const std::string& key) const;
+
+    static std::optional<int64_t> toInteger(const std::string& text);
+
+private:
+    std::map<std::string, std::map<std::string, std::string>> sections_;
+};
+
+} // namespace nrxsim

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+
+namespace nrxsim {
+
+class SimCard;
+
+// A card's parameter file: every axis parameter and the card-wide settings as key=value
+// lines, closed by a checksum line so that a cut or edited file is recognised.
+class ParameterFile
+{
+public:
+    enum class Result
+    {
+        Loaded,
+        Missing,
+        Damaged
+    };
+
+    static std::string fileName(int familyIndex, int card);
+    // Writes a new file next to the old one and renames it over the old one.
+    static bool save(const std::string& path, int familyIndex, int cardIndex, const SimCard& card);
+    // Applies nothing unless the whole file is sound and made for this card.
+    static Result load(const std::string& path, int familyIndex, int cardIndex, SimCard& card);
+};
+
+} // namespace nrxsim

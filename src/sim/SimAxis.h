@@ -1,0 +1,191 @@
+#pragma once
+
+#include "AxisParameters.h"
+#include "BoardSetup.h"
+#include "HomeSearch.h"
+#include "MotionProfile.h"
+#include "SpeedProfile.h"
+
+#include <cstdint>
+#include <optional>
+
+namespace nrxsim {
+
+// One simulated axis: its parameters, counters, sensors and the pulse generator that moves
+// it, stepped in whole milliseconds.
+class SimAxis
+{
+public:
+    // Signals the axis gets from its card.
+    struct Lines
+    {
+        bool emergency = false; // the card's EMG input, as the board reads it
+        bool alarmLine = false; // the alarm line from the wiring (constant or an output)
+    };
+
+    // What a stop of this axis asks of the other axes of its interpolation group.
+    enum class GroupEvent
+    {
+        None,
+        Sudden,
+        RampDown
+    };
+
+    SimAxis(const BoardSetup::Axis& wiring, bool rn);
+
+    const AxisParameters& parameters() const { return parameters_; }
+    void setParameter(AxisParameters::Id id, int32_t value);
+    void restoreDefaults();
+    // Stops at once and clears counters, errors, home state and outputs.
+    void reset();
+
+    // Motion starts; false when the axis is busy. A start that a signal forbids is taken
+    // and ends at once with that signal's stop code.
+    bool moveBy(int64_t distance, const Lines& lines);
+    bool moveTo(int32_t target, const Lines& lines);
+    bool jog(int direction, const Lines& lines);
+    bool home(const Lines& lines);
+    // Part of an interpolated move: runs `profile` scaled by `ratio` (signed), like its
+    // group's leading axis, and ends exactly `distance` pulses away.
+    bool follow(const MotionProfile& profile, const SpeedProfile& speed, double ratio,
+                int64_t distance, int group, const Lines& lines);
+    void decelStop();
+    void suddenStop();
+    // Another axis of the interpolation group stopped abnormally.
+    void abortFromGroup(bool rampDown);
+
+    // One millisecond of motion.
+    void step(const Lines& lines);
+
+    bool isMoving() const { return activity_ != Activity::Idle; }
+    // The interpolation group of the last start (0: none), kept after the stop.
+    int group() const { return group_; }
+    GroupEvent takeGroupEvent();
+    // Checks run before a start; 0 when the axis may move in `direction`.
+    int32_t startCode(int direction, const Lines& lines) const;
+    SpeedProfile positionSpeed() const;
+
+    int32_t commandPosition() const;
+    int32_t actualPosition() const;
+    void setCommandPosition(int32_t value);
+    void setActualPosition(int32_t value);
+    int32_t commandSpeed() const;
+    int64_t machinePosition() const { return machine_; }
+    int32_t errorCode() const { return errorCode_; }
+    bool homed() const { return homeOk_; }
+    bool isHoming() const { return activity_ == Activity::Home; }
+
+    uint16_t cardStatus(const Lines& lines, int64_t nowMs) const;
+    uint16_t driveStatus() const;
+    uint16_t errorStatus() const { return errorBits_; }
+    // The eight input bits of this axis in the input status word.
+    uint16_t inputBits(const Lines& lines) const;
+    bool alarmActive(const Lines& lines) const;
+    bool limitActive(int direction) const;
+    bool compareActive(int direction) const;
+
+    // Outputs to the servo drive.
+    bool servoOn = false;
+    bool servoRun = false;
+    bool alarmReset() const { return alarmReset_; }
+    void setAlarmReset(bool on);
+    void pulseCounterClear(int64_t nowMs);
+    bool counterClearOutput(int64_t nowMs) const { return nowMs < counterClearUntil_; }
+    // A servo alarm held until the alarm reset output is asserted.
+    void setLatchedAlarm(bool on) { latchedAlarm_ = on; }
+
+private:
+    enum class Activity
+    {
+        Idle,
+        Move,
+        Jog,
+        Home
+    };
+    enum class AfterRamp
+    {
+        Finish,
+        NextLeg,
+        StartLeg
+    };
+    enum class EventKind
+    {
+        LimitPlus,
+        LimitMinus,
+        SoftPlus,
+        SoftMinus,
+        Leg
+    };
+    struct Event
+    {
+        EventKind kind;
+        int64_t position; // where the axis is when it takes the event
+        int64_t distance; // from the step's start, to pick the first
+    };
+
+    using Id = AxisParameters::Id;
+    int32_t p(Id id) const { return parameters_[id]; }
+    SpeedProfile speedFor(int32_t initial, int32_t drive, int32_t accel, int32_t decel) const;
+    SpeedProfile homeSpeed(bool fast) const;
+
+    bool signalActive(HomeSearch::Signal s, int64_t position) const;
+    std::optional<int64_t> firstTransition(HomeSearch::Signal s, int64_t from, int64_t to,
+                                           bool want) const;
+    int64_t counterAt(int64_t position) const; // the counter the comparators watch
+    int64_t commandRaw() const { return machine_ + commandOffset_; }
+    int64_t actualRaw(int64_t position) const;
+    int encoderSign() const;
+    int encoderDivisor() const;
+    void rebaseEncoder();
+
+    void begin(Activity activity, const MotionProfile& profile, const SpeedProfile& speed,
+               double scale);
+    std::optional<Event> firstEvent(int64_t from, int64_t to) const;
+    void takeEvent(const Event& e, int64_t next);
+    void onLimit(EventKind kind, int64_t position, int64_t next);
+    void rampDown(AfterRamp after, int32_t code, uint16_t stopBits);
+    void profileFinished();
+    void finish(int32_t code, uint16_t stopBits = 0);
+    void startLeg();
+    void clearLatches();
+    uint16_t stopBitsFor(int32_t code) const;
+    void completeHome();
+
+    BoardSetup::Axis wiring_;
+    bool rn_ = false;
+    AxisParameters parameters_;
+
+    Activity activity_ = Activity::Idle;
+    MotionProfile profile_;
+    std::optional<SpeedProfile> speed_;
+    double scale_ = 1.0;
+    double origin_ = 0.0;
+    int64_t tick_ = 0;
+    bool stopping_ = false;
+    AfterRamp afterRamp_ = AfterRamp::Finish;
+    int32_t pendingCode_ = 0;
+    uint16_t pendingStopBits_ = 0;
+    std::optional<int64_t> target_;
+    double unitSpeed_ = 0.0;
+    uint16_t profileBits_ = 0;
+    int group_ = 0;
+    GroupEvent groupEvent_ = GroupEvent::None;
+    HomeSearch homeSearch_;
+    uint16_t homeStopBits_ = 0;
+
+    int64_t machine_ = 0;
+    double exact_ = 0.0;
+    int64_t commandOffset_ = 0;
+    int64_t actualBase_ = 0;
+    int64_t encoderRef_ = 0;
+
+    int32_t errorCode_ = 0;
+    uint16_t stopBits_ = 0;
+    uint16_t errorBits_ = 0;
+    bool homeOk_ = false;
+    bool latchedAlarm_ = false;
+    bool alarmReset_ = false;
+    int64_t counterClearUntil_ = 0;
+};
+
+} // namespace nrxsim

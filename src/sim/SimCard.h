@@ -1,0 +1,68 @@
+#pragma once
+
+#include "BoardSetup.h"
+#include "SimAxis.h"
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <vector>
+
+namespace nrxsim {
+
+// One simulated card: its axes, digital I/O, emergency input and the words that describe a
+// group of axes.
+class SimCard
+{
+public:
+    SimCard(const BoardSetup::Card& setup, int familyIndex);
+
+    const BoardSetup::Card& setup() const { return setup_; }
+    int axisCount() const { return static_cast<int>(axes_.size()); }
+    int ioCount() const { return setup_.io; }
+    SimAxis* axis(int index);
+    const SimAxis* axis(int index) const;
+    SimAxis::Lines linesFor(int axis) const;
+
+    bool output(int bit) const { return outputs_[static_cast<std::size_t>(bit)]; }
+    void setOutput(int bit, bool on) { outputs_[static_cast<std::size_t>(bit)] = on; }
+    bool input(int bit) const;
+    bool emergencyActive() const;
+    void setForcedEmergency(bool on) { forcedEmergency_ = on; }
+
+    // Card-wide settings, kept in the parameter file.
+    uint16_t emergencyLevel = 0;
+    uint16_t diFilter = 0;
+    uint16_t diFilterTime = 0;
+
+    // A move of several axes that starts and ends together along a straight line.
+    bool multiMove(int n, const uint16_t* axes, const int32_t* values, bool absolute);
+    bool multiJog(int n, const uint16_t* axes, const uint16_t* directions);
+    bool multiStop(int n, const uint16_t* axes, bool rampDown);
+    // Stops reach every axis of an interpolated move.
+    void stop(int axis, bool rampDown);
+
+    // One millisecond for every axis; true while any axis still moves.
+    bool step();
+    bool anyMoving() const;
+    void reset();
+
+    uint16_t mainStatus(int axis) const;
+    uint16_t inputStatus(int axis) const;
+
+    // Told of every abnormal end of a motion (axis, stop code).
+    std::function<void(int, int32_t)> onAbnormalStop;
+
+private:
+    bool validAxes(int n, const uint16_t* axes) const;
+    void propagateGroupStops();
+
+    BoardSetup::Card setup_;
+    int familyIndex_;
+    std::vector<SimAxis> axes_;
+    std::array<bool, MaxIoPoints> outputs_{};
+    bool forcedEmergency_ = false;
+    int nextGroup_ = 1;
+};
+
+} // namespace nrxsim

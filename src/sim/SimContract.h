@@ -1,0 +1,41 @@
+#pragma once
+
+#include "SimFamily.h"
+#include "nrx_contract.h"
+#include "nrxsim_extras.h"
+
+namespace nrxsim {
+
+// Every operation of the board contract, and the simulator's extras, on one family's
+// simulated boards. Wrong card, axis or bit numbers and null pointers are refused quietly:
+// 0 is returned and nothing is written.
+class SimContract
+{
+public:
+    explicit SimContract(int familyIndex);
+
+#define NRXSIM_DECLARE_OPERATION_(ret, name, params, args, fam) ret name params;
+    NRX_FOR_EACH_OPERATION(NRXSIM_DECLARE_OPERATION_)
+#undef NRXSIM_DECLARE_OPERATION_
+
+#define NRXSIM_DECLARE_EXTRA_(ret, name, params, args) ret name params;
+    NRXSIM_FOR_EACH_EXTRA(NRXSIM_DECLARE_EXTRA_)
+#undef NRXSIM_DECLARE_EXTRA_
+
+private:
+    using Id = AxisParameters::Id;
+    SimCard* card(nrx_u16 card);
+    SimAxis* axis(nrx_u16 card, nrx_u16 axis);
+    nrx_i32 setParameter(nrx_u16 card, nrx_u16 axis, Id id, nrx_i32 value);
+    nrx_i32 parameter(nrx_u16 card, nrx_u16 axis, Id id);
+    template <typename T> static void put(T* out, nrx_i32 value)
+    {
+        if (out)
+            *out = static_cast<T>(value);
+    }
+    nrx_i32 command(nrx_u16 card, nrx_u16 axis, const char* what, bool accepted, nrx_i32 value = 0);
+
+    SimFamily family_;
+};
+
+} // namespace nrxsim

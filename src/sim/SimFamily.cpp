@@ -1,0 +1,134 @@
+#include "SimFamily.h"
+
+#include "IniFile.h"
+#include "ParameterFile.h"
+
+#ifdef _WIN32
+#include <windows.h>
+#else
+#include <dlfcn.h>
+#endif
+
+namespace nrxsim {
+
+namespace {
+
+// The folder this library was loaded from, with a trailing separator.
+std::string libraryFolder()
+{
+    std::string path;
+#ifdef _WIN32
+    HMODULE module = nullptr;
+    if (GetModuleHandleExA(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS |
+                               GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                           reinterpret_cast<LPCSTR>(&libraryFolder), &module)) {
+        char buf[MAX_PATH];
+        const DWORD n = GetModuleFileNameA(module, buf, MAX_PATH);
+        path.assign(buf, n);
+    }
+#else
+    Dl_info info{};
+    if (dladdr(reinterpret_cast<void*>(&libraryFolder), &info) != 0 && info.dli_fname)
+        path = info.dli_fname;
+#endif
+    const auto slash = path.find_last_of("/\\");
+    return slash == std::string::npos ? std::string() : path.substr(0, slash + 1);
+}
+
+} // namespace
+
+SimFamily::SimFamily(int familyIndex) : familyIndex_(familyIndex)
+{
+    simulatedMs_ = clock_.nowMs();
+    setDataFolder(std::string());
+}
+
+void SimFamily::setDataFolder(const std::string& folder)
+{
+    folder_ = folder;
+    if (!folder_.empty() && folder_.back() != '/' && folder_.back() != '\\')
+        folder_ += '/';
+    log_.setPath(pathOf(std::string("NrxSim") + BoardSetup::familyName(familyIndex_) + ".log"));
+}
+
+std::string SimFamily::dataFolder() const
+{
+    return folder_.empty() ? libraryFolder() : folder_;
+}
+
+std::string SimFamily::pathOf(const std::string& fileName) const
+{
+    return dataFolder() + fileName;
+}
+
+SimCard* SimFamily::card(int index)
+{
+    return index >= 0 && index < cardCount() ? &cards_[static_cast<std::size_t>(index)] : nullptr;
+}
+
+int32_t SimFamily::load()
+{
+    unload();
+    simulatedMs_ = clock_.nowMs();
+    const auto file = IniFile::load(pathOf(BoardSetup::FileName));
+    setup_ = BoardSetup::read(familyIndex_, file ? &*file : nullptr);
+    for (const std::string& w : setup_.warnings)
+        note(SimLog::Errors, std::string(BoardSetup::FileName) + ": " + w);
+
+    if (setup_.forcedLoadResult) {
+        note(SimLog::Errors, "LoadDevice forced to " + std::to_string(*setup_.forcedLoadResult));
+        return *setup_.forcedLoadResult;
+    }
+    bool damaged = false;
+    for (int c = 0; c < static_cast<int>(setup_.cards.size()); ++c) {
+        cards_.emplace_back(setup_.cards[static_cast<std::size_t>(c)], familyIndex_);
+        SimCard& card = cards_.back();
+        card.onAbnormalStop = [this, c](int axis, int32_t code) {
+            note(SimLog::Errors, "card " + std::to_string(c) + " axis " + std::to_string(axis) +
+                                     " stopped with " + std::to_string(code));
+        };
+        const std::string name = ParameterFile::fileName(familyIndex_, c);
+        if (ParameterFile::load(pathOf(name), familyIndex_, c, card) ==
+            ParameterFile::Result::Damaged) {
+            note(SimLog::Errors, name + " does not match this card");
+            damaged = true;
+        }
+    }
+    const int32_t result = damaged ? -2 : cardCount() - 1;
+    note(SimLog::Errors, "LoadDevice: " + std::to_string(result) +
+                             (file ? " (" : " (built-in boards, no ") + BoardSetup::FileName + ")");
+    return result;
+}
+
+void SimFamily::unload()
+{
+    cards_.clear();
+    log_.close();
+}
+
+bool SimFamily::saveCard(int index)
+{
+    SimCard* c = card(index);
+    if (!c)
+        return false;
+    const std::string name = ParameterFile::fileName(familyIndex_, index);
+    const bool ok = ParameterFile::save(pathOf(name), familyIndex_, index, *c);
+    note(ok ? SimLog::Commands : SimLog::Errors, (ok ? "saved " : "could not save ") + name);
+    return ok;
+}
+
+void SimFamily::advanceTo(int64_t now)
+{
+    bool moving = false;
+    for (const SimCard& c : cards_)
+        moving = moving || c.anyMoving();
+    while (moving && simulatedMs_ < now) {
+        ++simulatedMs_;
+        moving = false;
+        for (SimCard& c : cards_)
+            moving = c.step() || moving;
+    }
+    simulatedMs_ = now;
+}
+
+} // namespace nrxsim

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "BoardSetup.h"
+#include "SimCard.h"
+#include "SimClock.h"
+#include "SimLog.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace nrxsim {
+
+// The boards of one family as one library sees them: set-up, cards, files and time.
+class SimFamily
+{
+public:
+    explicit SimFamily(int familyIndex);
+
+    int familyIndex() const { return familyIndex_; }
+    SimClock& clock() { return clock_; }
+    SimLog& log() { return log_; }
+
+    // Reads the boards file and the parameter files; the contract's LoadDevice result.
+    int32_t load();
+    void unload();
+    int cardCount() const { return static_cast<int>(cards_.size()); }
+    SimCard* card(int index);
+    int32_t version() const { return setup_.version; }
+
+    // Catches motion up with the clock in whole milliseconds.
+    void advance()
+    {
+        const int64_t now = clock_.nowMs();
+        if (now > simulatedMs_)
+            advanceTo(now);
+    }
+    int64_t nowMs() const { return simulatedMs_; }
+
+    // Folder of the boards file, the parameter files and the log; empty: the library's own.
+    void setDataFolder(const std::string& folder);
+    std::string dataFolder() const;
+    std::string pathOf(const std::string& fileName) const;
+
+    bool saveCard(int index);
+    void note(int level, const std::string& text) { log_.write(level, simulatedMs_, text); }
+
+private:
+    void advanceTo(int64_t now);
+
+    int familyIndex_;
+    SimClock clock_;
+    SimLog log_;
+    int64_t simulatedMs_ = 0;
+    BoardSetup setup_;
+    std::vector<SimCard> cards_;
+    std::string folder_;
+};
+
+} // namespace nrxsim
