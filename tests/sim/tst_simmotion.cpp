@@ -1,0 +1,475 @@
+#include "SimConstants.h"
+#include "SimLibrary.h"
+#include "SpeedProfile.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <memory>
+
+using namespace nrxsim;
+
+namespace {
+
+// Limits far away unless a test brings them near; origin and Z out of the way.
+const char* const Boards = R"(
+[RL]
+Cards=1
+[RL.Card0]
+Axes=4
+IO=16
+[RM]
+Cards=1
+[RM.Card0]
+Axes=8
+[RN]
+Cards=1
+[RN.Card0]
+Axes=4
+[Axes]
+PlusLimit=10000000
+MinusLimit=-10000000
+Origin=-5000000
+ZPeriod=0
+[RL.Card0.Axis2]
+PlusLimit=20000
+MinusLimit=-20000
+)";
+
+} // namespace
+
+// Motion of the simulated boards through the contract, on the manual clock.
+class TestSimMotion : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir dir_;
+    std::unique_ptr<SimLibrary> lib_[3];
+    NrxFunctionTable* rl_ = nullptr;
+
+    int runUntilDone(int family, int axis, int limitMs = 120000)
+    {
+        SimLibrary& l = *lib_[family];
+        int ms = 0;
+        while (l.nrx.Done(0, axis) != 0 && ms < limitMs) {
+            l.sim.AdvanceClock(1);
+            ++ms;
+        }
+        return ms;
+    }
+    void advance(int ms) { lib_[0]->sim.AdvanceClock(ms); }
+
+private slots:
+    void initTestCase()
+    {
+        QVERIFY(dir_.isValid());
+        QFile f(dir_.filePath("NrxSimBoards.ini"));
+        QVERIFY(f.open(QIODevice::WriteOnly));
+        f.write(Boards);
+        f.close();
+        for (int family = 0; family < 3; ++family) {
+            lib_[family] = std::make_unique<SimLibrary>(family);
+            QVERIFY2(lib_[family]->isLoaded(), qPrintable(lib_[family]->errorString()));
+        }
+        rl_ = &lib_[0]->nrx;
+    }
+
+    void init()
+    {
+        for (int family = 0; family < 3; ++family)
+            QCOMPARE(lib_[family]->loadIn(dir_.path()), 0);
+    }
+
+    void move_durationMatchesCalculator_data()
+    {
+        QTest::addColumn<int>("shape");
+        QTest::addColumn<int>("drive");
+        QTest::addColumn<int>("initial");
+        QTest::addColumn<int>("accel");
+        QTest::addColumn<int>("decel");
+        QTest::addColumn<int>("range");
+        QTest::addColumn<int>("fixed");
+        QTest::addColumn<int>("distance");
+        QTest::newRow("trapezoid") << 0 << 10000 << 100 << 100 << 200 << 100 << 0 << 50000;
+        QTest::newRow("trapezoid fast") << 0 << 200000 << 1000 << 300 << 150 << 100 << 0 << -400000;
+        QTest::newRow("trapezoid odd rates") << 0 << 20000 << 300 << 130 << 70 << 100 << 0 << 90000;
+        QTest::newRow("trapezoid fixed R") << 0 << 50000 << 500 << 100 << 100 << 10 << 1 << 120000;
+        QTest::newRow("S-curve") << 1 << 10000 << 100 << 100 << 100 << 100 << 0 << 50000;
+        QTest::newRow("S-curve fast") << 1 << 100000 << 500 << 250 << 250 << 100 << 0 << -300000;
+    }
+    void move_durationMatchesCalculator()
+    {
+        QFETCH(int, shape);
+        QFETCH(int, drive);
+        QFETCH(int, initial);
+        QFETCH(int, accel);
+        QFETCH(int, decel);
+        QFETCH(int, range);
+        QFETCH(int, fixed);
+        QFETCH(int, distance);
+        rl_->SetSpeedMode(0, 0, shape);
+        rl_->SetRangeMode(0, 0, range);
+        rl_->SetFixedRange(0, 0, fixed);
+        rl_->SetPosSpeed(0, 0, initial, drive, accel, decel);
+
+        SpeedProfile::Request r;
+        r.drive = drive;
+        r.initial = initial;
+        r.accelMs = accel;
+        r.decelMs = decel;
+        r.shape = shape ? SpeedProfile::Shape::SCurve : SpeedProfile::Shape::Trapezoid;
+        r.range = range;
+        r.fixedRange = fixed;
+        const SpeedProfile calc(r);
+        const double ramps = (calc.initialSpeed() + calc.driveSpeed()) / 2.0 *
+                             (calc.accelTimeMs() + calc.decelTimeMs()) / 1000.0;
+        QVERIFY(ramps < qAbs(distance));
+        const double predicted = calc.accelTimeMs() + calc.decelTimeMs() +
+                                 (qAbs(distance) - ramps) / calc.driveSpeed() * 1000.0;
+
+        rl_->Inc_Move(0, 0, distance);
+        QVERIFY(rl_->Done(0, 0) != 0);
+        const int half = int(predicted / 2);
+        advance(half);
+        QCOMPARE(rl_->GetCommandSpeed(0, 0), calc.driveSpeed());
+        const int midway = rl_->GetCommandPos(0, 0);
+        QVERIFY(qAbs(midway) > 0 && qAbs(midway) < qAbs(distance));
+        QVERIFY((midway > 0) == (distance > 0));
+        QCOMPARE(rl_->GetActualPos(0, 0), midway);
+        QVERIFY(rl_->GetCardStatus(0, 0) & CardBit::Run);
+        QVERIFY(rl_->GetDrvStatus(0, 0) & DriveBit::Constant);
+
+        const int ms = half + runUntilDone(0, 0);
+        QVERIFY2(qAbs(ms - predicted) <= 1.0 + 0.01 * predicted,
+                 qPrintable(QString("took %1 ms, calculator says %2 ms").arg(ms).arg(predicted)));
+        QCOMPARE(rl_->GetCommandPos(0, 0), distance);
+        QCOMPARE(rl_->GetActualPos(0, 0), distance);
+        QCOMPARE(rl_->GetCommandSpeed(0, 0), 0);
+        QCOMPARE(rl_->GetMotionErrCod(0, 0), 0);
+        QVERIFY(!(rl_->GetCardStatus(0, 0) & CardBit::Run));
+    }
+
+    void move_shortDistanceIsTriangular()
+    {
+        for (const int shape : {0, 1}) {
+            init();
+            rl_->SetSpeedMode(0, 1, shape);
+            rl_->SetPosSpeed(0, 1, 100, 10000, 200, 200);
+            rl_->Abs_Move(0, 1, 400);
+            int peak = 0;
+            int ms = 0;
+            while (rl_->Done(0, 1) && ms < 1000) {
+                advance(1);
+                ++ms;
+                peak = qMax(peak, rl_->GetCommandSpeed(0, 1));
+            }
+            QVERIFY(ms < 400); // a full profile would need both 200 ms ramps
+            QVERIFY(peak > 200 && peak < 10000);
+            QCOMPARE(rl_->GetCommandPos(0, 1), 400);
+        }
+    }
+
+    void jog_runsUntilStopped()
+    {
+        rl_->SetJogSpeed(0, 0, 100, 10000, 100);
+        rl_->Jog_Move(0, 0, 1);
+        advance(5000);
+        QVERIFY(rl_->Done(0, 0));
+        QCOMPARE(rl_->GetCommandSpeed(0, 0), 10000);
+        const int before = rl_->GetCommandPos(0, 0);
+        QVERIFY(qAbs(before - (50000 - 505)) <= 10); // 5 s at 10000 pps less the ramp
+        rl_->Decel_Stop(0, 0);
+        advance(50);
+        QVERIFY(rl_->Done(0, 0)); // still ramping down
+        QVERIFY(rl_->GetCommandSpeed(0, 0) < 10000);
+        QVERIFY(rl_->GetDrvStatus(0, 0) & DriveBit::Descend);
+        advance(60);
+        QCOMPARE(rl_->Done(0, 0), 0);
+        QVERIFY(qAbs(rl_->GetCommandPos(0, 0) - before - 505) <= 10);
+        QCOMPARE(rl_->GetMotionErrCod(0, 0), 0);
+
+        rl_->Jog_Move(0, 0, 0);
+        advance(1000);
+        const int running = rl_->GetCommandPos(0, 0);
+        rl_->Sudden_Stop(0, 0);
+        QCOMPARE(rl_->Done(0, 0), 0);
+        advance(100);
+        QCOMPARE(rl_->GetCommandPos(0, 0), running);
+        QCOMPARE(rl_->GetMotionErrCod(0, 0), 0);
+    }
+
+    void limits_stopWithTheirCodes_data()
+    {
+        QTest::addColumn<int>("direction");
+        QTest::addColumn<int>("stopMode");
+        QTest::addColumn<int>("code");
+        QTest::addColumn<int>("edge");
+        QTest::addColumn<int>("statusBit");
+        QTest::newRow("+ E-Stop") << 1 << 0 << -620 << 20000 << int(CardBit::LimitPlus);
+        QTest::newRow("- E-Stop") << 0 << 0 << -630 << -20000 << int(CardBit::LimitMinus);
+        QTest::newRow("+ S-Stop") << 1 << 1 << -620 << 20000 << int(CardBit::LimitPlus);
+        QTest::newRow("- S-Stop") << 0 << 1 << -630 << -20000 << int(CardBit::LimitMinus);
+    }
+    void limits_stopWithTheirCodes()
+    {
+        QFETCH(int, direction);
+        QFETCH(int, stopMode);
+        QFETCH(int, code);
+        QFETCH(int, edge);
+        QFETCH(int, statusBit);
+        rl_->SetHlmt(0, 2, stopMode, 0);
+        rl_->SetJogSpeed(0, 2, 100, 20000, 100);
+        rl_->Jog_Move(0, 2, direction);
+        runUntilDone(0, 2, 5000);
+        QCOMPARE(rl_->GetMotionErrCod(0, 2), code);
+        const int at = rl_->GetCommandPos(0, 2);
+        if (stopMode == 0)
+            QCOMPARE(at, edge); // stopped on the switch
+        else
+            QVERIFY(qAbs(at) > qAbs(edge) && qAbs(at) < qAbs(edge) + 2000); // ramped past it
+        QVERIFY(rl_->GetCardStatus(0, 2) & statusBit);
+        QVERIFY(rl_->GetCardStatus(0, 2) & CardBit::Err);
+        const int stopBit = direction ? DriveBit::StopLimitPlus : DriveBit::StopLimitMinus;
+        QVERIFY(rl_->GetDrvStatus(0, 2) & stopBit);
+
+        // Further on is refused at once; back off is allowed and clears the code.
+        rl_->Inc_Move(0, 2, direction ? 100 : -100);
+        QCOMPARE(rl_->Done(0, 2), 0);
+        QCOMPARE(rl_->GetMotionErrCod(0, 2), code);
+        QCOMPARE(rl_->GetCommandPos(0, 2), at);
+        rl_->Inc_Move(0, 2, direction ? -5000 : 5000);
+        QCOMPARE(rl_->GetMotionErrCod(0, 2), 0);
+        runUntilDone(0, 2);
+        QVERIFY(!(rl_->GetCardStatus(0, 2) & statusBit));
+    }
+
+    void limits_boardLevelAgainstWiringReadsInverted()
+    {
+        // Switches wired normally open but the board set to high active: the limit reads
+        // active away from the switch, so no motion starts.
+        rl_->SetHlmt(0, 0, 0, 1);
+        QVERIFY(rl_->GetCardStatus(0, 0) & CardBit::LimitPlus);
+        rl_->Inc_Move(0, 0, 1000);
+        QCOMPARE(rl_->GetMotionErrCod(0, 0), -620);
+        QCOMPARE(rl_->GetCommandPos(0, 0), 0);
+    }
+
+    void softLimits_stopOnTheLimit()
+    {
+        rl_->SetSlmt(0, 0, 5000, -3000, 1);
+        rl_->Inc_Move(0, 0, 20000);
+        runUntilDone(0, 0);
+        QCOMPARE(rl_->GetMotionErrCod(0, 0), -600);
+        QCOMPARE(rl_->GetCommandPos(0, 0), 5000);
+        QVERIFY(rl_->GetDrvStatus(0, 0) & DriveBit::ComparePlus);
+        QVERIFY(rl_->GetErrStatus(0, 0) & ErrorBit::PlusSoftLimit);
+        rl_->Abs_Move(0, 0, -10000);
+        runUntilDone(0, 0);
+        QCOMPARE(rl_->GetMotionErrCod(0, 0), -610);
+        QCOMPARE(rl_->GetCommandPos(0, 0), -3000);
+        rl_->Inc_Move(0, 0, 1000); // a new motion clears the code
+        QCOMPARE(rl_->GetMotionErrCod(0, 0), 0);
+        QCOMPARE(rl_->GetErrStatus(0, 0), 0);
+        runUntilDone(0, 0);
+        // Without use the limits do not stop the axis.
+        rl_->SetSlmt(0, 0, 5000, -3000, 0);
+        rl_->Abs_Move(0, 0, 8000);
+        runUntilDone(0, 0);
+        QCOMPARE(rl_->GetCommandPos(0, 0), 8000);
+    }
+
+    void alarm_stopsWhenUsed()
+    {
+        auto& sim = lib_[0]->sim;
+        rl_->Jog_Move(0, 1, 1);
+        advance(200);
+        sim.SetSignal(0, 1, NRXSIM_SIGNAL_ALARM, 1);
+        advance(1);
+        QCOMPARE(rl_->Done(0, 1), 0);
+        QCOMPARE(rl_->GetMotionErrCod(0, 1), -640);
+        QVERIFY(rl_->GetCardStatus(0, 1) & CardBit::Alm);
+        QVERIFY(rl_->GetDrvStatus(0, 1) & DriveBit::StopAlarm);
+        rl_->Jog_Move(0, 1, 1); // refused while the alarm stands
+        QCOMPARE(rl_->GetMotionErrCod(0, 1), -640);
+        rl_->PutSvAlmRst(0, 1, 1);
+        QVERIFY(rl_->GetCardStatus(0, 1) & CardBit::AlarmReset);
+        QVERIFY(!(rl_->GetCardStatus(0, 1) & CardBit::Alm));
+        rl_->PutSvAlmRst(0, 1, 0);
+        // Not used: the lamp shows the alarm, the axis ignores it.
+        sim.SetSignal(0, 1, NRXSIM_SIGNAL_ALARM, 1);
+        rl_->SetSvAlm(0, 1, 0, 0);
+        rl_->Inc_Move(0, 1, 1000);
+        runUntilDone(0, 1);
+        QCOMPARE(rl_->GetMotionErrCod(0, 1), 0);
+        QVERIFY(rl_->GetCardStatus(0, 1) & CardBit::Alm);
+    }
+
+    void emergency_stopsEveryAxisOfTheCard()
+    {
+        auto& sim = lib_[0]->sim;
+        const nrx_u16 axes[] = {0, 3};
+        const nrx_u16 dirs[] = {1, 0};
+        rl_->Multi_Jog_Move(0, 2, axes, dirs);
+        advance(100);
+        QVERIFY(rl_->Multi_Done(0, 2, axes));
+        sim.SetSignal(0, 0, NRXSIM_SIGNAL_EMERGENCY, 1);
+        advance(1);
+        QCOMPARE(rl_->Multi_Done(0, 2, axes), 0);
+        for (const int a : axes) {
+            QCOMPARE(rl_->GetMotionErrCod(0, a), -650);
+            QVERIFY(rl_->GetCardStatus(0, a) & CardBit::Emg);
+            QVERIFY(rl_->GetDrvStatus(0, a) & DriveBit::StopEmergency);
+        }
+        sim.SetSignal(0, 0, NRXSIM_SIGNAL_EMERGENCY, 0);
+        QVERIFY(!(rl_->GetCardStatus(0, 0) & CardBit::Emg));
+        // A board set to the other level reads the released switch as pressed.
+        rl_->SetEmergency(0, 1);
+        QVERIFY(rl_->GetCardStatus(0, 2) & CardBit::Emg);
+    }
+
+    void multiMove_startsAndEndsTogether()
+    {
+        rl_->SetPosSpeed(0, 0, 100, 10000, 100, 100);
+        rl_->SetPosSpeed(0, 1, 100, 40000, 300, 300);
+        rl_->SetPosSpeed(0, 3, 500, 5000, 50, 50);
+        const nrx_u16 axes[] = {0, 1, 3};
+        const nrx_i32 distances[] = {30000, -15000, 7500};
+        rl_->Multi_Inc_Move(0, 3, axes, distances);
+        advance(1000);
+        // On one line: every axis has covered the same share of its distance.
+        const double share = rl_->GetCommandPos(0, 0) / 30000.0;
+        QVERIFY(share > 0.1 && share < 0.9);
+        QVERIFY(qAbs(rl_->GetCommandPos(0, 1) / -15000.0 - share) < 0.001);
+        QVERIFY(qAbs(rl_->GetCommandPos(0, 3) / 7500.0 - share) < 0.001);
+        int ms = 0;
+        while (rl_->Multi_Done(0, 3, axes) && ms < 20000) {
+            for (const int a : axes)
+                QVERIFY(rl_->Done(0, a)); // no axis ends before the others
+            advance(1);
+            ++ms;
+        }
+        for (int i = 0; i < 3; ++i) {
+            QCOMPARE(rl_->GetCommandPos(0, axes[i]), distances[i]);
+            QCOMPARE(rl_->GetMotionErrCod(0, axes[i]), 0);
+        }
+
+        // Absolute targets; one axis hitting its limit stops the whole line.
+        const nrx_u16 pair[] = {0, 2};
+        const nrx_i32 targets[] = {0, 30000};
+        rl_->Multi_Abs_Move(0, 2, pair, targets);
+        runUntilDone(0, 2);
+        QCOMPARE(rl_->Done(0, 0), 0);
+        QCOMPARE(rl_->GetMotionErrCod(0, 2), -620);
+        QCOMPARE(rl_->GetMotionErrCod(0, 0), -9999);
+        QVERIFY(rl_->GetCommandPos(0, 0) > 0 && rl_->GetCommandPos(0, 0) < 30000);
+    }
+
+    void multiStop_rampsEveryAxisDown()
+    {
+        const nrx_u16 axes[] = {0, 1};
+        const nrx_i32 distances[] = {1000000, 500000};
+        rl_->Multi_Inc_Move(0, 2, axes, distances);
+        advance(2000);
+        rl_->Multi_Decel_Stop(0, 2, axes);
+        QVERIFY(rl_->Multi_Done(0, 2, axes));
+        advance(200);
+        QCOMPARE(rl_->Multi_Done(0, 2, axes), 0);
+        QVERIFY(qAbs(rl_->GetCommandPos(0, 0) - 2 * rl_->GetCommandPos(0, 1)) <= 2);
+        rl_->Multi_Inc_Move(0, 2, axes, distances);
+        advance(500);
+        rl_->Sudden_Stop(0, 1); // one axis of the line stops them all
+        QCOMPARE(rl_->Multi_Done(0, 2, axes), 0);
+    }
+
+    void counters_ringAndEncoder()
+    {
+        rl_->SetCounterRing(0, 0, 1000, 400, 1);
+        rl_->Inc_Move(0, 0, 2500);
+        runUntilDone(0, 0);
+        QCOMPARE(rl_->GetCommandPos(0, 0), 500);
+        QCOMPARE(rl_->GetActualPos(0, 0), 100);
+        rl_->Inc_Move(0, 0, -800);
+        runUntilDone(0, 0);
+        QCOMPARE(rl_->GetCommandPos(0, 0), 700); // wrapped below zero
+        rl_->SetCounterRing(0, 0, 1000, 400, 0);
+
+        rl_->SetActualPos(0, 1, 0);
+        rl_->SetEncoderDir(0, 1, 1);  // counts the other way
+        rl_->SetEncoderMode(0, 1, 2); // x1: one count per four pulses
+        rl_->Inc_Move(0, 1, 4000);
+        runUntilDone(0, 1);
+        QCOMPARE(rl_->GetCommandPos(0, 1), 4000);
+        QCOMPARE(rl_->GetActualPos(0, 1), -1000);
+        rl_->SetEncoderMode(0, 1, 0); // the count is kept when the mode changes
+        QCOMPARE(rl_->GetActualPos(0, 1), -1000);
+        rl_->SetCommandPos(0, 1, 77);
+        QCOMPARE(rl_->GetCommandPos(0, 1), 77);
+    }
+
+    void statusWords_mainWordSlots()
+    {
+        // RL pairs axes: axis 1 is slot 1 (RUN bit 1, ERR bit 5, HOME bit 9).
+        rl_->Jog_Move(0, 1, 1);
+        advance(10);
+        QCOMPARE(rl_->GetMainStatus(0, 1), nrx_u16(1u << 1));
+        QCOMPARE(rl_->GetMainStatus(0, 0), rl_->GetMainStatus(0, 1));
+        QCOMPARE(rl_->GetMainStatus(0, 2), nrx_u16(0));
+        rl_->Sudden_Stop(0, 1);
+        // RM groups four: axis 5 is slot 1 of axes 4..7.
+        NrxFunctionTable& rm = lib_[1]->nrx;
+        lib_[1]->sim.SetSignal(0, 5, NRXSIM_SIGNAL_ALARM, 1);
+        rm.Inc_Move(0, 5, 100);
+        rm.SetHomeMode(0, 6, 8); // a Z search: slot 2 runs and homes
+        rm.Home_Move(0, 6);
+        rm.Jog_Move(0, 7, 1);
+        QCOMPARE(rm.GetMainStatus(0, 5), nrx_u16((1u << 5) | (1u << 2) | (1u << 10) | (1u << 3)));
+        QCOMPARE(rm.GetMainStatus(0, 1), nrx_u16(0));
+        // RN: bits 8..15 describe the group.
+        NrxFunctionTable& rn = lib_[2]->nrx;
+        rn.PutSvOn(0, 2, 1);
+        const nrx_u16 axes[] = {0, 1};
+        const nrx_i32 distances[] = {5000, 5000};
+        rn.Multi_Inc_Move(0, 2, axes, distances);
+        const nrx_u16 w = rn.GetMainStatus(0, 3);
+        QCOMPARE(w & 0xFF, 0x03);
+        QVERIFY(w & MainBit::RnServoOn);
+        QVERIFY(w & MainBit::RnInterpolationRun);
+        QVERIFY(rn.GetCardStatus(0, 0) & CardBit::InterpolationRun);
+        QVERIFY(!(rl_->GetCardStatus(0, 0) & CardBit::InterpolationRun));
+    }
+
+    void statusWords_inputWordAndOutputs()
+    {
+        auto& sim = lib_[0]->sim;
+        sim.SetSignal(0, 1, NRXSIM_SIGNAL_ALARM, 1);
+        rl_->PutSvOn(0, 0, 1);
+        // Axis 1 is the odd axis of the pair 0/1: its signals sit in bits 9..15.
+        const nrx_u16 w = rl_->GetInputStatus(0, 1);
+        QCOMPARE(w, rl_->GetInputStatus(0, 0));
+        QVERIFY(w & (InputBit::Alm << InputBit::OddAxisShift));
+        QVERIFY(!(w & InputBit::Alm));
+        QVERIFY(w & InputBit::Ready);
+        QVERIFY(!(w & (InputBit::Ready << InputBit::OddAxisShift)));
+        QVERIFY(w & InputBit::Inp);
+
+        rl_->PutSvOn(0, 3, 1);
+        rl_->PutSvRun(0, 3, 1);
+        QCOMPARE(rl_->GetSvOn(0, 3), 1);
+        QCOMPARE(rl_->GetSvRun(0, 3), 1);
+        QVERIFY(rl_->GetCardStatus(0, 3) & CardBit::ServoOn);
+        // A counter-clear pulse lasts its time code: code 6 is 10 ms.
+        rl_->SetSvCClrTime(0, 3, 6);
+        rl_->PutSvCClrCmd(0, 3);
+        QCOMPARE(rl_->GetSvCClrDO(0, 3), 1);
+        QVERIFY(rl_->GetCardStatus(0, 3) & CardBit::CounterClear);
+        advance(9);
+        QCOMPARE(rl_->GetSvCClrDO(0, 3), 1);
+        advance(1);
+        QCOMPARE(rl_->GetSvCClrDO(0, 3), 0);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestSimMotion)
+#include "tst_simmotion.moc"
