@@ -1,0 +1,515 @@
+#include "SimConstants.h"
+#include "SimLibrary.h"
+
+#include <QDir>
+#include <QFile>
+#include <QRandomGenerator>
+#include <QSet>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+using namespace nrxsim;
+
+namespace {
+
+void writeFile(const QString& path, const QByteArray& text)
+{
+    QFile f(path);
+    QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    f.write(text);
+}
+
+QByteArray readFile(const QString& path)
+{
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+const char* const TwoCards = R"(
+[RL]
+Cards=2
+Version=3040506
+[RL.Card0]
+Axes=4
+IO=24
+Firmware=0x43
+Info=7
+Loopback=0
+Input3=DO5
+Input4=1
+[RL.Card0.Axis0]
+Alarm=DO2
+[RL.Card1]
+Axes=2
+IO=bogus
+)";
+
+} // namespace
+
+// The boards file, parameter files, log, I/O and robustness of the simulated libraries.
+class TestSimBoards : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<SimLibrary> lib_[3];
+    std::unique_ptr<QTemporaryDir> dir_;
+
+    SimLibrary& rl() { return *lib_[0]; }
+    QString path(const QString& name) const { return dir_->filePath(name); }
+
+private slots:
+    void initTestCase()
+    {
+        for (int family = 0; family < 3; ++family) {
+            lib_[family] = std::make_unique<SimLibrary>(family);
+            QVERIFY2(lib_[family]->isLoaded(), qPrintable(lib_[family]->errorString()));
+        }
+    }
+
+    void init()
+    {
+        dir_ = std::make_unique<QTemporaryDir>();
+        QVERIFY(dir_->isValid());
+    }
+
+    void cleanup()
+    {
+        for (auto& l : lib_)
+            l->nrx.UnloadDevice();
+    }
+
+    void exports_followTheFamilies()
+    {
+        for (int family = 0; family < 3; ++family) {
+            const SimLibrary& l = *lib_[family];
+#define CHECK_EXPORT_(ret, name, params, args, fam)                                                \
+    QVERIFY2((l.nrx.name != nullptr) == (((fam) >> family & 1) != 0), #name);
+            NRX_FOR_EACH_OPERATION(CHECK_EXPORT_)
+#undef CHECK_EXPORT_
+#define CHECK_EXTRA_(ret, name, params, args) QVERIFY2(l.sim.name != nullptr, #name);
+            NRXSIM_FOR_EACH_EXTRA(CHECK_EXTRA_)
+#undef CHECK_EXTRA_
+        }
+    }
+
+    void defaultSet_coversEveryFamilyAndSize()
+    {
+        QSet<int> axes;
+        QSet<int> io;
+        for (int family = 0; family < 3; ++family) {
+            SimLibrary& l = *lib_[family];
+            const int last = l.loadIn(dir_->path());
+            QVERIFY(last >= 0);
+            QVERIFY(l.nrx.GetDllVersion("x") >= 10000);
+            for (int card = 0; card <= last; ++card) {
+                nrx_i32 reserved = -1, firmware = 0, axisCount = 0, info = -1, ioCount = 0;
+                l.nrx.BoardInfo(card, &reserved, &firmware, &axisCount, &info, &ioCount);
+                QVERIFY(firmware != 0 && firmware != 0x50 && firmware != 0x51);
+                axes.insert(axisCount);
+                io.insert(ioCount);
+                // Inputs follow outputs out of the box.
+                l.nrx.PutDOBit(card, 1, 1);
+                QCOMPARE(l.nrx.GetDIBit(card, 1), 1);
+            }
+        }
+        QVERIFY(axes.contains(2) && axes.contains(4) && axes.contains(8));
+        QVERIFY(io.contains(16) && io.contains(24) && io.contains(64));
+        QCOMPARE(QDir(dir_->path()).entryList(QDir::Files).filter(".prm").size(), 0);
+    }
+
+    void boardsFile_describesTheCards()
+    {
+        writeFile(path("NrxSimBoards.ini"), TwoCards);
+        QCOMPARE(rl().loadIn(dir_->path()), 1);
+        QCOMPARE(lib_[1]->loadIn(dir_->path()), -1); // no [RM] section: no board
+        QCOMPARE(rl().nrx.GetDllVersion(nullptr), 3040506);
+        nrx_i32 reserved, firmware, axisCount, info, ioCount;
+        rl().nrx.BoardInfo(0, &reserved, &firmware, &axisCount, &info, &ioCount);
+        QCOMPARE(firmware, 0x43);
+        QCOMPARE(axisCount, 4);
+        QCOMPARE(info, 7);
+        QCOMPARE(ioCount, 24);
+        rl().nrx.BoardInfo(1, &reserved, &firmware, &axisCount, &info, &ioCount);
+        QCOMPARE(axisCount, 2);
+        QCOMPARE(ioCount, 16); // a value that is no number keeps the default
+        QCOMPARE(info, 1);
+
+        // Input wiring: 3 follows output 5, 4 is held on, the rest stay off.
+        rl().nrx.PutDOBit(0, 5, 1);
+        QCOMPARE(rl().nrx.GetDOBit(0, 5), 1);
+        QCOMPARE(rl().nrx.GetDIBit(0, 3), 1);
+        QCOMPARE(rl().nrx.GetDIBit(0, 4), 1);
+        QCOMPARE(rl().nrx.GetDIBit(0, 5), 0);
+        rl().nrx.PutDOBit(0, 5, 0);
+        QCOMPARE(rl().nrx.GetDIBit(0, 3), 0);
+        QCOMPARE(rl().nrx.GetDOBit(0, 5), 0);
+
+        // Axis 0's alarm line is output 2.
+        QVERIFY(!(rl().nrx.GetCardStatus(0, 0) & CardBit::Alm));
+        rl().nrx.PutDOBit(0, 2, 1);
+        QVERIFY(rl().nrx.GetCardStatus(0, 0) & CardBit::Alm);
+        rl().nrx.Inc_Move(0, 0, 100);
+        QCOMPARE(rl().nrx.GetMotionErrCod(0, 0), -640);
+    }
+
+    void boardsFile_largestConfiguration()
+    {
+        QByteArray text;
+        for (const char* family : {"RL", "RM", "RN"}) {
+            text += QByteArray("[") + family + "]\nCards=8\n";
+            for (int card = 0; card < 8; ++card)
+                text += QByteArray("[") + family + ".Card" + QByteArray::number(card) +
+                        "]\nAxes=8\nIO=64\n";
+        }
+        writeFile(path("NrxSimBoards.ini"), text);
+        for (int family = 0; family < 3; ++family) {
+            SimLibrary& l = *lib_[family];
+            QCOMPARE(l.loadIn(dir_->path()), 7);
+            nrx_i32 axisCount = 0, ioCount = 0;
+            l.nrx.BoardInfo(7, nullptr, nullptr, &axisCount, nullptr, &ioCount);
+            QCOMPARE(axisCount, 8);
+            QCOMPARE(ioCount, 64);
+            l.nrx.Inc_Move(7, 7, 1000);
+            l.sim.AdvanceClock(1000);
+            QCOMPARE(l.nrx.GetCommandPos(7, 7), 1000);
+            l.nrx.PutDOBit(7, 63, 1);
+            QCOMPARE(l.nrx.GetDIBit(7, 63), 1);
+        }
+    }
+
+    void boardsFile_forcesTheLoadResult_data()
+    {
+        QTest::addColumn<int>("code");
+        for (const int code : {-2, -4, -5, -7, -10})
+            QTest::newRow(qPrintable(QString::number(code))) << code;
+    }
+    void boardsFile_forcesTheLoadResult()
+    {
+        QFETCH(int, code);
+        writeFile(path("NrxSimBoards.ini"),
+                  QByteArray("[RM]\nCards=2\nLoadResult=") + QByteArray::number(code) + "\n");
+        SimLibrary& rm = *lib_[1];
+        QCOMPARE(rm.loadIn(dir_->path()), code);
+        nrx_i32 axisCount = -1;
+        rm.nrx.BoardInfo(0, nullptr, nullptr, &axisCount, nullptr, nullptr);
+        QCOMPARE(axisCount, -1);
+    }
+
+    void parameters_everyPairStoresItsValue()
+    {
+        for (int family = 0; family < 3; ++family) {
+            SimLibrary& l = *lib_[family];
+            QVERIFY(l.loadIn(dir_->path()) >= 0);
+            nrx_u16 value = 2;
+#define SET_PAIR_(name, fam)                                                                       \
+    if (l.nrx.Set##name)                                                                           \
+        l.nrx.Set##name(0, 1, value++);
+            NRX_FOR_EACH_PARAMETER_PAIR(SET_PAIR_)
+#undef SET_PAIR_
+            value = 2;
+#define CHECK_PAIR_(name, fam)                                                                     \
+    if (l.nrx.Get##name) {                                                                         \
+        QCOMPARE(l.nrx.Get##name(0, 1), value);                                                    \
+        QCOMPARE(l.nrx.Get##name(0, 0), nrx_u16(#name == QByteArray("RangeMode") ? 100 : 0));      \
+        ++value;                                                                                   \
+    }
+            NRX_FOR_EACH_PARAMETER_PAIR(CHECK_PAIR_)
+#undef CHECK_PAIR_
+            // The defaults come back for that axis only.
+            l.nrx.SetPosSpeed(0, 1, 7, 8, 9, 10);
+            l.nrx.SetSystemDefault(0, 1);
+            QCOMPARE(l.nrx.GetRangeMode(0, 1), 100);
+            QCOMPARE(l.nrx.GetPulseMode(0, 1), 0);
+            nrx_i32 initial, drive, accel, decel;
+            l.nrx.GetPosSpeed(0, 1, &initial, &drive, &accel, &decel);
+            QCOMPARE(drive, 10000);
+            QCOMPARE(initial, 100);
+            QCOMPARE(accel, 100);
+        }
+    }
+
+    void parameters_surviveUnloadAndLoad()
+    {
+        QCOMPARE(rl().loadIn(dir_->path()), 1);
+        NrxFunctionTable& n = rl().nrx;
+        n.SetPosSpeed(0, 3, 300, 45000, 250, 350);
+        n.SetJogSpeed(0, 3, 200, 30000, 150);
+        n.SetHomeSpeed(0, 3, 1500, 25000, 80);
+        n.SetHomeOffset(0, 3, -1234);
+        n.SetHomeMode(0, 3, 7);
+        n.SetHomeDir(0, 3, 0);
+        n.SetHlmt(0, 3, 1, 1);
+        n.SetSvAlm(0, 3, 0, 1);
+        n.SetSvInpos(0, 3, 1, 1);
+        n.SetSvCClr(0, 3, 1, 1);
+        n.SetSlmt(0, 3, 70000, -80000, 1);
+        n.SetCounterRing(0, 3, 3600, 7200, 0);
+        n.SetRangeMode(0, 3, 250);
+        n.SetEmergency(0, 1);
+        n.SetDiFilter(0, 1);
+        n.SetDiFilterTime(0, 5);
+        n.SetEncoderMode(1, 1, 3);
+        n.SaveFile(0);
+        n.SaveFile(1);
+        QVERIFY(QFile::exists(path("NrxSimRL_Card0.prm")));
+        QCOMPARE(QDir(dir_->path()).entryList({"*.new"}, QDir::Files).size(), 0);
+        n.UnloadDevice();
+
+        QCOMPARE(rl().loadIn(dir_->path()), 1);
+        nrx_i32 a, b, c, d;
+        n.GetPosSpeed(0, 3, &a, &b, &c, &d);
+        QCOMPARE(QList<int>({a, b, c, d}), QList<int>({300, 45000, 250, 350}));
+        n.GetJogSpeed(0, 3, &a, &b, &c);
+        QCOMPARE(QList<int>({a, b, c}), QList<int>({200, 30000, 150}));
+        n.GetHomeSpeed(0, 3, &a, &b, &c);
+        QCOMPARE(QList<int>({a, b, c}), QList<int>({1500, 25000, 80}));
+        QCOMPARE(n.GetHomeOffset(0, 3), -1234);
+        QCOMPARE(n.GetHomeMode(0, 3), 7);
+        QCOMPARE(n.GetHomeDir(0, 3), 0);
+        nrx_u16 u, v;
+        n.GetHlmt(0, 3, &u, &v);
+        QCOMPARE(QList<int>({u, v}), QList<int>({1, 1}));
+        n.GetSvAlm(0, 3, &u, &v);
+        QCOMPARE(QList<int>({u, v}), QList<int>({0, 1}));
+        n.GetSvInpos(0, 3, &u, &v);
+        QCOMPARE(QList<int>({u, v}), QList<int>({1, 1}));
+        nrx_u16 use;
+        n.GetSlmt(0, 3, &a, &b, &use);
+        QCOMPARE(QList<int>({a, b, use}), QList<int>({70000, -80000, 1}));
+        n.GetCounterRing(0, 3, &a, &b, &use);
+        QCOMPARE(QList<int>({a, b, use}), QList<int>({3600, 7200, 0}));
+        QCOMPARE(n.GetRangeMode(0, 3), 250);
+        QCOMPARE(n.GetEmergency(0), 1);
+        QCOMPARE(n.GetDiFilter(0), 1);
+        QCOMPARE(n.GetDiFilterTime(0), 5);
+        QCOMPARE(n.GetEncoderMode(1, 1), 3);
+        QCOMPARE(n.GetRangeMode(0, 2), 100); // untouched axes keep their defaults
+    }
+
+    void parameterFile_damagedOrForeignGivesMinus2_data()
+    {
+        QTest::addColumn<QString>("damage");
+        QTest::newRow("truncated") << "truncate";
+        QTest::newRow("value edited") << "edit";
+        QTest::newRow("other axis count") << "axes";
+        QTest::newRow("empty") << "empty";
+        QTest::newRow("binary junk") << "junk";
+    }
+    void parameterFile_damagedOrForeignGivesMinus2()
+    {
+        QFETCH(QString, damage);
+        QCOMPARE(rl().loadIn(dir_->path()), 1);
+        rl().nrx.SetRangeMode(0, 0, 42);
+        rl().nrx.SaveFile(0);
+        rl().nrx.UnloadDevice();
+        const QString file = path("NrxSimRL_Card0.prm");
+        QByteArray text = readFile(file);
+        QVERIFY(text.size() > 1000);
+        if (damage == "truncate")
+            text.truncate(text.size() / 2);
+        else if (damage == "edit")
+            text.replace("RangeMode=42", "RangeMode=43");
+        else if (damage == "empty")
+            text.clear();
+        else if (damage == "junk")
+            text = QByteArray(3000, '\xff') + QByteArray("\0\0", 2);
+        if (damage == "axes")
+            writeFile(path("NrxSimBoards.ini"), "[RL]\nCards=1\n[RL.Card0]\nAxes=8\n");
+        else
+            writeFile(file, text);
+
+        QCOMPARE(rl().loadIn(dir_->path()), -2);
+        // The sound parameters were not half applied.
+        QCOMPARE(rl().nrx.GetRangeMode(0, 0), 100);
+        rl().nrx.UnloadDevice();
+        QFile::remove(file);
+        QVERIFY(rl().loadIn(dir_->path()) >= 0);
+    }
+
+    void logFile_followsItsLevel()
+    {
+        QCOMPARE(rl().loadIn(dir_->path()), 1);
+        const QString log = path("NrxSimRL.log");
+        rl().nrx.LogCheck(0);
+        rl().nrx.Inc_Move(0, 0, 10);
+        QVERIFY(!readFile(log).contains("Inc_Move"));
+        rl().nrx.LogCheck(1);
+        rl().nrx.SetSlmt(0, 1, 50, -50, 1);
+        rl().nrx.Inc_Move(0, 1, 100);
+        rl().sim.AdvanceClock(1000);
+        QVERIFY(readFile(log).contains("axis 1 stopped with -600"));
+        QVERIFY(!readFile(log).contains("Inc_Move"));
+        rl().nrx.LogCheck(2);
+        rl().nrx.Inc_Move(0, 2, 10);
+        QVERIFY(readFile(log).contains("axis 2 Inc_Move 10"));
+        QVERIFY(!readFile(log).contains("PulseMode"));
+        rl().nrx.LogCheck(3);
+        rl().nrx.SetPulseMode(0, 2, 4);
+        QVERIFY(readFile(log).contains("axis 2 PulseMode=4"));
+    }
+
+    void refusals_areQuiet()
+    {
+        QCOMPARE(rl().loadIn(dir_->path()), 1); // card 1 has 2 axes and 24 I/O
+        NrxFunctionTable& n = rl().nrx;
+        const nrx_i32 sentinel = 0x5A5A5A;
+        nrx_i32 a = sentinel, b = sentinel, c = sentinel, d = sentinel, e = sentinel;
+        n.BoardInfo(2, &a, &b, &c, &d, &e);
+        n.GetPosSpeed(1, 2, &a, &b, &c, &d);
+        n.GetSlmt(9, 0, &a, &b, nullptr);
+        QCOMPARE(QList<int>({a, b, c, d, e}),
+                 QList<int>({sentinel, sentinel, sentinel, sentinel, sentinel}));
+        QCOMPARE(n.Inc_Move(1, 2, 100), 0);
+        QCOMPARE(n.Done(1, 2), 0);
+        QCOMPARE(n.GetCommandPos(1, 2), 0);
+        QCOMPARE(n.GetCardStatus(65535, 65535), 0);
+        QCOMPARE(n.GetMainStatus(1, 2), 0);
+        QCOMPARE(n.GetInputStatus(1, 7), 0);
+        n.PutDOBit(1, 24, 1);
+        QCOMPARE(n.GetDOBit(1, 24), 0);
+        QCOMPARE(n.GetDIBit(1, 24), 0);
+        n.PutDOBit(1, 23, 1);
+        QCOMPARE(n.GetDOBit(1, 23), 1);
+        // Null out-pointers are skipped, the others written.
+        n.GetPosSpeed(0, 0, nullptr, &b, nullptr, nullptr);
+        QCOMPARE(b, 10000);
+        n.BoardInfo(0, nullptr, nullptr, nullptr, nullptr, nullptr);
+        QVERIFY(n.GetDllVersion(nullptr) > 0);
+        // Multi-axis calls with a bad list do nothing.
+        const nrx_u16 twice[] = {0, 0};
+        const nrx_u16 beyond[] = {0, 4};
+        const nrx_i32 dist[] = {100, 100};
+        n.Multi_Inc_Move(0, 2, twice, dist);
+        n.Multi_Inc_Move(0, 2, beyond, dist);
+        n.Multi_Inc_Move(0, 2, nullptr, dist);
+        n.Multi_Inc_Move(0, 2, beyond, nullptr);
+        n.Multi_Abs_Move(0, 0, beyond, dist);
+        n.Multi_Jog_Move(0, 9, beyond, nullptr);
+        QCOMPARE(n.Multi_Done(0, 2, nullptr), 0);
+        for (int axis = 0; axis < 4; ++axis)
+            QCOMPARE(n.Done(0, axis), 0);
+        // A busy axis refuses a second start and keeps its move.
+        n.Inc_Move(0, 0, 50000);
+        QVERIFY(n.Abs_Move(0, 0, -5) != 0);
+        rl().sim.AdvanceClock(60000);
+        QCOMPARE(n.GetCommandPos(0, 0), 50000);
+        // The real clock cannot be moved by hand.
+        rl().sim.SetManualClock(0);
+        QCOMPARE(rl().sim.AdvanceClock(10), -1);
+    }
+
+    void fuzz_randomCallsLeaveTheBoardsSane()
+    {
+        for (int family = 0; family < 3; ++family) {
+            SimLibrary& l = *lib_[family];
+            const int last = l.loadIn(dir_->path());
+            QVERIFY(last >= 0);
+            NrxFunctionTable& n = l.nrx;
+            QRandomGenerator rng(20240611u + family);
+            auto u16 = [&]() -> nrx_u16 {
+                return rng.bounded(4) == 0 ? nrx_u16(rng.generate()) : nrx_u16(rng.bounded(10));
+            };
+            auto i32 = [&]() -> nrx_i32 {
+                switch (rng.bounded(4)) {
+                case 0:
+                    return nrx_i32(rng.generate());
+                case 1:
+                    return rng.bounded(2) ? INT32_MAX : INT32_MIN;
+                default:
+                    return rng.bounded(-100000, 100000);
+                }
+            };
+            nrx_u16 axes[8];
+            nrx_i32 values[8];
+            nrx_u16 dirs[8];
+            nrx_i32 out[4];
+            nrx_u16 outs[3];
+            const std::vector<std::function<void()>> calls = {
+                [&] { n.Inc_Move(u16(), u16(), i32()); },
+                [&] { n.Abs_Move(u16(), u16(), i32()); },
+                [&] { n.Jog_Move(u16(), u16(), u16()); },
+                [&] { n.Home_Move(u16(), u16()); },
+                [&] { n.Decel_Stop(u16(), u16()); },
+                [&] { n.Sudden_Stop(u16(), u16()); },
+                [&] { n.SetHomeMode(u16(), u16(), u16()); },
+                [&] { n.SetHomeDir(u16(), u16(), u16()); },
+                [&] { n.SetHomeOffset(u16(), u16(), i32()); },
+                [&] { n.SetPosSpeed(u16(), u16(), i32(), i32(), i32(), i32()); },
+                [&] { n.SetJogSpeed(u16(), u16(), i32(), i32(), i32()); },
+                [&] { n.SetHomeSpeed(u16(), u16(), i32(), i32(), i32()); },
+                [&] { n.SetSpeedMode(u16(), u16(), u16()); },
+                [&] { n.SetRangeMode(u16(), u16(), u16()); },
+                [&] { n.SetFixedRange(u16(), u16(), u16()); },
+                [&] { n.SetEncoderMode(u16(), u16(), u16()); },
+                [&] { n.SetSlmt(u16(), u16(), i32(), i32(), u16()); },
+                [&] { n.SetCounterRing(u16(), u16(), i32(), i32(), u16()); },
+                [&] { n.SetHlmt(u16(), u16(), u16(), u16()); },
+                [&] { n.SetCommandPos(u16(), u16(), i32()); },
+                [&] { n.SetActualPos(u16(), u16(), i32()); },
+                [&] { n.PutDOBit(u16(), u16(), u16()); },
+                [&] { n.PutSvCClrCmd(u16(), u16()); },
+                [&] { n.SetEmergency(u16(), u16()); },
+                [&] { l.sim.SetSignal(u16(), u16(), u16() % 3, u16() % 2); },
+                [&] { n.Reset(u16()); },
+                [&] { n.SetSystemDefault(u16(), u16()); },
+                [&] {
+                    const nrx_u16 count = u16() % 10;
+                    for (int i = 0; i < 8; ++i) {
+                        axes[i] = u16();
+                        values[i] = i32();
+                        dirs[i] = u16();
+                    }
+                    switch (rng.bounded(4)) {
+                    case 0:
+                        n.Multi_Inc_Move(u16(), count, axes, values);
+                        break;
+                    case 1:
+                        n.Multi_Abs_Move(u16(), count, axes, values);
+                        break;
+                    case 2:
+                        n.Multi_Jog_Move(u16(), count, axes, dirs);
+                        break;
+                    default:
+                        n.Multi_Decel_Stop(u16(), count, axes);
+                        break;
+                    }
+                },
+                [&] {
+                    n.GetCardStatus(u16(), u16());
+                    n.GetMainStatus(u16(), u16());
+                    n.GetDrvStatus(u16(), u16());
+                    n.GetErrStatus(u16(), u16());
+                    n.GetInputStatus(u16(), u16());
+                    n.GetCommandSpeed(u16(), u16());
+                    n.GetPosSpeed(u16(), u16(), &out[0], &out[1], &out[2], &out[3]);
+                    n.GetHlmt(u16(), u16(), &outs[0], &outs[1]);
+                    n.GetDIBit(u16(), u16());
+                },
+                [&] { l.sim.AdvanceClock(int(rng.bounded(200))); },
+            };
+            for (int i = 0; i < 20000; ++i)
+                calls[rng.bounded(int(calls.size()))]();
+
+            l.sim.SetSignal(0, 0, NRXSIM_SIGNAL_EMERGENCY, 0);
+            for (int card = 0; card <= last; ++card) {
+                for (int axis = 0; axis < 8; ++axis) {
+                    QVERIFY(n.Done(card, axis) <= 1);
+                    n.Sudden_Stop(card, axis);
+                    QCOMPARE(n.Done(card, axis), 0);
+                }
+            }
+            QVERIFY(l.loadIn(dir_->path()) >= 0);
+            n.Inc_Move(0, 0, 1000);
+            l.sim.AdvanceClock(2000);
+            QCOMPARE(n.GetCommandPos(0, 0), 1000);
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(TestSimBoards)
+#include "tst_simboards.moc"
