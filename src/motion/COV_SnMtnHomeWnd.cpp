@@ -12,6 +12,10 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+namespace {
+constexpr int kLabelWidth = 110;
+} // namespace
+
 COV_SnMtnHomeWnd::COV_SnMtnHomeWnd(AppState& state, BoardApi& board, QWidget* parent)
     : QWidget(parent), m_state(state), m_board(board)
 {
@@ -33,6 +37,8 @@ QLineEdit* COV_SnMtnHomeWnd::addField(QGridLayout* grid, int row, const QString&
     caption->setBuddy(edit);
     grid->addWidget(caption, row, 0);
     grid->addWidget(edit, row, 1);
+    // One label width for every group, so the fields line up down the page.
+    grid->setColumnMinimumWidth(0, kLabelWidth);
     grid->addWidget(new QLabel(unit), row, 2);
     return edit;
 }

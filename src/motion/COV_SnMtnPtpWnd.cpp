@@ -16,6 +16,7 @@
 #include <QVBoxLayout>
 
 namespace {
+constexpr int kLabelWidth = 110;
 const QString kParametersChanged =
     QStringLiteral("Parameters are changed. Do you want to set parameter?");
 const QString kPps = QStringLiteral("[pps]");
@@ -49,6 +50,8 @@ QLineEdit* COV_SnMtnPtpWnd::addField(QGridLayout* grid, int row, const QString& 
     caption->setBuddy(edit);
     grid->addWidget(caption, row, 0);
     grid->addWidget(edit, row, 1);
+    // One label width for every group, so the fields line up down the page.
+    grid->setColumnMinimumWidth(0, kLabelWidth);
     if (!unit.isEmpty())
         grid->addWidget(new QLabel(unit), row, 2);
     if (labelOut != nullptr)
