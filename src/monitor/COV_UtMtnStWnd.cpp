@@ -30,6 +30,9 @@ void COV_UtMtnStWnd::createGrid()
     m_grid->setSelectionMode(QAbstractItemView::NoSelection);
     m_grid->setFocusPolicy(Qt::NoFocus);
     m_grid->setCornerButtonEnabled(false);
+    m_grid->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    // The frame decides the pane's height; rows that do not fit are out of view, not read.
+    m_grid->setMinimumHeight(kRowHeight);
     for (QHeaderView* header : {m_grid->horizontalHeader(), m_grid->verticalHeader()}) {
         header->setSectionsClickable(false);
         header->setHighlightSections(false);
@@ -53,7 +56,7 @@ void COV_UtMtnStWnd::resizeEvent(QResizeEvent* event)
 // Each axis column gets a ninth of the width; the row titles also take the remainder.
 void COV_UtMtnStWnd::fitColumns()
 {
-    const int width = m_grid->viewport()->width() + m_grid->verticalHeader()->width();
+    const int width = m_grid->width() - 2 * m_grid->frameWidth();
     const int column = width / kGridColumns;
     m_grid->verticalHeader()->setFixedWidth(column + width % kGridColumns);
     for (int axis = 0; axis < MotionStatusModel::kAxes; ++axis)
