@@ -97,10 +97,12 @@ QWidget* COV_SnMtnHomeWnd::createCounterGroup()
     m_setCommand =
         addField(grid, 0, QStringLiteral(" Set Command"), QStringLiteral("[pulse]"), "setCommand");
     m_commandButton = new QPushButton(QStringLiteral("Command"));
+    m_commandButton->setObjectName(QStringLiteral("commandButton"));
     grid->addWidget(m_commandButton, 0, 3);
     m_setActual =
         addField(grid, 1, QStringLiteral(" Set Actual"), QStringLiteral("[pulse]"), "setActual");
     m_actualButton = new QPushButton(QStringLiteral("Actual"));
+    m_actualButton->setObjectName(QStringLiteral("actualButton"));
     grid->addWidget(m_actualButton, 1, 3);
     m_setCommand->setText(QStringLiteral("0"));
     m_setActual->setText(QStringLiteral("0"));

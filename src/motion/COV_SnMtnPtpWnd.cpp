@@ -100,9 +100,11 @@ QWidget* COV_SnMtnPtpWnd::createPositionGroup()
         addField(grid, 1, QStringLiteral(" Position 2"), kPulse, "position2", &m_position2Label);
     m_setCommand = addField(grid, 2, QStringLiteral(" Set Command"), kPulse, "setCommand");
     m_commandButton = new QPushButton(QStringLiteral("Command"));
+    m_commandButton->setObjectName(QStringLiteral("commandButton"));
     grid->addWidget(m_commandButton, 2, 3);
     m_setActual = addField(grid, 3, QStringLiteral(" Set Actual"), kPulse, "setActual");
     m_actualButton = new QPushButton(QStringLiteral("Actual"));
+    m_actualButton->setObjectName(QStringLiteral("actualButton"));
     grid->addWidget(m_actualButton, 3, 3);
     return group;
 }
