@@ -12,8 +12,7 @@ namespace nrxsim {
 
 class IniFile;
 
-// The simulated hardware of one family: cards, their wiring and the sensors on each axis,
-// read from the boards file or, without one, the built-in set.
+// The simulated hardware of one family, from the boards file or the built-in set.
 class BoardSetup
 {
 public:

@@ -45,8 +45,10 @@ void HomeSearch::plan()
         legs_.push_back(seek(d, false, Signal::Z, true, IfAlready::Fail));
         return;
     }
-    if (mode_ == 9 || mode_ < 0 || mode_ >= ModeCount)
+    if (mode_ == 9)
         return; // the current position is the origin
+    // Fast approach, slow back-out, slow approach again: a high-speed mode ends on the same
+    // edge as its low-speed twin, and an overshoot past a narrow dog is caught.
     if (high) {
         legs_.push_back(seek(d, true, sensor, true, IfAlready::Escape));
         legs_.push_back(seek(-d, false, sensor, true, IfAlready::Skip));

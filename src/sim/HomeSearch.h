@@ -6,8 +6,6 @@
 namespace nrxsim {
 
 // The legs of a home search: which signal to look for, in which direction, how fast.
-// High-speed modes approach fast, back out slowly and approach the edge again slowly, so
-// every mode ends on the same edge of its sensor as the matching low-speed mode.
 class HomeSearch
 {
 public:

@@ -7,8 +7,7 @@
 
 namespace nrxsim {
 
-// A read-only INI document: [section] headers, key=value lines, ';' or '#' comments.
-// Section and key names are case-insensitive; the last of duplicate keys wins.
+// A read-only INI document with case-insensitive names; the last duplicate key wins.
 class IniFile
 {
 public:

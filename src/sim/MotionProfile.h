@@ -7,11 +7,11 @@
 
 namespace nrxsim {
 
-// Distance over time of one pulse-generator run (a move, a jog, a ramp down), built from
-// the quantised speed registers. Distances are positive; the caller applies the direction.
+// Distance over time of one pulse-generator run (move, jog, ramp down) from the registers.
 class MotionProfile
 {
 public:
+    // Distances are positive; the caller applies the direction.
     struct Sample
     {
         double distance = 0.0; // pulses from the start

@@ -6,8 +6,7 @@ namespace nrxsim {
 
 class SimCard;
 
-// A card's parameter file: every axis parameter and the card-wide settings as key=value
-// lines, closed by a checksum line so that a cut or edited file is recognised.
+// A card's parameter file: key=value lines closed by a checksum that catches cut files.
 class ParameterFile
 {
 public:

@@ -487,7 +487,12 @@ bool SimAxis::home(const Lines& lines)
         finish(lines.emergency ? StopCode::Emergency : StopCode::Alarm);
         return true;
     }
-    homeSearch_.start(p(Id::HomeMode), p(Id::HomeDir));
+    const int32_t mode = p(Id::HomeMode);
+    if (mode < 0 || mode >= HomeSearch::ModeCount) {
+        finish(StopCode::Other); // the board knows no such search
+        return true;
+    }
+    homeSearch_.start(mode, p(Id::HomeDir));
     startLeg();
     return true;
 }

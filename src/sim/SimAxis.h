@@ -11,8 +11,7 @@
 
 namespace nrxsim {
 
-// One simulated axis: its parameters, counters, sensors and the pulse generator that moves
-// it, stepped in whole milliseconds.
+// One simulated axis: parameters, counters, sensors and pulse generator, stepped per ms.
 class SimAxis
 {
 public:

@@ -10,8 +10,7 @@
 
 namespace nrxsim {
 
-// One simulated card: its axes, digital I/O, emergency input and the words that describe a
-// group of axes.
+// One simulated card: its axes, digital I/O, emergency input and axis-group words.
 class SimCard
 {
 public:

@@ -6,12 +6,12 @@
 
 namespace nrxsim {
 
-// Every operation of the board contract, and the simulator's extras, on one family's
-// simulated boards. Wrong card, axis or bit numbers and null pointers are refused quietly:
-// 0 is returned and nothing is written.
+// The board contract and the simulator's extras on one family's simulated boards.
 class SimContract
 {
 public:
+    // Wrong card, axis or bit numbers and null pointers are refused quietly: 0 is returned
+    // and nothing is written.
     explicit SimContract(int familyIndex);
 
 #define NRXSIM_DECLARE_OPERATION_(ret, name, params, args, fam) ret name params;

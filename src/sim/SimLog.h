@@ -6,11 +6,12 @@
 
 namespace nrxsim {
 
-// The library's plain-text log. Level 0 writes nothing, 1 load results and abnormal stops,
-// 2 also motion commands and saves, 3 also every parameter write.
+// The library's plain-text log, written at the level LogCheck sets.
 class SimLog
 {
 public:
+    // Each level adds to the one below: load results and abnormal stops, then motion
+    // commands and saves, then every parameter write.
     enum Level
     {
         Off = 0,

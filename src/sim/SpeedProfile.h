@@ -4,8 +4,7 @@
 
 namespace nrxsim {
 
-// The board's speed registers for one requested profile: what the actual-speed calculator
-// shows and what the simulated pulse generator runs.
+// The board's speed registers for a requested profile, as the speed calculator shows them.
 class SpeedProfile
 {
 public:

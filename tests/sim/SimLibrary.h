@@ -6,8 +6,7 @@
 #include <QLibrary>
 #include <QString>
 
-// One family's simulated board library, loaded by absolute path, with every contract export
-// and every extra resolved by name (a missing export stays null).
+// One family's simulated library loaded by absolute path; a missing export stays null.
 class SimLibrary
 {
 public:

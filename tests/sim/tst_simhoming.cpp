@@ -160,11 +160,14 @@ private slots:
         QVERIFY(nrx_->GetErrStatus(0, 2) & ErrorBit::DuringHome);
     }
 
-    void originBeyondTheLimits_fails()
+    void impossibleSearches_fail()
     {
-        home(3, 0, Minus);
+        home(3, 0, Minus); // the origin lies beyond the limits
         QCOMPARE(nrx_->GetMotionErrCod(0, 3), -9999);
         QVERIFY(!(nrx_->GetCardStatus(0, 3) & CardBit::HomeOk));
+        home(0, 10, Minus); // no such mode
+        QCOMPARE(nrx_->GetMotionErrCod(0, 0), -9999);
+        QCOMPARE(lib_->sim.GetMachinePos(0, 0), 0);
     }
 
     void homeOk_clearedByTheNextSearchAndByReset()
