@@ -123,28 +123,6 @@ private slots:
         QCOMPARE(!infinite->isHidden(), type == int(MotionType::Relative));
     }
 
-    void ptp_infiniteShownOnlyWithRepeatOnRelative()
-    {
-        Rig rig;
-        auto* repeat = rig.ptpField<QCheckBox>("repeat");
-        auto* infinite = rig.ptpField<QCheckBox>("infinite");
-        QSignalSpy repeatChanged(&rig.ptp, &COV_SnMtnPtpWnd::repeatChanged);
-        rig.chooseType(MotionType::Relative);
-        QVERIFY(infinite->isHidden());
-        repeat->click();
-        QVERIFY(!infinite->isHidden());
-        infinite->click();
-        QVERIFY(rig.ptp.infiniteTicked());
-        repeat->click();
-        QVERIFY(infinite->isHidden());
-        QVERIFY(!rig.ptp.infiniteTicked());
-        QCOMPARE(repeatChanged.count(), 2);
-
-        rig.chooseType(MotionType::Absolute);
-        repeat->click();
-        QVERIFY(infinite->isHidden());
-    }
-
     void ptp_driveSpeedCheckRestoresLastValidText()
     {
         Rig rig;
@@ -190,32 +168,6 @@ private slots:
                  (QStringList{"10000", "200", "80", "90", "1500"}));
         rig.chooseType(MotionType::Absolute);
         QCOMPARE(texts({"position1", "position2"}), (QStringList{"-40", "9000"}));
-    }
-
-    void ptp_readFieldsRemembersPerMotionType()
-    {
-        Rig rig;
-        rig.chooseType(MotionType::Relative);
-        rig.edit("count")->setText("4");
-        rig.edit("delayTime")->setText("x");
-        rig.edit("position1")->setText("111");
-        rig.edit("position2")->setText("-600");
-        RepeatFields fields = rig.ptp.readFields();
-        QCOMPARE(fields.count, 4);
-        QCOMPARE(fields.delayMs, 0);
-        QCOMPARE(fields.distance, -600);
-        QCOMPARE(rig.remembered(TestValue::Position1), 0);
-        QCOMPARE(rig.remembered(TestValue::Position2), 1000);
-
-        rig.chooseType(MotionType::Absolute);
-        rig.edit("position1")->setText("111");
-        rig.edit("position2")->setText("222");
-        fields = rig.ptp.readFields();
-        QCOMPARE(fields.position1, 111);
-        QCOMPARE(fields.position2, 222);
-        QCOMPARE(rig.remembered(TestValue::Distance), -600);
-        // Another axis keeps its own values.
-        QCOMPARE(rig.state.registry.testValue(BoardFamily::RL, 1, 3, TestValue::Position1), 0);
     }
 
     void ptp_parametersChangedComparesTheProfileOfTheType()

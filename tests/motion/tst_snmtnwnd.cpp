@@ -199,27 +199,6 @@ private slots:
         }
     }
 
-    void stepButtons_releaseDoesNotStop()
-    {
-        Rig rig;
-        rig.open();
-        rig.pointToPoint(MotionType::Relative);
-        rig.find<QLineEdit>("position2")->setText("250");
-        QTest::mouseClick(rig.button("plusButton"), Qt::LeftButton);
-        QCOMPARE(rig.rl.calls({"Inc_Move", "Decel_Stop"}), QStringList{"Inc_Move(0,1,250)"});
-    }
-
-    void busyAxis_ignoresPress()
-    {
-        Rig rig;
-        rig.open();
-        rig.pointToPoint(MotionType::Jog);
-        rig.rl.setResultFor("Done", 0, 1, 1);
-        QTest::mouseClick(rig.button("plusButton"), Qt::LeftButton);
-        QCOMPARE(rig.rl.count("Jog_Move"), 0);
-        QCOMPARE(rig.rl.count("Decel_Stop"), 0);
-    }
-
     void alarmReset_heldWhilePressed()
     {
         Rig rig;
@@ -373,58 +352,6 @@ private slots:
         for (QWidget* widget : locked)
             QVERIFY2(widget->isEnabled(), qPrintable(widget->objectName()));
         QCOMPARE(rig.find<QLineEdit>("repeatCount")->text(), QStringLiteral("2"));
-    }
-
-    void noRepeat_neverLocksNorSetsAxesMoving()
-    {
-        Rig rig({4, 4});
-        rig.open();
-        rig.pointToPoint(MotionType::Absolute);
-        rig.rl.setResult("Done", 0);
-        rig.rl.queueResults("Done", {0, 1, 1});
-        QTest::mouseClick(rig.button("minusButton"), Qt::LeftButton);
-        QVERIFY(rig.window->sequencer().isMoving());
-        QVERIFY(!rig.axesMoving());
-        QVERIFY(rig.find<QComboBox>("cardCombo")->isEnabled());
-        QVERIFY(rig.find<QTabBar>("tabBar")->isEnabled());
-        rig.runUntilIdle();
-        QVERIFY(!rig.window->sequencer().isMoving());
-    }
-
-    void destroy_clearsAxisAndAxesMoving()
-    {
-        Rig rig;
-        rig.open();
-        rig.pointToPoint(MotionType::Relative);
-        rig.find<QCheckBox>("repeat")->click();
-        QTest::mouseClick(rig.button("plusButton"), Qt::LeftButton);
-        QVERIFY(rig.axesMoving());
-        rig.window.reset();
-        QVERIFY(!rig.axesMoving());
-        QCOMPARE(rig.state.active.axis, 0);
-        rig.clockwork.run(100);
-    }
-
-    void screenshot_duringRepeatShowsCycleTimeAndCount()
-    {
-        Rig rig;
-        rig.rl.setOutValues("GetPosSpeed", {100, 20000, 100, 100});
-        COV_SnMtnWnd& window = rig.open();
-        window.resize(720, 520);
-        window.show();
-        rig.pointToPoint(MotionType::Relative);
-        rig.find<QCheckBox>("repeat")->click();
-        rig.find<QLineEdit>("count")->setText("5");
-        rig.find<QLineEdit>("delayTime")->setText("100");
-        rig.find<QLineEdit>("position2")->setText("1000");
-        QTest::mouseClick(rig.button("plusButton"), Qt::LeftButton);
-        // Steps start at 0, 110, 220 and 330 ms.
-        rig.clockwork.run(357);
-        QCOMPARE(rig.find<QLineEdit>("repeatCount")->text(), QStringLiteral("4"));
-        QCOMPARE(rig.find<QLineEdit>("cycleTime")->text(), QStringLiteral("350"));
-        const QString path = QStringLiteral("/tmp/snmtnwnd_moving.png");
-        QVERIFY(window.grab().save(path));
-        qInfo("screenshot: %s", qPrintable(path));
     }
 };
 
