@@ -1,0 +1,459 @@
+#include "AppState.h"
+#include "BoardApi.h"
+#include "COV_MainFrame.h"
+#include "COV_StBaseWnd.h"
+#include "COV_WsSysWnd.h"
+#include "CascadePlacement.h"
+#include "RecordingBoard.h"
+#include "ScriptedPrompt.h"
+#include "ToolView.h"
+#include "ToolWindowHost.h"
+
+#include <QComboBox>
+#include <QDockWidget>
+#include <QFile>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <functional>
+#include <memory>
+
+namespace {
+
+// A tool window that logs what it hears and agrees to close unless told otherwise.
+class TestToolView : public ToolView
+{
+public:
+    TestToolView(ToolKind kind, QStringList& log, QWidget* parent)
+        : ToolView(parent), m_kind(kind), m_log(log)
+    {
+        setWindowTitle(QStringLiteral("Tool %1").arg(kind));
+        setMinimumSize(120, 80);
+    }
+    ToolKind kind() const override { return m_kind; }
+    void handleUserMessage(UserMessage message, int wParam) override
+    {
+        m_log << QStringLiteral("%1:%2:%3").arg(m_kind).arg(message).arg(wParam);
+        if (onMessage)
+            onMessage(message, wParam);
+    }
+    void requestClose() override
+    {
+        ++closeRequests;
+        if (agreeToClose)
+            emit closeRequested();
+    }
+    std::function<void(UserMessage, int)> onMessage;
+    bool agreeToClose = true;
+    int closeRequests = 0;
+
+private:
+    ToolKind m_kind;
+    QStringList& m_log;
+};
+
+} // namespace
+
+// The main frame on recorded boards: the tree it builds, the active controller and its
+// refusal, the relay of notifications, the tool windows, the settings it reads and the exit.
+class TestMainFrame : public QObject
+{
+    Q_OBJECT
+
+private:
+    struct Rig
+    {
+        RecordingBoard rl{BoardFamily::RL};
+        RecordingBoard rm{BoardFamily::RM};
+        RecordingBoard rn{BoardFamily::RN};
+        BoardApi api;
+        AppState state;
+        ScriptedPrompt prompt;
+        ToolWindowFactory factory;
+        QTemporaryDir dir;
+        QStringList log;
+        std::unique_ptr<COV_MainFrame> frame;
+
+        Rig(int rlLoad, int rmLoad, int rnLoad)
+        {
+            for (RecordingBoard* board : {&rl, &rm, &rn}) {
+                board->installInto(api);
+                board->setOutValues("BoardInfo", {0, 0x21, 4, 0, 16});
+                board->setResult("GetDllVersion", 1020304);
+            }
+            rl.setResult("LoadDevice", rlLoad);
+            rm.setResult("LoadDevice", rmLoad);
+            rn.setResult("LoadDevice", rnLoad);
+            state.moduleDirectory = dir.path() + QLatin1Char('/');
+            for (ToolKind kind : {ToolDigitalIo, ToolParameter, ToolSingleAxis}) {
+                factory.registerKind(kind, [this, kind](const ToolContext&, QWidget* parent) {
+                    return new TestToolView(kind, log, parent);
+                });
+            }
+        }
+        bool create()
+        {
+            frame = std::make_unique<COV_MainFrame>(state, api, prompt, factory);
+            const bool created = frame->create();
+            frame->monitorTimer().stop();
+            frame->resize(1200, 800);
+            return created;
+        }
+        COV_WsSysWnd* tree() const { return frame->tree(); }
+        TestToolView* view(ToolKind kind) const
+        {
+            return static_cast<TestToolView*>(frame->toolWindows().view(kind));
+        }
+        QStringList boldItems() const
+        {
+            QStringList bold;
+            QList<QTreeWidgetItem*> pending;
+            for (int i = 0; i < tree()->topLevelItemCount(); ++i)
+                pending << tree()->topLevelItem(i);
+            while (!pending.isEmpty()) {
+                QTreeWidgetItem* item = pending.takeFirst();
+                if (item->font(0).bold())
+                    bold << item->text(0);
+                for (int i = 0; i < item->childCount(); ++i)
+                    pending << item->child(i);
+            }
+            return bold;
+        }
+        static QStringList children(const QTreeWidgetItem* item)
+        {
+            QStringList texts;
+            for (int i = 0; i < item->childCount(); ++i)
+                texts << item->child(i)->text(0);
+            return texts;
+        }
+    };
+
+private slots:
+    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
+
+    void tree_rmAndRnOnlyMakesRmCardZeroActive()
+    {
+        Rig rig(-1, 0, 1);
+        rig.rn.setOutValuesFor("BoardInfo", 1, 0, {0, 0x50, 8, 0, 64});
+        QVERIFY(rig.create());
+        COV_WsSysWnd* tree = rig.tree();
+        QCOMPARE(tree->topLevelItemCount(), 2);
+        QVERIFY(tree->familyItem(BoardFamily::RL) == nullptr);
+        QCOMPARE(Rig::children(tree->familyItem(BoardFamily::RM)),
+                 (QStringList{"Dll Ver. : 1.2.3.4", "0 : NRX-RM416V"}));
+        QCOMPARE(Rig::children(tree->familyItem(BoardFamily::RN)),
+                 (QStringList{"Dll Ver. : 1.2.3.4", "0 : NRX-RN416V", "1 : NRX-RN864V"}));
+        QCOMPARE(Rig::children(tree->cardItem(BoardFamily::RN, 1)),
+                 (QStringList{"Axis : 8", "IO : 64", "Firmware Ver. : 0.0"}));
+        QVERIFY(tree->cardItem(BoardFamily::RN, 1)->isExpanded());
+        QCOMPARE(rig.state.active.family, BoardFamily::RM);
+        QCOMPARE(rig.state.active.previousFamily, BoardFamily::RM);
+        QCOMPARE(rig.boldItems(), (QStringList{"NRX-RMxxxV", "0 : NRX-RM416V"}));
+        QCOMPARE(rig.frame->familyCombo()->count(), 2);
+        QCOMPARE(rig.frame->familyCombo()->currentText(), QStringLiteral("NRX-RMxxxV"));
+        QCOMPARE(rig.frame->cardCombo()->count(), 1);
+        QCOMPARE(rig.frame->statusDock()->windowTitle(),
+                 QStringLiteral("Axis Status - NRX-RM416V(0)"));
+        QCOMPARE(rig.frame->motionDock()->windowTitle(),
+                 QStringLiteral("Motion Status - NRX-RM416V(0)"));
+    }
+
+    void tree_contextMenuOnlyOnCardItems()
+    {
+        Rig rig(1, -1, -1);
+        QVERIFY(rig.create());
+        QTreeWidgetItem* card = rig.tree()->cardItem(BoardFamily::RL, 1);
+        QCOMPARE(card->text(0), QStringLiteral("1 : NRX-RL416V"));
+        std::unique_ptr<QMenu> menu(rig.tree()->createContextMenu(card));
+        QVERIFY(menu);
+        QCOMPARE(menu->actions().first()->text(), QStringLiteral("Set Active Controller"));
+        QVERIFY(!rig.tree()->createContextMenu(card->child(0)));
+        QVERIFY(!rig.tree()->createContextMenu(rig.tree()->familyItem(BoardFamily::RL)));
+    }
+
+    void activeController_setFromTreeMovesBoldAndCombos()
+    {
+        Rig rig(-1, 0, 1);
+        QVERIFY(rig.create());
+        rig.tree()->setCurrentItem(rig.tree()->cardItem(BoardFamily::RN, 1));
+        rig.frame->setActiveControllerFromTree();
+        QCOMPARE(rig.state.active.family, BoardFamily::RN);
+        QCOMPARE(rig.state.active.card, 1);
+        QCOMPARE(rig.state.active.previousFamily, BoardFamily::RM);
+        QCOMPARE(rig.boldItems(), (QStringList{"NRX-RNxxxV", "1 : NRX-RN416V"}));
+        QCOMPARE(rig.frame->familyCombo()->currentText(), QStringLiteral("NRX-RNxxxV"));
+        QCOMPARE(rig.frame->cardCombo()->currentText(), QStringLiteral("1"));
+        QCOMPARE(rig.frame->statusDock()->windowTitle(),
+                 QStringLiteral("Axis Status - NRX-RN416V(1)"));
+
+        // A selected item that is no card changes nothing.
+        rig.tree()->setCurrentItem(rig.tree()->cardItem(BoardFamily::RM, 0)->child(0));
+        rig.frame->setActiveControllerFromTree();
+        QCOMPARE(rig.state.active.family, BoardFamily::RN);
+    }
+
+    void activeController_setFromCombos()
+    {
+        Rig rig(-1, 0, 1);
+        QVERIFY(rig.create());
+        rig.frame->familyCombo()->setCurrentIndex(1);
+        rig.frame->chooseFamily(1);
+        QCOMPARE(rig.state.active.family, BoardFamily::RN);
+        QCOMPARE(rig.state.active.card, 0);
+        QCOMPARE(rig.frame->cardCombo()->count(), 2);
+        rig.frame->chooseCard(1);
+        QCOMPARE(rig.state.active.card, 1);
+        QCOMPARE(rig.boldItems(), (QStringList{"NRX-RNxxxV", "1 : NRX-RN416V"}));
+        QVERIFY(rig.prompt.texts().isEmpty());
+    }
+
+    void activeController_refusedWhileAxesMove()
+    {
+        Rig rig(-1, 0, 1);
+        QVERIFY(rig.create());
+        const QString refusal =
+            QStringLiteral("Axes are moving !\nCan not change active controller !");
+        for (MovingOwner owner : {MovingOwner::SingleAxis, MovingOwner::MultiAxis}) {
+            rig.prompt.clear();
+            rig.state.active.axesMoving = {};
+            rig.state.active.setAxesMoving(owner, true);
+            rig.frame->familyCombo()->setCurrentIndex(1);
+            rig.frame->chooseFamily(1);
+            QCOMPARE(rig.frame->familyCombo()->currentIndex(), 0);
+            rig.tree()->setCurrentItem(rig.tree()->cardItem(BoardFamily::RN, 1));
+            rig.frame->setActiveControllerFromTree();
+            rig.frame->cardCombo()->setCurrentIndex(0);
+            rig.frame->chooseCard(0);
+            QCOMPARE(rig.prompt.messages(), (QStringList{refusal, refusal, refusal}));
+            QCOMPARE(rig.state.active.family, BoardFamily::RM);
+            QCOMPARE(rig.boldItems(), (QStringList{"NRX-RMxxxV", "0 : NRX-RM416V"}));
+        }
+    }
+
+    void tree_doubleClickOpensOnlyUnderTheActiveCard()
+    {
+        Rig rig(1, -1, -1);
+        QVERIFY(rig.create());
+        QTreeWidgetItem* inactive = rig.tree()->cardItem(BoardFamily::RL, 1);
+        rig.tree()->activateItem(inactive->child(0));
+        rig.tree()->activateItem(rig.tree()->cardItem(BoardFamily::RL, 0));
+        QCOMPARE(rig.frame->toolWindows().createdCount(), 0);
+        QTreeWidgetItem* active = rig.tree()->cardItem(BoardFamily::RL, 0);
+        rig.tree()->activateItem(active->child(1));
+        QVERIFY(rig.view(ToolDigitalIo));
+        rig.tree()->activateItem(active->child(0));
+        QVERIFY(rig.view(ToolSingleAxis));
+    }
+
+    void relay_orderAndRecipients()
+    {
+        Rig rig(1, -1, -1);
+        rig.rl.setOutValuesFor("BoardInfo", 1, 0, {0, 0x21, 8, 0, 16});
+        QVERIFY(rig.create());
+        rig.frame->openTool(ToolParameter);
+        rig.frame->openTool(ToolDigitalIo);
+        rig.log.clear();
+        QStringList seen;
+        rig.view(ToolParameter)->onMessage = [&](UserMessage, int) {
+            seen << QStringLiteral("status first axis %1, card combo %2")
+                        .arg(rig.frame->statusView()->firstAxis())
+                        .arg(rig.frame->cardCombo()->currentText());
+        };
+
+        // A tool window changes the card: the tree makes the change, then everyone hears 1127.
+        rig.frame->sendToFrame(UM_CARD_CHANGED, 1);
+        QCOMPARE(rig.state.active.card, 1);
+        QCOMPARE(rig.log, (QStringList{"101:1127:0", "102:1127:0"}));
+        QCOMPARE(seen, QStringList{"status first axis 0, card combo 1"});
+
+        // The status view hears the axis before the tool windows do.
+        rig.log.clear();
+        seen.clear();
+        rig.frame->sendToFrame(UM_AXIS_CHANGED, 5);
+        QCOMPARE(rig.log, (QStringList{"101:1135:5", "102:1135:5"}));
+        QCOMPARE(seen, QStringList{"status first axis 4, card combo 1"});
+
+        rig.log.clear();
+        for (UserMessage message :
+             {UM_STATUS_CARD_CHANGED, UM_STATUS_AXIS_CHANGED, UM_HOME_LIMIT_USE, UM_VIEW_COMMAND})
+            rig.frame->sendToFrame(message, 3);
+        QCOMPARE(rig.log, (QStringList{"101:1144:3", "102:1144:3", "101:1145:3", "102:1145:3",
+                                       "101:1138:3", "102:1138:3", "101:1154:3", "102:1154:3"}));
+
+        // Opening the single-axis window announces the active axis.
+        rig.log.clear();
+        rig.state.active.axis = 2;
+        rig.frame->openTool(ToolSingleAxis);
+        QCOMPARE(rig.log, (QStringList{"101:1135:2", "102:1135:2", "103:1135:2"}));
+        QCOMPARE(rig.frame->statusView()->firstAxis(), 0);
+    }
+
+    void relay_parameterChangedMarksTheActiveFamilysCard()
+    {
+        Rig rig(-1, 0, 1);
+        QVERIFY(rig.create());
+        rig.frame->sendToFrame(UM_PARAM_CHANGED, 1);
+        QVERIFY(rig.state.registry.parametersChanged(BoardFamily::RM, 1));
+        QVERIFY(!rig.state.registry.parametersChanged(BoardFamily::RN, 1));
+    }
+
+    void tools_oneWindowPerKind()
+    {
+        Rig rig(0, -1, -1);
+        QVERIFY(rig.create());
+        rig.frame->show();
+        rig.frame->openTool(ToolSingleAxis);
+        QMdiSubWindow* first = rig.frame->toolWindows().window(ToolSingleAxis);
+        QVERIFY(first);
+        QCOMPARE(first->pos(), QPoint(0, 0));
+        rig.frame->openTool(ToolParameter);
+        QCOMPARE(rig.frame->toolWindows().window(ToolParameter)->pos(), QPoint(23, 29));
+        rig.frame->openTool(ToolSingleAxis);
+        QCOMPARE(rig.frame->toolWindows().window(ToolSingleAxis), first);
+        QCOMPARE(first->mdiArea()->activeSubWindow(), first);
+        QCOMPARE(rig.frame->toolWindows().createdCount(), 2);
+        QCOMPARE(first->mdiArea()->subWindowList().size(), 2);
+        // Kinds whose windows are not registered open nothing.
+        rig.frame->openTool(ToolSystemIo);
+        rig.frame->openTool(ToolSystemDiagnosis);
+        QCOMPARE(first->mdiArea()->subWindowList().size(), 2);
+    }
+
+    void tools_closeAskTheViewAndCloseAllStopsAtARefusal()
+    {
+        Rig rig(0, -1, -1);
+        QVERIFY(rig.create());
+        rig.frame->show();
+        for (ToolKind kind : {ToolDigitalIo, ToolParameter, ToolSingleAxis})
+            rig.frame->openTool(kind);
+
+        rig.view(ToolDigitalIo)->agreeToClose = false;
+        rig.frame->toolWindows().window(ToolDigitalIo)->close();
+        QCOMPARE(rig.view(ToolDigitalIo)->closeRequests, 1);
+        QVERIFY(rig.frame->toolWindows().window(ToolDigitalIo));
+
+        // The active window goes first; the refusing one stops the round.
+        rig.frame->closeAllTools();
+        QVERIFY(!rig.frame->toolWindows().window(ToolSingleAxis));
+        QVERIFY(rig.frame->toolWindows().window(ToolDigitalIo));
+        QCOMPARE(rig.view(ToolDigitalIo)->closeRequests, 2);
+
+        rig.view(ToolDigitalIo)->agreeToClose = true;
+        rig.frame->closeAllTools();
+        QVERIFY(rig.frame->toolWindows().openViews().empty());
+        QCOMPARE(rig.frame->toolWindows().cascade().liveWindows(), 0);
+        // Closed kinds open again.
+        rig.frame->openTool(ToolParameter);
+        QVERIFY(rig.view(ToolParameter));
+    }
+
+    void cascade_stepsWrapsAndStepsBack()
+    {
+        CascadePlacement cascade;
+        const QSize area(50, 100);
+        QCOMPARE(cascade.placeNew(area), QPoint(0, 0));
+        QCOMPARE(cascade.placeNew(area), QPoint(23, 29));
+        QCOMPARE(cascade.placeNew(area), QPoint(46, 58));
+        QCOMPARE(cascade.placeNew(area), QPoint(0, 0)); // 69 is outside the width
+        cascade.windowDestroyed();
+        cascade.windowDestroyed();
+        QCOMPARE(cascade.offset(), QPoint(-46, -58));
+        QCOMPARE(cascade.placeNew(area), QPoint(-23, -29));
+        for (int i = 0; i < 3; ++i)
+            cascade.windowDestroyed();
+        QCOMPARE(cascade.placeNew(area), QPoint(0, 0));
+    }
+
+    void settings_readAtStart()
+    {
+        Rig rig(0, -1, -1);
+        QFile file(rig.state.moduleDirectory + QStringLiteral("ZelbrinOrvane.ini"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("[System]\r\nDefault_Show_Status_Window=0\r\n"
+                   "Change_Status_Axis_Depend_On_Operation=0\r\n");
+        file.close();
+        rig.frame = std::make_unique<COV_MainFrame>(rig.state, rig.api, rig.prompt, rig.factory);
+        QVERIFY(rig.frame->create());
+        QVERIFY(rig.frame->monitorTimer().isActive());
+        QCOMPARE(rig.frame->monitorTimer().interval(), 10);
+        rig.frame->show();
+        QVERIFY(rig.frame->statusDock()->isHidden());
+        QVERIFY(!rig.frame->motionDock()->isHidden());
+        QCOMPARE(rig.state.statusFollowsOperation, 0);
+        QCOMPARE(rig.state.settingsFilePath, file.fileName());
+    }
+
+    void settings_defaultsShowTheStatusPane()
+    {
+        Rig rig(0, -1, -1);
+        QVERIFY(rig.create());
+        rig.frame->show();
+        QVERIFY(!rig.frame->statusDock()->isHidden());
+        QCOMPARE(rig.state.statusFollowsOperation, 1);
+        for (QDockWidget* dock :
+             {rig.frame->treeDock(), rig.frame->statusDock(), rig.frame->motionDock()})
+            QCOMPARE(dock->features(), QDockWidget::NoDockWidgetFeatures);
+    }
+
+    void logLevel_goesToTheActiveFamilyOnly()
+    {
+        Rig rig(-1, 0, 0);
+        QVERIFY(rig.create());
+        rig.frame->applyLogLevel(3);
+        QCOMPARE(rig.rm.calls(QStringList{"LogCheck"}), QStringList{"LogCheck(3)"});
+        QCOMPARE(rig.rl.count(QStringLiteral("LogCheck")), 0);
+        QCOMPARE(rig.rn.count(QStringLiteral("LogCheck")), 0);
+        QCOMPARE(rig.state.logLevel, 3);
+    }
+
+    void monitorTick_readsTheActiveCard()
+    {
+        Rig rig(-1, 0, 1);
+        QVERIFY(rig.create());
+        rig.frame->show();
+        rig.rm.clearCalls();
+        rig.rn.clearCalls();
+        rig.frame->MonitorTick();
+        const QStringList calls = rig.rm.calls();
+        QCOMPARE(calls.filter(QStringLiteral("GetCardStatus")).size(), 4);
+        QVERIFY(calls.contains(QStringLiteral("GetCommandPos(0,3)")));
+        QCOMPARE(rig.rn.calls(), QStringList());
+    }
+
+    void exit_offersSaveThenUnloadsFamiliesWithBoards()
+    {
+        Rig rig(-1, 0, 1);
+        QVERIFY(rig.create());
+        rig.frame->sendToFrame(UM_PARAM_CHANGED, 0);
+        rig.frame->chooseFamily(1);
+        rig.frame->sendToFrame(UM_PARAM_CHANGED, 1);
+        rig.prompt.queueAnswers({false, true});
+        rig.frame->close();
+        QCOMPARE(rig.prompt.questions(),
+                 (QStringList{"NRX-RMxxxV(0) board parameters are changed.\nDo you want to save "
+                              "parameter to file?",
+                              "NRX-RNxxxV(1) board parameters are changed.\nDo you want to save "
+                              "parameter to file?"}));
+        QCOMPARE(rig.rm.count(QStringLiteral("SaveFile")), 0);
+        QCOMPARE(rig.rn.calls(QStringList{"SaveFile"}), QStringList{"SaveFile(1)"});
+        rig.frame.reset();
+        QCOMPARE(rig.rl.count(QStringLiteral("UnloadDevice")), 0);
+        QCOMPARE(rig.rm.count(QStringLiteral("UnloadDevice")), 1);
+        QCOMPARE(rig.rn.count(QStringLiteral("UnloadDevice")), 1);
+    }
+
+    void start_noBoardEndsTheProgram()
+    {
+        Rig rig(-1, -1, -1);
+        QVERIFY(!rig.create());
+        QCOMPARE(rig.prompt.messages(), QStringList{"FAIL! LOAD DEVICE DRIVER ...."});
+        QCOMPARE(rig.frame->tree()->topLevelItemCount(), 0);
+    }
+};
+
+QTEST_MAIN(TestMainFrame)
+#include "tst_mainframe.moc"
