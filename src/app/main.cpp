@@ -1,3 +1,4 @@
+#include "COV_SnMtnWnd.h"
 #include "COrvaneApp.h"
 
 #include <QApplication>
@@ -6,8 +7,10 @@ int main(int argc, char* argv[])
 {
     QApplication qtApp(argc, argv);
     COrvaneApp app;
-    // Tool windows plug in here, one line per kind:
-    // app.toolWindows().registerKind(ToolX, [](const ToolContext& c, QWidget* p) -> ToolView* {
-    //     return new COV_XWnd(c, p); });
+    // Each tool window plugs in with one line.
+    app.toolWindows().registerKind(ToolSingleAxis,
+                                   [](const ToolContext& context, QWidget* parent) -> ToolView* {
+                                       return new COV_SnMtnWnd(context, parent);
+                                   });
     return app.run();
 }

@@ -53,12 +53,16 @@ void COV_UtMtnStWnd::resizeEvent(QResizeEvent* event)
     fitColumns();
 }
 
-// Each axis column gets a ninth of the width; the row titles also take the remainder.
+// Each axis column gets a ninth of the width and the row titles the rest, but never less
+// than their longest title needs.
 void COV_UtMtnStWnd::fitColumns()
 {
     const int width = m_grid->width() - 2 * m_grid->frameWidth();
-    const int column = width / kGridColumns;
-    m_grid->verticalHeader()->setFixedWidth(column + width % kGridColumns);
+    QHeaderView* titles = m_grid->verticalHeader();
+    const int titleWidth =
+        qMax(width / kGridColumns + width % kGridColumns, titles->sizeHint().width());
+    titles->setFixedWidth(titleWidth);
+    const int column = qMax(0, width - titleWidth) / MotionStatusModel::kAxes;
     for (int axis = 0; axis < MotionStatusModel::kAxes; ++axis)
         m_grid->setColumnWidth(axis, column);
 }
