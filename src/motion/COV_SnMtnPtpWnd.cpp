@@ -291,8 +291,10 @@ void COV_SnMtnPtpWnd::onMotionTypeActivated(int index)
 {
     if (index < 0 || index > static_cast<int>(MotionType::Absolute))
         return;
-    if (parametersChanged(family()) && m_prompt.askYesNo(kParametersChanged))
+    if (parametersChanged(family()) && m_prompt.askYesNo(kParametersChanged)) {
         setParameters(family());
+        emit parametersWritten();
+    }
     m_motionType = static_cast<MotionType>(index);
     applyFieldStates();
     emit motionTypeChanged();

@@ -49,6 +49,8 @@ public:
 signals:
     void motionTypeChanged();
     void repeatChanged();
+    // The page wrote its edited speeds to the board after asking.
+    void parametersWritten();
 
 private:
     QLineEdit* addField(QGridLayout* grid, int row, const QString& label, const QString& unit,

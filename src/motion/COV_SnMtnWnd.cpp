@@ -177,6 +177,8 @@ void COV_SnMtnWnd::connectControls()
     connect(m_ptpPage, &COV_SnMtnPtpWnd::motionTypeChanged, this,
             [this] { layoutMotionButtons(); });
     connect(m_ptpPage, &COV_SnMtnPtpWnd::repeatChanged, this, [this] { layoutMotionButtons(); });
+    connect(m_ptpPage, &COV_SnMtnPtpWnd::parametersWritten, this,
+            [this] { m_context.frame.sendToFrame(UM_PARAM_CHANGED, m_card); });
 }
 
 void COV_SnMtnWnd::fillCardCombo()

@@ -88,10 +88,8 @@ void SingleAxisSequencer::pressJog(MotionDirection direction)
     m_idle = false;
     m_jogHeld = true;
     lock();
-    m_elapsedMs = 0;
-    m_startTick = m_clockwork.clock().tickCount();
     m_clockwork.motionPoll().start(kPollIntervalMs);
-    m_clockwork.cycleClock().start(kCycleClockIntervalMs);
+    startCycleClock();
 }
 
 void SingleAxisSequencer::pressRelative(MotionDirection direction)
@@ -110,10 +108,8 @@ void SingleAxisSequencer::pressRelative(MotionDirection direction)
     m_infinite = repeat && m_panel.infiniteTicked();
     if (!repeat)
         m_repeatTarget = 1;
-    m_elapsedMs = 0;
-    m_startTick = m_clockwork.clock().tickCount();
     m_clockwork.motionPoll().start(kPollIntervalMs);
-    m_clockwork.cycleClock().start(kCycleClockIntervalMs);
+    startCycleClock();
 }
 
 void SingleAxisSequencer::pressAbsolute(MotionDirection direction)
@@ -140,7 +136,7 @@ void SingleAxisSequencer::pressAbsolute(MotionDirection direction)
     m_clockwork.motionPoll().start(kPollIntervalMs);
     // With Repeat the cycle clock starts with the first move to Position 2.
     if (!repeat)
-        m_clockwork.cycleClock().start(kCycleClockIntervalMs);
+        startCycleClock();
 }
 
 void SingleAxisSequencer::relativeStep(int direction, bool returnToStart)
@@ -279,11 +275,8 @@ void SingleAxisSequencer::dwellAbsolute()
     m_absolutePhase = !m_absolutePhase;
     if (m_absolutePhase) {
         absoluteMove(2);
-        if (m_cycleCount == 0) {
-            m_elapsedMs = 0;
-            m_startTick = m_clockwork.clock().tickCount();
-            m_clockwork.cycleClock().start(kCycleClockIntervalMs);
-        }
+        if (m_cycleCount == 0)
+            startCycleClock();
         return;
     }
     absoluteMove(1);
@@ -291,6 +284,13 @@ void SingleAxisSequencer::dwellAbsolute()
     ++m_cycleCount;
     if (m_infinite)
         m_repeatTarget = 1;
+}
+
+void SingleAxisSequencer::startCycleClock()
+{
+    m_elapsedMs = 0;
+    m_startTick = m_clockwork.clock().tickCount();
+    m_clockwork.cycleClock().start(kCycleClockIntervalMs);
 }
 
 void SingleAxisSequencer::lock()

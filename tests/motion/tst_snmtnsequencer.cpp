@@ -229,6 +229,19 @@ private slots:
         QCOMPARE(rig.rl.count("Abs_Move"), 9);
 
         rig.rl.clearCalls();
+        // Without Repeat the cycle clock counts from the press.
+        rig.panel.repeat = false;
+        rig.panel.fields.count = 1;
+        rig.clockwork.tick.set(9000);
+        rig.sequencer.press(DirectionPlus);
+        rig.clockwork.tick.set(9120);
+        rig.sequencer.onCycleClock();
+        QCOMPARE(rig.panel.shown.last(), (QPair<int, int>{120, 0}));
+        rig.sequencer.onMotionPoll();
+        QVERIFY(!rig.sequencer.isMoving());
+
+        rig.rl.clearCalls();
+        rig.panel.repeat = true;
         rig.panel.fields.count = -1;
         rig.sequencer.press(DirectionMinus);
         QVERIFY(rig.moves().isEmpty() && !rig.panel.locked);

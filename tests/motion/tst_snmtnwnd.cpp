@@ -279,11 +279,19 @@ private slots:
         QCOMPARE(rig.prompt.questions().size(), 1);
         QCOMPARE(rig.frame.sent.last(), (QPair<int, int>{UM_PARAM_CHANGED, 0}));
 
+        // A motion-type change with edited speeds asks too; Yes writes and notifies the frame.
+        rig.find<QLineEdit>("driveSpeed")->setText("4200");
+        rig.prompt.queueAnswers({true});
+        rig.choose("motionType", int(MotionType::Relative));
+        QCOMPARE(rig.rl.calls({"SetJogSpeed"}).last(), QStringLiteral("SetJogSpeed(0,1,0,4200,0)"));
+        QCOMPARE(rig.frame.sent.size(), 3);
+        QCOMPARE(rig.prompt.questions().size(), 2);
+
         // The close prompt is asked once, also when the frame then closes the child.
         rig.find<QLineEdit>("driveSpeed")->setText("4100");
         rig.window->requestClose();
         rig.window->close();
-        QCOMPARE(rig.prompt.questions().size(), 2);
+        QCOMPARE(rig.prompt.questions().size(), 3);
     }
 
     void controllerChange_promptsForPreviousFamilyThenRebuilds()
