@@ -1,23 +1,11 @@
 #include "CLedButton.h"
 #include "LedFaces.h"
+#include "PaintCounter.h"
 
 #include <QApplication>
 #include <QTest>
 
 namespace {
-
-// Counts the paint events a widget receives.
-class PaintCounter : public QObject
-{
-public:
-    int paints = 0;
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        if (event->type() == QEvent::Paint)
-            ++paints;
-        return false;
-    }
-};
 
 QColor pixelAt(QWidget& widget, int x, int y)
 {

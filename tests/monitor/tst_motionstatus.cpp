@@ -4,24 +4,13 @@
 #include "FrameRelay.h"
 #include "MotionStatusModel.h"
 #include "RecordingBoard.h"
+#include "RecordingFrame.h"
 
 #include <QSignalSpy>
 #include <QTableView>
 #include <QTest>
 
 #include <memory>
-
-namespace {
-
-// The frame as the pane sees it: records what the pane sends.
-class RecordingFrame : public FrameRelay
-{
-public:
-    QList<QPair<int, int>> sent;
-    void sendToFrame(UserMessage message, int wParam) override { sent.append({message, wParam}); }
-};
-
-} // namespace
 
 // The motion-status pane: present and absent axis columns, reading only visible cells,
 // updating only changed cells, and choosing the active axis by double click.

@@ -3,6 +3,7 @@
 #include "BitLampPainter.h"
 #include "BoardApi.h"
 #include "COV_StBaseWnd.h"
+#include "PaintCounter.h"
 #include "RecordingBoard.h"
 #include "StatusBitCaptions.h"
 #include "StatusColumnRules.h"
@@ -15,18 +16,6 @@
 #include <memory>
 
 namespace {
-
-class PaintCounter : public QObject
-{
-public:
-    int paints = 0;
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        if (event->type() == QEvent::Paint)
-            ++paints;
-        return false;
-    }
-};
 
 QImage lampPicture(const QString& caption, bool lit)
 {
