@@ -7,10 +7,9 @@
 
 struct AppState;
 class BoardApi;
+class CounterPresets;
 class QComboBox;
-class QGridLayout;
 class QLineEdit;
-class QPushButton;
 
 // The "Home" page of the single-axis window: the homing parameters of the axis and the
 // command and actual counter presets.
@@ -29,14 +28,8 @@ public:
     HomeSettings fields() const;
 
 private:
-    QLineEdit* addField(QGridLayout* grid, int row, const QString& label, const QString& unit,
-                        const char* name);
     QWidget* createModeGroup();
     QWidget* createSpeedGroup();
-    QWidget* createCounterGroup();
-    BoardFamily family() const;
-    void onCommandClicked();
-    void onActualClicked();
 
     AppState& m_state;
     BoardApi& m_board;
@@ -48,8 +41,5 @@ private:
     QLineEdit* m_lowSpeed = nullptr;
     QLineEdit* m_accDec = nullptr;
     QLineEdit* m_offset = nullptr;
-    QLineEdit* m_setCommand = nullptr;
-    QPushButton* m_commandButton = nullptr;
-    QLineEdit* m_setActual = nullptr;
-    QPushButton* m_actualButton = nullptr;
+    CounterPresets* m_presets = nullptr;
 };

@@ -1,22 +1,20 @@
 #include "COV_SnMtnPtpWnd.h"
 
 #include "AppState.h"
-#include "BoardApi.h"
+#include "CounterPresets.h"
 #include "FieldText.h"
 #include "IsNumericText.h"
+#include "PageFieldGrid.h"
 #include "PromptService.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace {
-constexpr int kLabelWidth = 110;
 const QString kParametersChanged =
     QStringLiteral("Parameters are changed. Do you want to set parameter?");
 const QString kPps = QStringLiteral("[pps]");
@@ -32,6 +30,8 @@ COV_SnMtnPtpWnd::COV_SnMtnPtpWnd(AppState& state, BoardApi& board, PromptService
     layout->addWidget(createProfileGroup());
     layout->addWidget(createRepeatGroup());
     layout->addWidget(createPositionGroup());
+    m_presets = new CounterPresets(state, board);
+    layout->addWidget(m_presets);
     layout->addWidget(createDisplayGroup());
     layout->addStretch();
     connectControls();
@@ -41,80 +41,52 @@ COV_SnMtnPtpWnd::COV_SnMtnPtpWnd(AppState& state, BoardApi& board, PromptService
     applyFieldStates();
 }
 
-QLineEdit* COV_SnMtnPtpWnd::addField(QGridLayout* grid, int row, const QString& label,
-                                     const QString& unit, const char* name, QLabel** labelOut)
-{
-    auto* caption = new QLabel(label);
-    auto* edit = new QLineEdit;
-    edit->setObjectName(QLatin1String(name));
-    caption->setBuddy(edit);
-    grid->addWidget(caption, row, 0);
-    grid->addWidget(edit, row, 1);
-    // One label width for every group, so the fields line up down the page.
-    grid->setColumnMinimumWidth(0, kLabelWidth);
-    if (!unit.isEmpty())
-        grid->addWidget(new QLabel(unit), row, 2);
-    if (labelOut != nullptr)
-        *labelOut = caption;
-    return edit;
-}
-
 QWidget* COV_SnMtnPtpWnd::createProfileGroup()
 {
     auto* group = new QGroupBox;
-    auto* grid = new QGridLayout(group);
+    PageFieldGrid grid(group);
     m_motionTypeCombo = new QComboBox;
     m_motionTypeCombo->setObjectName(QStringLiteral("motionType"));
     m_motionTypeCombo->addItems({QStringLiteral("0 : Jog"), QStringLiteral("1 : Relative"),
                                  QStringLiteral("2 : Absolute")});
-    grid->addWidget(new QLabel(QStringLiteral(" Motion Type")), 0, 0);
-    grid->addWidget(m_motionTypeCombo, 0, 1);
-    m_drive = addField(grid, 1, QStringLiteral(" Drive Speed"), kPps, "driveSpeed");
-    m_initial = addField(grid, 2, QStringLiteral(" Initial Speed"), kPps, "initialSpeed");
-    m_accel = addField(grid, 3, QStringLiteral(" Accel Time"), kMsec, "accelTime", &m_accelLabel);
-    m_decel = addField(grid, 4, QStringLiteral(" Decel Time"), kMsec, "decelTime");
+    grid.addRow(QStringLiteral(" Motion Type"), m_motionTypeCombo);
+    m_drive = grid.addField(QStringLiteral(" Drive Speed"), kPps, "driveSpeed");
+    m_initial = grid.addField(QStringLiteral(" Initial Speed"), kPps, "initialSpeed");
+    m_accel = grid.addField(QStringLiteral(" Accel Time"), kMsec, "accelTime", &m_accelLabel);
+    m_decel = grid.addField(QStringLiteral(" Decel Time"), kMsec, "decelTime");
     return group;
 }
 
 QWidget* COV_SnMtnPtpWnd::createRepeatGroup()
 {
     auto* group = new QGroupBox;
-    auto* grid = new QGridLayout(group);
+    PageFieldGrid grid(group);
     m_repeat = new QCheckBox(QStringLiteral(" Repeat"));
     m_repeat->setObjectName(QStringLiteral("repeat"));
     m_infinite = new QCheckBox(QStringLiteral("Infinite"));
     m_infinite->setObjectName(QStringLiteral("infinite"));
-    grid->addWidget(m_repeat, 0, 0);
-    grid->addWidget(m_infinite, 0, 1);
-    m_count = addField(grid, 1, QStringLiteral(" Count"), QString(), "count");
-    m_delay = addField(grid, 2, QStringLiteral(" Delay Time"), kMsec, "delayTime");
+    grid.addRow(m_repeat, m_infinite);
+    m_count = grid.addField(QStringLiteral(" Count"), QString(), "count");
+    m_delay = grid.addField(QStringLiteral(" Delay Time"), kMsec, "delayTime");
     return group;
 }
 
 QWidget* COV_SnMtnPtpWnd::createPositionGroup()
 {
     auto* group = new QGroupBox;
-    auto* grid = new QGridLayout(group);
-    m_position1 = addField(grid, 0, QStringLiteral(" Position 1"), kPulse, "position1");
+    PageFieldGrid grid(group);
+    m_position1 = grid.addField(QStringLiteral(" Position 1"), kPulse, "position1");
     m_position2 =
-        addField(grid, 1, QStringLiteral(" Position 2"), kPulse, "position2", &m_position2Label);
-    m_setCommand = addField(grid, 2, QStringLiteral(" Set Command"), kPulse, "setCommand");
-    m_commandButton = new QPushButton(QStringLiteral("Command"));
-    m_commandButton->setObjectName(QStringLiteral("commandButton"));
-    grid->addWidget(m_commandButton, 2, 3);
-    m_setActual = addField(grid, 3, QStringLiteral(" Set Actual"), kPulse, "setActual");
-    m_actualButton = new QPushButton(QStringLiteral("Actual"));
-    m_actualButton->setObjectName(QStringLiteral("actualButton"));
-    grid->addWidget(m_actualButton, 3, 3);
+        grid.addField(QStringLiteral(" Position 2"), kPulse, "position2", &m_position2Label);
     return group;
 }
 
 QWidget* COV_SnMtnPtpWnd::createDisplayGroup()
 {
     auto* group = new QGroupBox;
-    auto* grid = new QGridLayout(group);
-    m_repeatCount = addField(grid, 0, QStringLiteral(" Repeat Count"), QString(), "repeatCount");
-    m_cycleTime = addField(grid, 1, QStringLiteral(" Cycle Time"), kMsec, "cycleTime");
+    PageFieldGrid grid(group);
+    m_repeatCount = grid.addField(QStringLiteral(" Repeat Count"), QString(), "repeatCount");
+    m_cycleTime = grid.addField(QStringLiteral(" Cycle Time"), kMsec, "cycleTime");
     m_repeatCount->setReadOnly(true);
     m_cycleTime->setReadOnly(true);
     return group;
@@ -127,8 +99,6 @@ void COV_SnMtnPtpWnd::connectControls()
     connect(m_repeat, &QCheckBox::clicked, this, [this](bool ticked) { onRepeatClicked(ticked); });
     connect(m_drive, &QLineEdit::textChanged, this,
             [this](const QString& text) { onDriveSpeedChanged(text); });
-    connect(m_commandButton, &QPushButton::clicked, this, [this] { onCommandClicked(); });
-    connect(m_actualButton, &QPushButton::clicked, this, [this] { onActualClicked(); });
 }
 
 BoardFamily COV_SnMtnPtpWnd::family() const
@@ -140,6 +110,7 @@ void COV_SnMtnPtpWnd::setCardAxis(CardNo card, AxisNo axis)
 {
     m_card = card;
     m_axis = axis;
+    m_presets->setCardAxis(card, axis);
 }
 
 void COV_SnMtnPtpWnd::applyFieldStates()
@@ -165,6 +136,7 @@ void COV_SnMtnPtpWnd::applyFieldStates()
 
 void COV_SnMtnPtpWnd::load()
 {
+    m_presets->load();
     const CardRegistry& registry = m_state.registry;
     const auto remembered = [&](TestValue which) {
         return registry.testValue(family(), m_card, m_axis, which);
@@ -176,8 +148,6 @@ void COV_SnMtnPtpWnd::load()
     setFieldNumber(m_initial, speeds.initial);
     setFieldNumber(m_accel, speeds.accelMs);
     setFieldNumber(m_decel, speeds.decelMs);
-    setFieldNumber(m_setCommand, remembered(TestValue::SetCommand));
-    setFieldNumber(m_setActual, remembered(TestValue::SetActual));
     setFieldNumber(m_count, remembered(TestValue::Count));
     setFieldNumber(m_delay, remembered(TestValue::DelayTime));
     if (m_motionType == MotionType::Relative) {
@@ -327,18 +297,4 @@ void COV_SnMtnPtpWnd::onDriveSpeedChanged(const QString& text)
     m_restoringDrive = true;
     m_drive->setText(m_lastValidDrive);
     m_restoringDrive = false;
-}
-
-void COV_SnMtnPtpWnd::onCommandClicked()
-{
-    const std::int32_t value = fieldNumber(m_setCommand);
-    m_board.SetCommandPos(family(), m_card, m_axis, value);
-    m_state.registry.setTestValue(family(), m_card, m_axis, TestValue::SetCommand, value);
-}
-
-void COV_SnMtnPtpWnd::onActualClicked()
-{
-    const std::int32_t value = fieldNumber(m_setActual);
-    m_board.SetActualPos(family(), m_card, m_axis, value);
-    m_state.registry.setTestValue(family(), m_card, m_axis, TestValue::SetActual, value);
 }

@@ -8,13 +8,12 @@
 
 struct AppState;
 class BoardApi;
+class CounterPresets;
 class PromptService;
 class QCheckBox;
 class QComboBox;
-class QGridLayout;
 class QLabel;
 class QLineEdit;
-class QPushButton;
 
 // The "Point To Point" page of the single-axis window: the speed profile, repeat settings and
 // positions of a move, and the cycle time and count while the host sequences it.
@@ -53,8 +52,6 @@ signals:
     void parametersWritten();
 
 private:
-    QLineEdit* addField(QGridLayout* grid, int row, const QString& label, const QString& unit,
-                        const char* name, QLabel** labelOut = nullptr);
     QWidget* createProfileGroup();
     QWidget* createRepeatGroup();
     QWidget* createPositionGroup();
@@ -66,8 +63,6 @@ private:
     void onMotionTypeActivated(int index);
     void onRepeatClicked(bool ticked);
     void onDriveSpeedChanged(const QString& text);
-    void onCommandClicked();
-    void onActualClicked();
 
     AppState& m_state;
     BoardApi& m_board;
@@ -91,10 +86,7 @@ private:
     QLineEdit* m_position1 = nullptr;
     QLineEdit* m_position2 = nullptr;
     QLabel* m_position2Label = nullptr;
-    QLineEdit* m_setCommand = nullptr;
-    QPushButton* m_commandButton = nullptr;
-    QLineEdit* m_setActual = nullptr;
-    QPushButton* m_actualButton = nullptr;
+    CounterPresets* m_presets = nullptr;
     QLineEdit* m_repeatCount = nullptr;
     QLineEdit* m_cycleTime = nullptr;
 };

@@ -1,0 +1,50 @@
+#include "CounterPresets.h"
+
+#include "AppState.h"
+#include "BoardApi.h"
+#include "FieldText.h"
+#include "PageFieldGrid.h"
+
+#include <QLineEdit>
+#include <QPushButton>
+
+CounterPresets::CounterPresets(AppState& state, BoardApi& board, QWidget* parent)
+    : QGroupBox(parent), m_state(state), m_board(board)
+{
+    PageFieldGrid grid(this);
+    const QString pulse = QStringLiteral("[pulse]");
+    m_setCommand = grid.addField(QStringLiteral(" Set Command"), pulse, "setCommand");
+    QPushButton* command = grid.addButton(QStringLiteral("Command"), "commandButton");
+    m_setActual = grid.addField(QStringLiteral(" Set Actual"), pulse, "setActual");
+    QPushButton* actual = grid.addButton(QStringLiteral("Actual"), "actualButton");
+    setFieldNumber(m_setCommand, 0);
+    setFieldNumber(m_setActual, 0);
+    connect(command, &QPushButton::clicked, this, [this] { preset(TestValue::SetCommand); });
+    connect(actual, &QPushButton::clicked, this, [this] { preset(TestValue::SetActual); });
+}
+
+void CounterPresets::setCardAxis(CardNo card, AxisNo axis)
+{
+    m_card = card;
+    m_axis = axis;
+}
+
+void CounterPresets::load()
+{
+    const BoardFamily family = m_state.active.family;
+    const CardRegistry& registry = m_state.registry;
+    setFieldNumber(m_setCommand, registry.testValue(family, m_card, m_axis, TestValue::SetCommand));
+    setFieldNumber(m_setActual, registry.testValue(family, m_card, m_axis, TestValue::SetActual));
+}
+
+void CounterPresets::preset(TestValue which)
+{
+    const BoardFamily family = m_state.active.family;
+    const bool command = which == TestValue::SetCommand;
+    const std::int32_t value = fieldNumber(command ? m_setCommand : m_setActual);
+    if (command)
+        m_board.SetCommandPos(family, m_card, m_axis, value);
+    else
+        m_board.SetActualPos(family, m_card, m_axis, value);
+    m_state.registry.setTestValue(family, m_card, m_axis, which, value);
+}
