@@ -605,6 +605,15 @@ void SimAxis::rampDown(AfterRamp after, int32_t code, uint16_t stopBits)
         profileFinished();
 }
 
+void SimAxis::redirectRamp(int32_t code)
+{
+    afterRamp_ = AfterRamp::Finish;
+    pendingCode_ = code;
+    pendingStopBits_ = 0;
+    if (group_ != 0)
+        groupEvent_ = GroupEvent::RampDown;
+}
+
 void SimAxis::profileFinished()
 {
     if (stopping_) {
@@ -669,7 +678,8 @@ void SimAxis::step(const Lines& lines)
     const int64_t next = onTarget ? *target_ : std::llround(exact);
     unitSpeed_ = s.speed;
     profileBits_ = s.driveBits;
-    if (next != machine_ && !stopping_) {
+    // A stop ramp still ends on a switch or soft limit it runs into.
+    if (next != machine_) {
         if (const auto e = firstEvent(machine_, next)) {
             takeEvent(*e, next);
             return;
@@ -692,7 +702,9 @@ std::optional<SimAxis::Event> SimAxis::firstEvent(int64_t from, int64_t to) cons
     };
 
     const bool homing = activity_ == Activity::Home;
-    const bool seeking = homing && !homeSearch_.finished() && !homeSearch_.current().offset;
+    // Past its signal a home leg only ramps down; the next leg looks again.
+    const bool seeking =
+        homing && !stopping_ && !homeSearch_.finished() && !homeSearch_.current().offset;
     if (seeking) {
         const HomeSearch::Leg& leg = homeSearch_.current();
         if (const auto t = firstTransition(leg.signal, from, to, leg.wantActive))
@@ -800,7 +812,10 @@ void SimAxis::onLimit(EventKind kind, int64_t position, int64_t next)
     if (slowDown && moving) {
         machine_ = next;
         exact_ = static_cast<double>(next);
-        rampDown(AfterRamp::Finish, code, 0);
+        if (stopping_)
+            redirectRamp(code); // already slowing down: the ramp goes on, its end changes
+        else
+            rampDown(AfterRamp::Finish, code, 0);
     } else {
         machine_ = position;
         exact_ = static_cast<double>(position);

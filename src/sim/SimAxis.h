@@ -143,6 +143,7 @@ private:
     void takeEvent(const Event& e, int64_t next);
     void onLimit(EventKind kind, int64_t position, int64_t next);
     void rampDown(AfterRamp after, int32_t code, uint16_t stopBits);
+    void redirectRamp(int32_t code);
     void profileFinished();
     void finish(int32_t code, uint16_t stopBits = 0);
     void startLeg();

@@ -245,6 +245,28 @@ private slots:
         QVERIFY(!(rl_->GetCardStatus(0, 2) & statusBit));
     }
 
+    void limits_stopAnAxisThatIsRampingDown()
+    {
+        // A long Decel_Stop ramp that would run through the switch ends on it.
+        rl_->SetJogSpeed(0, 2, 100, 20000, 1000);
+        rl_->Jog_Move(0, 2, 1);
+        while (rl_->GetCommandPos(0, 2) < 15000)
+            advance(1);
+        rl_->Decel_Stop(0, 2);
+        runUntilDone(0, 2);
+        QCOMPARE(rl_->GetMotionErrCod(0, 2), -620);
+        QCOMPARE(rl_->GetCommandPos(0, 2), 20000);
+        // ... and one that would run through a soft limit ends on the limit.
+        rl_->SetSlmt(0, 2, 5000, -5000, 1);
+        rl_->Jog_Move(0, 2, 0);
+        while (rl_->GetCommandPos(0, 2) > 3000)
+            advance(1);
+        rl_->Decel_Stop(0, 2);
+        runUntilDone(0, 2);
+        QCOMPARE(rl_->GetMotionErrCod(0, 2), -610);
+        QCOMPARE(rl_->GetCommandPos(0, 2), -5000);
+    }
+
     void limits_boardLevelAgainstWiringReadsInverted()
     {
         // Switches wired normally open but the board set to high active: the limit reads
