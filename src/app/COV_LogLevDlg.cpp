@@ -1,5 +1,6 @@
 #include "COV_LogLevDlg.h"
 
+#include "OkCancelButtons.h"
 #include "OrvaneSettings.h"
 
 #include <QComboBox>
@@ -13,7 +14,7 @@ COV_LogLevDlg::COV_LogLevDlg(int level, QWidget* parent) : QDialog(parent)
     setWindowTitle(QStringLiteral("Log Level Setup"));
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(createChoice(level));
-    layout->addWidget(createButtons());
+    layout->addWidget(createOkCancelButtons(*this));
 }
 
 QWidget* COV_LogLevDlg::createChoice(int level)
@@ -27,14 +28,6 @@ QWidget* COV_LogLevDlg::createChoice(int level)
     m_levels->setCurrentIndex(qBound(0, level, m_levels->count() - 1));
     layout->addWidget(m_levels, 1);
     return row;
-}
-
-QWidget* COV_LogLevDlg::createButtons()
-{
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    connect(buttons, &QDialogButtonBox::accepted, this, [this] { accept(); });
-    connect(buttons, &QDialogButtonBox::rejected, this, [this] { reject(); });
-    return buttons;
 }
 
 int COV_LogLevDlg::level() const

@@ -17,7 +17,6 @@ public:
 
 private:
     QWidget* createChoice(int level);
-    QWidget* createButtons();
 
     QComboBox* m_levels = nullptr;
 };

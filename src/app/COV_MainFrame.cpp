@@ -31,6 +31,20 @@ const QString kLayoutOrganisation = QStringLiteral("Local AppWizard-Generated Ap
 const QString kLayoutKey = QStringLiteral("CommandBars");
 const QString kMovingRefusal =
     QStringLiteral("Axes are moving !\nCan not change active controller !");
+
+// Gives a combo these entries and this selection, touching it only where it differs.
+void showEntries(QComboBox& combo, const QStringList& entries, int selection)
+{
+    QStringList shown;
+    for (int i = 0; i < combo.count(); ++i)
+        shown << combo.itemText(i);
+    if (shown != entries) {
+        combo.clear();
+        combo.addItems(entries);
+    }
+    if (combo.currentIndex() != selection)
+        combo.setCurrentIndex(selection);
+}
 } // namespace
 
 COV_MainFrame::COV_MainFrame(AppState& state, BoardApi& board, PromptService& prompt,
@@ -372,15 +386,7 @@ void COV_MainFrame::fillCardCombo(BoardFamily family, int selection)
     QStringList cards;
     for (int card = 0; card < m_state.registry.cardCount(family); ++card)
         cards << QString::number(card);
-    QStringList shown;
-    for (int i = 0; i < m_cardCombo->count(); ++i)
-        shown << m_cardCombo->itemText(i);
-    if (shown != cards) {
-        m_cardCombo->clear();
-        m_cardCombo->addItems(cards);
-    }
-    if (m_cardCombo->currentIndex() != selection)
-        m_cardCombo->setCurrentIndex(selection);
+    showEntries(*m_cardCombo, cards, selection);
 }
 
 void COV_MainFrame::fillCombos()
@@ -394,15 +400,7 @@ void COV_MainFrame::fillCombos()
             selection = static_cast<int>(families.size());
         families << QString::fromLatin1(familyDisplayName(family));
     }
-    QStringList shown;
-    for (int i = 0; i < m_familyCombo->count(); ++i)
-        shown << m_familyCombo->itemText(i);
-    if (shown != families) {
-        m_familyCombo->clear();
-        m_familyCombo->addItems(families);
-    }
-    if (m_familyCombo->currentIndex() != selection)
-        m_familyCombo->setCurrentIndex(selection);
+    showEntries(*m_familyCombo, families, selection);
     fillCardCombo(m_state.active.family, m_state.active.card);
 }
 

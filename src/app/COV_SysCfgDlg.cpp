@@ -1,5 +1,7 @@
 #include "COV_SysCfgDlg.h"
 
+#include "OkCancelButtons.h"
+
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QVBoxLayout>
@@ -11,7 +13,7 @@ COV_SysCfgDlg::COV_SysCfgDlg(QString settingsFilePath, QWidget* parent)
     setWindowTitle(QStringLiteral("System Environment Setup"));
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(createChecks());
-    layout->addWidget(createButtons());
+    layout->addWidget(createOkCancelButtons(*this));
 }
 
 QWidget* COV_SysCfgDlg::createChecks()
@@ -27,14 +29,6 @@ QWidget* COV_SysCfgDlg::createChecks()
     layout->addWidget(m_showStatus);
     layout->addWidget(m_followOperation);
     return box;
-}
-
-QWidget* COV_SysCfgDlg::createButtons()
-{
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    connect(buttons, &QDialogButtonBox::accepted, this, [this] { accept(); });
-    connect(buttons, &QDialogButtonBox::rejected, this, [this] { reject(); });
-    return buttons;
 }
 
 void COV_SysCfgDlg::accept()

@@ -23,7 +23,6 @@ public:
 
 private:
     QWidget* createChecks();
-    QWidget* createButtons();
 
     QString m_path;
     OrvaneSettings::System m_values;

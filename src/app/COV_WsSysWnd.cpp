@@ -11,6 +11,8 @@
 #include <QMenu>
 #include <QStyle>
 
+#include <utility>
+
 namespace {
 constexpr int kImageRole = Qt::UserRole + 1;
 
@@ -39,27 +41,19 @@ COV_WsSysWnd::COV_WsSysWnd(AppState& state, BoardStartup& startup, FrameRelay& f
 
 QIcon COV_WsSysWnd::imageIcon(Image image)
 {
-    QStyle::StandardPixmap pixmap = QStyle::SP_FileIcon;
-    switch (image) {
-    case FamilyImage:
-        pixmap = QStyle::SP_ComputerIcon;
-        break;
-    case CardImage:
-        pixmap = QStyle::SP_DriveHDIcon;
-        break;
-    case AxisImage:
-        pixmap = QStyle::SP_ArrowRight;
-        break;
-    case IoImage:
-        pixmap = QStyle::SP_DialogApplyButton;
-        break;
-    case FirmwareImage:
-        pixmap = QStyle::SP_FileDialogInfoView;
-        break;
-    case VersionImage:
-        break;
+    // The style's stock pictures stand in for the tree's image list.
+    static const std::pair<Image, QStyle::StandardPixmap> kPictures[] = {
+        {FamilyImage, QStyle::SP_ComputerIcon},
+        {CardImage, QStyle::SP_DriveHDIcon},
+        {AxisImage, QStyle::SP_ArrowRight},
+        {IoImage, QStyle::SP_DialogApplyButton},
+        {FirmwareImage, QStyle::SP_FileDialogInfoView},
+        {VersionImage, QStyle::SP_FileIcon}};
+    for (const auto& [each, picture] : kPictures) {
+        if (each == image)
+            return QApplication::style()->standardIcon(picture);
     }
-    return QApplication::style()->standardIcon(pixmap);
+    return QIcon();
 }
 
 QTreeWidgetItem* COV_WsSysWnd::familyItem(BoardFamily family) const

@@ -62,7 +62,9 @@ bool ToolWindowHost::open(ToolKind kind)
         return false;
     Slot& entry = slot(kind);
     if (entry.window) {
-        entry.window->showNormal();
+        // A maximised window stays maximised; a minimised one comes back to be seen.
+        if (entry.window->isMinimized())
+            entry.window->showNormal();
         m_area.setActiveSubWindow(entry.window);
         entry.window->raise();
         return true;

@@ -1,9 +1,8 @@
 #include "COV_StBaseWnd.h"
 
 #include "AppState.h"
-#include "COV_StCardWnd.h"
-#include "COV_StDrvWnd.h"
 #include "StatusColumnRules.h"
+#include "StatusLampPage.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -37,8 +36,8 @@ QWidget* COV_StBaseWnd::createTabs()
 QWidget* COV_StBaseWnd::createPages()
 {
     m_stack = new QStackedWidget(this);
-    m_cardPage = new COV_StCardWnd(m_state, m_board, m_stack);
-    m_drivePage = new COV_StDrvWnd(m_state, m_board, m_stack);
+    m_cardPage = new COV_StCardWnd(StatusWordKind::Card, m_state, m_board, m_stack);
+    m_drivePage = new COV_StDrvWnd(StatusWordKind::Drive, m_state, m_board, m_stack);
     m_stack->addWidget(m_cardPage);
     m_stack->addWidget(m_drivePage);
     return m_stack;

@@ -5,8 +5,6 @@
 #include <QWidget>
 
 class BoardApi;
-class COV_StCardWnd;
-class COV_StDrvWnd;
 class QPushButton;
 class QStackedWidget;
 class QTabBar;
@@ -55,6 +53,6 @@ private:
     int m_firstAxis = 0;
     QTabBar* m_tabs = nullptr;
     QStackedWidget* m_stack = nullptr;
-    COV_StCardWnd* m_cardPage = nullptr;
-    COV_StDrvWnd* m_drivePage = nullptr;
+    StatusLampPage* m_cardPage = nullptr;
+    StatusLampPage* m_drivePage = nullptr;
 };

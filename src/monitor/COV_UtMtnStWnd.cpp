@@ -42,8 +42,11 @@ void COV_UtMtnStWnd::createGrid()
     m_grid->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     m_grid->verticalHeader()->setDefaultSectionSize(kRowHeight);
     m_grid->verticalHeader()->setMinimumSectionSize(kRowHeight);
+    // The axis titles are the grid's top row: a double click there counts like one on a value.
     connect(m_grid, &QTableView::doubleClicked, this,
-            [this](const QModelIndex& index) { activateAxisAt(index); });
+            [this](const QModelIndex& index) { activateAxis(index.column()); });
+    connect(m_grid->horizontalHeader(), &QHeaderView::sectionDoubleClicked, this,
+            [this](int axis) { activateAxis(axis); });
     layout->addWidget(m_grid);
 }
 
@@ -103,12 +106,9 @@ void COV_UtMtnStWnd::refresh()
     }
 }
 
-void COV_UtMtnStWnd::activateAxisAt(const QModelIndex& index)
+void COV_UtMtnStWnd::activateAxis(int axis)
 {
-    if (!index.isValid())
-        return;
-    const int axis = index.column();
-    if (axis >= m_state.activeAxisCount())
+    if (axis < 0 || axis >= m_state.activeAxisCount())
         return;
     m_state.active.axis = axis;
     // The frame opens the single-axis window and announces the axis to every window.

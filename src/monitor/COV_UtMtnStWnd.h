@@ -5,7 +5,6 @@
 class BoardApi;
 class FrameRelay;
 class MotionStatusModel;
-class QModelIndex;
 class QTableView;
 struct AppState;
 
@@ -22,8 +21,8 @@ public:
 
     // Called by the frame on every monitor tick: reads the visible cells of present axes.
     void refresh();
-    // What a double click on a data cell does (grid column = axis).
-    void activateAxisAt(const QModelIndex& index);
+    // What a double click on an axis column does (its title or a value).
+    void activateAxis(int axis);
 
     QTableView* grid() const { return m_grid; }
     MotionStatusModel* model() const { return m_model; }

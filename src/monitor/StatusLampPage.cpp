@@ -3,6 +3,7 @@
 #include "AppState.h"
 #include "BitLamp.h"
 #include "BitLampPainter.h"
+#include "BoardApi.h"
 
 #include <QGridLayout>
 #include <QLineEdit>
@@ -109,6 +110,14 @@ void StatusLampPage::showColumns(const StatusColumnRules::Columns& columns)
         if (edit->text() != text)
             edit->setText(text);
     }
+}
+
+std::uint16_t StatusLampPage::readWord(BoardFamily family, int card, int axis)
+{
+    const auto c = static_cast<CardNo>(card);
+    const auto a = static_cast<AxisNo>(axis);
+    return m_word == StatusWordKind::Card ? m_board.GetCardStatus(family, c, a)
+                                          : m_board.GetDrvStatus(family, c, a);
 }
 
 void StatusLampPage::refresh()

@@ -41,11 +41,8 @@ public:
     BitLamp* lamp(int column, int bit) const;
     QLineEdit* title(int column) const;
 
-protected:
-    virtual std::uint16_t readWord(BoardFamily family, int card, int axis) = 0;
-    BoardApi& board() { return m_board; }
-
 private:
+    std::uint16_t readWord(BoardFamily family, int card, int axis);
     void createLayout();
     QWidget* createTitle(int column);
     void showColumns(const StatusColumnRules::Columns& columns);
@@ -62,3 +59,8 @@ private:
     std::array<std::array<std::uint32_t, kBits>, kColumns> m_shown{};
     StatusColumnRules::Columns m_columns;
 };
+
+// The status view's card page (GetCardStatus) and drive page (GetDrvStatus): the same page,
+// told which word to read.
+using COV_StCardWnd = StatusLampPage;
+using COV_StDrvWnd = StatusLampPage;

@@ -1,17 +1,16 @@
 #include "AppState.h"
-#include "BoardApi.h"
 #include "COV_MainFrame.h"
 #include "COV_StBaseWnd.h"
 #include "COV_WsSysWnd.h"
 #include "CascadePlacement.h"
-#include "RecordingBoard.h"
+#include "RecordingBoardSet.h"
 #include "ScriptedPrompt.h"
+#include "TextFile.h"
 #include "ToolView.h"
 #include "ToolWindowHost.h"
 
 #include <QComboBox>
 #include <QDockWidget>
-#include <QFile>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -65,12 +64,8 @@ class TestMainFrame : public QObject
     Q_OBJECT
 
 private:
-    struct Rig
+    struct Rig : RecordingBoardSet
     {
-        RecordingBoard rl{BoardFamily::RL};
-        RecordingBoard rm{BoardFamily::RM};
-        RecordingBoard rn{BoardFamily::RN};
-        BoardApi api;
         AppState state;
         ScriptedPrompt prompt;
         ToolWindowFactory factory;
@@ -80,8 +75,7 @@ private:
 
         Rig(int rlLoad, int rmLoad, int rnLoad)
         {
-            for (RecordingBoard* board : {&rl, &rm, &rn}) {
-                board->installInto(api);
+            for (RecordingBoard* board : all()) {
                 board->setOutValues("BoardInfo", {0, 0x21, 4, 0, 16});
                 board->setResult("GetDllVersion", 1020304);
             }
@@ -175,7 +169,7 @@ private slots:
         QVERIFY(!rig.tree()->createContextMenu(rig.tree()->familyItem(BoardFamily::RL)));
     }
 
-    void activeController_setFromTreeMovesBoldAndCombos()
+    void activeController_setFromTreeOrCombosMovesBoldTitlesAndCombos()
     {
         Rig rig(-1, 0, 1);
         QVERIFY(rig.create());
@@ -194,19 +188,16 @@ private slots:
         rig.tree()->setCurrentItem(rig.tree()->cardItem(BoardFamily::RM, 0)->child(0));
         rig.frame->setActiveControllerFromTree();
         QCOMPARE(rig.state.active.family, BoardFamily::RN);
-    }
 
-    void activeController_setFromCombos()
-    {
-        Rig rig(-1, 0, 1);
-        QVERIFY(rig.create());
+        // The combos: a family starts on its card 0, then the card combo picks within it.
+        rig.frame->familyCombo()->setCurrentIndex(0);
+        rig.frame->chooseFamily(0);
+        QCOMPARE(rig.state.active.family, BoardFamily::RM);
+        QCOMPARE(rig.state.active.card, 0);
+        QCOMPARE(rig.frame->cardCombo()->count(), 1);
         rig.frame->familyCombo()->setCurrentIndex(1);
         rig.frame->chooseFamily(1);
-        QCOMPARE(rig.state.active.family, BoardFamily::RN);
-        QCOMPARE(rig.state.active.card, 0);
-        QCOMPARE(rig.frame->cardCombo()->count(), 2);
         rig.frame->chooseCard(1);
-        QCOMPARE(rig.state.active.card, 1);
         QCOMPARE(rig.boldItems(), (QStringList{"NRX-RNxxxV", "1 : NRX-RN416V"}));
         QVERIFY(rig.prompt.texts().isEmpty());
     }
@@ -292,15 +283,6 @@ private slots:
         QCOMPARE(rig.frame->statusView()->firstAxis(), 0);
     }
 
-    void relay_parameterChangedMarksTheActiveFamilysCard()
-    {
-        Rig rig(-1, 0, 1);
-        QVERIFY(rig.create());
-        rig.frame->sendToFrame(UM_PARAM_CHANGED, 1);
-        QVERIFY(rig.state.registry.parametersChanged(BoardFamily::RM, 1));
-        QVERIFY(!rig.state.registry.parametersChanged(BoardFamily::RN, 1));
-    }
-
     void tools_oneWindowPerKind()
     {
         Rig rig(0, -1, -1);
@@ -312,9 +294,11 @@ private slots:
         QCOMPARE(first->pos(), QPoint(0, 0));
         rig.frame->openTool(ToolParameter);
         QCOMPARE(rig.frame->toolWindows().window(ToolParameter)->pos(), QPoint(23, 29));
+        first->showMaximized();
         rig.frame->openTool(ToolSingleAxis);
         QCOMPARE(rig.frame->toolWindows().window(ToolSingleAxis), first);
         QCOMPARE(first->mdiArea()->activeSubWindow(), first);
+        QVERIFY(first->isMaximized());
         QCOMPARE(rig.frame->toolWindows().createdCount(), 2);
         QCOMPARE(first->mdiArea()->subWindowList().size(), 2);
         // Kinds whose windows are not registered open nothing.
@@ -368,14 +352,21 @@ private slots:
         QCOMPARE(cascade.placeNew(area), QPoint(0, 0));
     }
 
-    void settings_readAtStart()
+    void settings_readAtStartAndDefaultToShowingTheStatusPane()
     {
+        Rig defaults(0, -1, -1);
+        QVERIFY(defaults.create());
+        defaults.frame->show();
+        QVERIFY(!defaults.frame->statusDock()->isHidden());
+        QCOMPARE(defaults.state.statusFollowsOperation, 1);
+        for (QDockWidget* dock : {defaults.frame->treeDock(), defaults.frame->statusDock(),
+                                  defaults.frame->motionDock()})
+            QCOMPARE(dock->features(), QDockWidget::NoDockWidgetFeatures);
+
         Rig rig(0, -1, -1);
-        QFile file(rig.state.moduleDirectory + QStringLiteral("ZelbrinOrvane.ini"));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("[System]\r\nDefault_Show_Status_Window=0\r\n"
-                   "Change_Status_Axis_Depend_On_Operation=0\r\n");
-        file.close();
+        const QString path = rig.state.moduleDirectory + QStringLiteral("ZelbrinOrvane.ini");
+        QVERIFY(TextFile::write(path, "[System]\r\nDefault_Show_Status_Window=0\r\n"
+                                      "Change_Status_Axis_Depend_On_Operation=0\r\n"));
         rig.frame = std::make_unique<COV_MainFrame>(rig.state, rig.api, rig.prompt, rig.factory);
         QVERIFY(rig.frame->create());
         QVERIFY(rig.frame->monitorTimer().isActive());
@@ -384,19 +375,7 @@ private slots:
         QVERIFY(rig.frame->statusDock()->isHidden());
         QVERIFY(!rig.frame->motionDock()->isHidden());
         QCOMPARE(rig.state.statusFollowsOperation, 0);
-        QCOMPARE(rig.state.settingsFilePath, file.fileName());
-    }
-
-    void settings_defaultsShowTheStatusPane()
-    {
-        Rig rig(0, -1, -1);
-        QVERIFY(rig.create());
-        rig.frame->show();
-        QVERIFY(!rig.frame->statusDock()->isHidden());
-        QCOMPARE(rig.state.statusFollowsOperation, 1);
-        for (QDockWidget* dock :
-             {rig.frame->treeDock(), rig.frame->statusDock(), rig.frame->motionDock()})
-            QCOMPARE(dock->features(), QDockWidget::NoDockWidgetFeatures);
+        QCOMPARE(rig.state.settingsFilePath, path);
     }
 
     void logLevel_goesToTheActiveFamilyOnly()

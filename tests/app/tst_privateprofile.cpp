@@ -1,25 +1,8 @@
 #include "PrivateProfile.h"
+#include "TextFile.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
-
-namespace {
-
-void writeFile(const QString& path, const QByteArray& content)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(content);
-}
-
-QByteArray readFile(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-} // namespace
 
 // The settings files' reader and writer: plain values, matching without case, and writes that
 // change one line and keep the rest of the file.
@@ -35,8 +18,9 @@ private slots:
     void read_valuesArePlainText()
     {
         const QString file = path("plain.ini");
-        writeFile(file, "; comment=ignored\r\n[Paths]\r\n  Folder = C:\\Boards\\RL , 2 \r\n"
-                        "Quoted=\" spaced \"\r\n[other]\r\nFolder=wrong\r\n");
+        QVERIFY(TextFile::write(file,
+                                "; comment=ignored\r\n[Paths]\r\n  Folder = C:\\Boards\\RL , 2 \r\n"
+                                "Quoted=\" spaced \"\r\n[other]\r\nFolder=wrong\r\n"));
         const PrivateProfile profile(file);
         QCOMPARE(profile.readString("paths", "FOLDER"), QByteArray("C:\\Boards\\RL , 2"));
         QCOMPARE(profile.readString("Paths", "Quoted"), QByteArray(" spaced "));
@@ -50,7 +34,7 @@ private slots:
     void readInt_emptyOrAbsentKeepsFallbackTextReadsZero()
     {
         const QString file = path("numbers.ini");
-        writeFile(file, "[S]\nEmpty=\nText=abc\nLeading=12abc\nNegative= -7\n");
+        QVERIFY(TextFile::write(file, "[S]\nEmpty=\nText=abc\nLeading=12abc\nNegative= -7\n"));
         const PrivateProfile profile(file);
         QCOMPARE(profile.readInt("S", "Empty", 1), 1);
         QCOMPARE(profile.readInt("S", "Absent", 1), 1);
@@ -66,22 +50,22 @@ private slots:
         const QByteArray before =
             "; Orvane settings\r\n[System]\r\nDefault_Show_Status_Window=1\r\n"
             "Other=a,b\\c\r\n\r\n[Next]\r\nKey=1\r\n";
-        writeFile(file, before);
+        QVERIFY(TextFile::write(file, before));
         PrivateProfile profile(file);
         QVERIFY(profile.writeInt("system", "default_show_status_window", 0));
         QByteArray expected = before;
         expected.replace("Default_Show_Status_Window=1", "default_show_status_window=0");
-        QCOMPARE(readFile(file), expected);
+        QCOMPARE(TextFile::read(file), expected);
     }
 
     void write_newKeyJoinsItsSectionNewSectionIsAppended()
     {
         const QString file = path("grow.ini");
-        writeFile(file, "[System]\nA=1\n\n[Next]\nB=2\n");
+        QVERIFY(TextFile::write(file, "[System]\nA=1\n\n[Next]\nB=2\n"));
         PrivateProfile profile(file);
         QVERIFY(profile.writeString("System", "C", "x,y"));
         QVERIFY(profile.writeString("DEBUG_RM", "LOG_LEVEL", "3"));
-        QCOMPARE(readFile(file),
+        QCOMPARE(TextFile::read(file),
                  QByteArray("[System]\nA=1\nC=x,y\n\n[Next]\nB=2\n[DEBUG_RM]\nLOG_LEVEL=3\n"));
         QCOMPARE(profile.readString("System", "C"), QByteArray("x,y"));
     }
@@ -91,7 +75,7 @@ private slots:
         const QString file = path("new.ini");
         PrivateProfile profile(file);
         QVERIFY(profile.writeInt("System", "Change_Status_Axis_Depend_On_Operation", 0));
-        QCOMPARE(readFile(file),
+        QCOMPARE(TextFile::read(file),
                  QByteArray("[System]\r\nChange_Status_Axis_Depend_On_Operation=0\r\n"));
     }
 };

@@ -3,24 +3,13 @@
 #include "COV_LogLevDlg.h"
 #include "COV_SysCfgDlg.h"
 #include "OrvaneSettings.h"
-#include "RecordingBoard.h"
+#include "TextFile.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
-
-namespace {
-
-void writeFile(const QString& path, const QByteArray& content)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(content);
-}
-
-} // namespace
 
 // The two settings files and their dialogs.
 class TestSettings : public QObject
@@ -39,23 +28,29 @@ private slots:
         QFile::remove(folder() + OrvaneSettings::debugLevelFileName());
     }
 
-    void system_defaultsWithoutFile()
+    void systemDialog_opensOnDefaultsOrTheFileValues()
     {
         const OrvaneSettings::System values = OrvaneSettings::readSystem(settingsFile());
         QCOMPARE(values.showStatusWindow, 1);
         QCOMPARE(values.statusFollowsOperation, 1);
-        COV_SysCfgDlg dialog(settingsFile());
-        QVERIFY(dialog.showStatusBox()->isChecked());
-        QVERIFY(dialog.followOperationBox()->isChecked());
-        QCOMPARE(dialog.showStatusBox()->text(),
-                 QStringLiteral(" Default Show Axis Status Window "));
-        QCOMPARE(dialog.followOperationBox()->text(),
-                 QStringLiteral(" Change Status Window Axis Depeng On Operation Window"));
+        COV_SysCfgDlg defaults(settingsFile());
+        QVERIFY(defaults.showStatusBox()->isChecked());
+        QVERIFY(defaults.followOperationBox()->isChecked());
+        QCOMPARE(defaults.showStatusBox()->text(), " Default Show Axis Status Window ");
+        QCOMPARE(defaults.followOperationBox()->text(),
+                 " Change Status Window Axis Depeng On Operation Window");
+
+        QVERIFY(TextFile::write(settingsFile(),
+                                "[System]\nChange_Status_Axis_Depend_On_Operation=0\n"));
+        COV_SysCfgDlg fromFile(settingsFile());
+        QVERIFY(fromFile.showStatusBox()->isChecked());
+        QVERIFY(!fromFile.followOperationBox()->isChecked());
     }
 
     void systemDialog_okWritesBothKeysCancelWritesNothing()
     {
-        writeFile(settingsFile(), "; kept\r\n[System]\r\nDefault_Show_Status_Window=1\r\n");
+        QVERIFY(TextFile::write(settingsFile(),
+                                "; kept\r\n[System]\r\nDefault_Show_Status_Window=1\r\n"));
         {
             COV_SysCfgDlg dialog(settingsFile());
             dialog.followOperationBox()->setChecked(false);
@@ -66,23 +61,15 @@ private slots:
         dialog.showStatusBox()->setChecked(false);
         dialog.accept();
         QCOMPARE(dialog.values().showStatusWindow, 0);
-        QFile file(settingsFile());
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll(), QByteArray("; kept\r\n[System]\r\nDefault_Show_Status_Window=0\r\n"
-                                            "Change_Status_Axis_Depend_On_Operation=1\r\n"));
-    }
-
-    void systemDialog_opensOnTheFileValues()
-    {
-        writeFile(settingsFile(), "[System]\nChange_Status_Axis_Depend_On_Operation=0\n");
-        COV_SysCfgDlg dialog(settingsFile());
-        QVERIFY(dialog.showStatusBox()->isChecked());
-        QVERIFY(!dialog.followOperationBox()->isChecked());
+        QCOMPARE(TextFile::read(settingsFile()),
+                 QByteArray("; kept\r\n[System]\r\nDefault_Show_Status_Window=0\r\n"
+                            "Change_Status_Axis_Depend_On_Operation=1\r\n"));
     }
 
     void logLevel_readByTheActiveFamily()
     {
-        writeFile(folder() + OrvaneSettings::debugLevelFileName(), "[DEBUG_RM]\nLOG_LEVEL=3\n");
+        QVERIFY(TextFile::write(folder() + OrvaneSettings::debugLevelFileName(),
+                                "[DEBUG_RM]\nLOG_LEVEL=3\n"));
         QCOMPARE(OrvaneSettings::readLogLevel(folder(), BoardFamily::RM), 3);
         QCOMPARE(OrvaneSettings::readLogLevel(folder(), BoardFamily::RL), 2);
         COV_LogLevDlg rm(OrvaneSettings::readLogLevel(folder(), BoardFamily::RM));

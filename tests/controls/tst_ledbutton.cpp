@@ -42,7 +42,7 @@ private:
     };
 
 private slots:
-    void setState_sameStateDoesNotRepaint()
+    void setState_repaintsOnlyOnAChangeOrAStateOutOfRange()
     {
         ShownLamp lamp;
         lamp.button.SetState(0);
@@ -54,55 +54,39 @@ private slots:
         for (int poll = 0; poll < 10; ++poll)
             lamp.button.SetState(1);
         QCOMPARE(lamp.paintsAfterEvents(), 0);
-    }
-
-    void setState_outOfRangeKeepsStateButRepaints()
-    {
-        ShownLamp lamp;
+        // A state the lamp does not have keeps the shown one but still repaints.
         lamp.button.SetState(5);
-        QCOMPARE(lamp.button.state(), 0u);
+        QCOMPARE(lamp.button.state(), 1u);
         QVERIFY(lamp.paintsAfterEvents() > 0);
     }
 
-    void setState_filterDecidesTheShownState()
+    void setState_filterAndReturnTimerDecideTheShownState()
     {
         CLedButton button;
         button.SetStateCount(3, false);
         button.setStateFilter([](unsigned requested, unsigned current, bool) {
             return requested == 2 ? current : requested;
         });
-        button.SetState(1);
-        button.SetState(2);
-        QCOMPARE(button.state(), 1u);
-    }
-
-    void stateReturn_goesBackWhenItsTimerFires()
-    {
-        CLedButton button;
         button.setStateReturn(true, 0);
         button.SetState(1);
+        button.SetState(2);
         QCOMPARE(button.state(), 1u);
         button.returnToState();
         QCOMPARE(button.state(), 0u);
     }
 
-    void stateCount_resetsColoursAndRejectsIconsBeyond()
+    void stateCount_resetsColoursAndBoundsEveryOperation()
     {
         CLedButton button;
         QVERIFY(button.SetStateColors(1, Qt::red, Qt::blue));
+        button.SetState(1, false);
+        QCOMPARE(button.backgroundColor(), QColor(Qt::blue));
         button.SetStateCount(4, false);
-        QCOMPARE(button.stateCount(), 4u);
         QCOMPARE(button.stateBackgroundColor(1), button.palette().color(QPalette::Button));
         QVERIFY(button.SetStateIconHandle(3, LedFaces::face(LedLamp::Red, LedGround::White)));
         QVERIFY(!button.SetStateIconHandle(4, LedFaces::face(LedLamp::Red, LedGround::White)));
         QVERIFY(!button.SetStateColors(4, Qt::red, Qt::blue));
-    }
-
-    void backgroundColour_outOfRangeStateGivesButtonFace()
-    {
-        CLedButton button;
-        button.SetStateColors(0, Qt::black, Qt::yellow);
-        QCOMPARE(button.backgroundColor(), QColor(Qt::yellow));
+        // With no state left the background is the button face.
         button.SetStateCount(0, false);
         QCOMPARE(button.backgroundColor(), button.palette().color(QPalette::Button));
     }

@@ -1,11 +1,11 @@
 #include "AppState.h"
 #include "BoardApi.h"
 #include "COV_UtMtnStWnd.h"
-#include "FrameRelay.h"
 #include "MotionStatusModel.h"
 #include "RecordingBoard.h"
 #include "RecordingFrame.h"
 
+#include <QHeaderView>
 #include <QSignalSpy>
 #include <QTableView>
 #include <QTest>
@@ -27,6 +27,7 @@ private:
         RecordingFrame frame;
         std::unique_ptr<COV_UtMtnStWnd> pane;
 
+        // Card 0 with the given axes, card 1 with eight.
         explicit Rig(int axes, QSize size = QSize(900, 96))
         {
             board.installInto(api);
@@ -38,49 +39,38 @@ private:
             pane->resize(size);
             pane->show();
         }
-        QString text(int row, int axis) const
+        QVariant cell(int row, int axis, int role = Qt::DisplayRole) const
         {
-            return pane->model()->index(row, axis).data().toString();
-        }
-        QColor background(int row, int axis) const
-        {
-            return pane->model()->index(row, axis).data(Qt::BackgroundRole).value<QColor>();
+            return pane->model()->index(row, axis).data(role);
         }
     };
 
 private slots:
-    void columns_absentAxesAreBlankAndGrey()
+    void columns_absentAxesAreBlankAndGreyUntilTheCardHasThem()
     {
         Rig rig(2);
         rig.board.setResultFor("GetCommandPos", 0, 1, -1500);
         rig.board.setResultFor("GetActualPos", 0, 0, 42);
         rig.board.setResultFor("GetCommandSpeed", 0, 1, 8000);
         rig.pane->refresh();
-        QCOMPARE(rig.text(MotionStatusModel::CommandPosition, 1), QStringLiteral("-1500"));
-        QCOMPARE(rig.text(MotionStatusModel::ActualPosition, 0), QStringLiteral("42"));
-        QCOMPARE(rig.text(MotionStatusModel::CommandVelocity, 1), QStringLiteral("8000"));
-        QCOMPARE(rig.background(0, 1), QColor(Qt::white));
+        QCOMPARE(rig.cell(MotionStatusModel::CommandPosition, 1).toString(), "-1500");
+        QCOMPARE(rig.cell(MotionStatusModel::ActualPosition, 0).toString(), "42");
+        QCOMPARE(rig.cell(MotionStatusModel::CommandVelocity, 1).toString(), "8000");
+        QCOMPARE(rig.cell(0, 1, Qt::BackgroundRole).value<QColor>(), QColor(Qt::white));
         for (int row = 0; row < MotionStatusModel::kRows; ++row) {
             for (int axis = 2; axis < 8; ++axis) {
-                QCOMPARE(rig.text(row, axis), QString());
-                QCOMPARE(rig.background(row, axis), QColor(222, 222, 222));
+                QCOMPARE(rig.cell(row, axis).toString(), QString());
+                QCOMPARE(rig.cell(row, axis, Qt::BackgroundRole).value<QColor>(),
+                         QColor(222, 222, 222));
             }
         }
         QCOMPARE(rig.board.calls().size(), 6);
-        QCOMPARE(rig.pane->model()->headerData(7, Qt::Horizontal, Qt::DisplayRole).toString(),
-                 QStringLiteral("7 Axis"));
-        QCOMPARE(rig.pane->model()->headerData(2, Qt::Vertical, Qt::DisplayRole).toString(),
-                 QStringLiteral("Command Velocity"));
-    }
 
-    void columns_followTheActiveCardOnTheNextTick()
-    {
-        Rig rig(2);
-        rig.pane->refresh();
+        // The next tick after a change of the active controller shows the new card.
         rig.state.active.card = 1;
         rig.board.clearCalls();
         rig.pane->refresh();
-        QCOMPARE(rig.background(0, 7), QColor(Qt::white));
+        QCOMPARE(rig.cell(0, 7, Qt::BackgroundRole).value<QColor>(), QColor(Qt::white));
         QCOMPARE(rig.board.count(QStringLiteral("GetActualPos")), 8);
         QVERIFY(rig.board.calls().contains(QStringLiteral("GetCommandPos(1,7)")));
     }
@@ -113,23 +103,26 @@ private slots:
         QCOMPARE(changed.column(), 5);
     }
 
-    void doubleClick_presentAxisBecomesActiveAndOpensSingleAxis()
+    void doubleClick_onlyPresentAxesBecomeActive()
     {
         Rig rig(2);
         rig.pane->refresh();
-        rig.pane->activateAxisAt(rig.pane->model()->index(0, 1));
-        QCOMPARE(rig.state.active.axis, 1);
-        QCOMPARE(rig.frame.sent, (QList<QPair<int, int>>{{UM_OPEN_TOOL, ToolSingleAxis}}));
-    }
-
-    void doubleClick_greyColumnDoesNothing()
-    {
-        Rig rig(2);
-        rig.pane->refresh();
-        rig.pane->activateAxisAt(rig.pane->model()->index(2, 4));
-        rig.pane->activateAxisAt(QModelIndex());
-        QCOMPARE(rig.state.active.axis, 0);
+        QTableView* grid = rig.pane->grid();
+        QHeaderView* axisTitles = grid->horizontalHeader();
+        // The grey column, its axis title, and no cell at all: nothing.
+        emit grid->doubleClicked(rig.pane->model()->index(2, 4));
+        emit axisTitles->sectionDoubleClicked(3);
+        emit grid->doubleClicked(QModelIndex());
         QVERIFY(rig.frame.sent.isEmpty());
+
+        const QList<QPair<int, int>> opened{{UM_OPEN_TOOL, ToolSingleAxis}};
+        emit grid->doubleClicked(rig.pane->model()->index(0, 1));
+        QCOMPARE(rig.state.active.axis, 1);
+        QCOMPARE(rig.frame.sent, opened);
+        // The axis titles are the grid's top row and count too.
+        emit axisTitles->sectionDoubleClicked(0);
+        QCOMPARE(rig.state.active.axis, 0);
+        QCOMPARE(rig.frame.sent, opened + opened);
     }
 };
 

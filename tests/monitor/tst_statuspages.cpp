@@ -5,8 +5,6 @@
 #include "COV_StBaseWnd.h"
 #include "PaintCounter.h"
 #include "RecordingBoard.h"
-#include "StatusBitCaptions.h"
-#include "StatusColumnRules.h"
 #include "StatusLampPage.h"
 
 #include <QApplication>
@@ -73,18 +71,6 @@ private:
     };
 
 private slots:
-    void paging_buttonsStayWithinZeroToFour()
-    {
-        QCOMPARE(StatusColumnRules::pageFirst(3), 0);
-        QCOMPARE(StatusColumnRules::pageFirst(4), 0);
-        QCOMPARE(StatusColumnRules::pagePrevious(0), 0);
-        QCOMPARE(StatusColumnRules::pagePrevious(3), 2);
-        QCOMPARE(StatusColumnRules::pageNext(4), 4);
-        QCOMPARE(StatusColumnRules::pageNext(2), 3);
-        QCOMPARE(StatusColumnRules::pageLast(0), 4);
-        QCOMPARE(StatusColumnRules::pageLast(1), 4);
-    }
-
     void columns_fourAxisBoardPagedOneAndFour()
     {
         Rig rig(BoardFamily::RL, 4);
@@ -100,14 +86,19 @@ private slots:
         QVERIFY(rig.card()->title(3)->isHidden());
         QCOMPARE(rig.titles(rig.card()), (QStringList{"1 Axis", "2 Axis", "3 Axis", "4 Axis"}));
 
-        rig.view->pageFirst();
+        rig.view->pagePrevious();
+        rig.view->pagePrevious(); // not below 0
+        QCOMPARE(rig.view->firstAxis(), 0);
         rig.view->pageLast();
+        rig.view->pageNext(); // not above 4
         QCOMPARE(rig.view->firstAxis(), 4);
         QCOMPARE(rig.tick(), QStringList());
         QCOMPARE(rig.lampsShown(rig.card()), (QList<bool>{false, false, false, false}));
         QCOMPARE(rig.titles(rig.card()), (QStringList{"4 Axis", "5 Axis", "6 Axis", "7 Axis"}));
         // The drive page follows the same first axis.
         QCOMPARE(rig.drive()->firstAxis(), 4);
+        rig.view->pageFirst();
+        QCOMPARE(rig.view->firstAxis(), 0);
     }
 
     void columns_hiddenColumnsReturnOnlyAtTheirAxisNumbers()
@@ -124,20 +115,16 @@ private slots:
         QCOMPARE(rig.lampsShown(rig.card()), (QList<bool>{false, false, false, false}));
     }
 
-    void columns_eightAxisBoardShowsSecondGroup()
+    void columns_secondGroupOfEightAxesAndNoAxesAtAll()
     {
-        Rig rig(BoardFamily::RL, 8);
-        rig.view->pageLast();
-        QCOMPARE(rig.tick(), (QStringList{"GetCardStatus(0,4)", "GetCardStatus(0,5)",
-                                          "GetCardStatus(0,6)", "GetCardStatus(0,7)"}));
-        QCOMPARE(rig.lampsShown(rig.card()), (QList<bool>{true, true, true, true}));
-    }
-
-    void columns_noAxesReadsNothing()
-    {
-        Rig rig(BoardFamily::RL, 0);
-        QCOMPARE(rig.tick(), QStringList());
-        QCOMPARE(rig.lampsShown(rig.card()), (QList<bool>{false, false, false, false}));
+        Rig eight(BoardFamily::RL, 8);
+        eight.view->pageLast();
+        QCOMPARE(eight.tick(), (QStringList{"GetCardStatus(0,4)", "GetCardStatus(0,5)",
+                                            "GetCardStatus(0,6)", "GetCardStatus(0,7)"}));
+        QCOMPARE(eight.lampsShown(eight.card()), (QList<bool>{true, true, true, true}));
+        Rig none(BoardFamily::RL, 0);
+        QCOMPARE(none.tick(), QStringList());
+        QCOMPARE(none.lampsShown(none.card()), (QList<bool>{false, false, false, false}));
     }
 
     void captions_rnNamesTwoBitsOthersLeaveNc_data()
@@ -157,21 +144,15 @@ private slots:
         QFETCH(int, family);
         QFETCH(QString, cardBit12);
         QFETCH(QString, driveBit11);
-        Rig rig(static_cast<BoardFamily>(family), 4);
-        QCOMPARE(rig.card()->lamp(0, 12)->image().toImage(), lampPicture(cardBit12, false));
-        QCOMPARE(rig.drive()->lamp(3, 11)->image().toImage(), lampPicture(driveBit11, false));
-        QCOMPARE(StatusBitCaptions::caption(StatusWordKind::Card, 7, rig.state.active.family),
-                 QStringLiteral("NC"));
-    }
-
-    void captions_followTheFamilyAfterControllerChange()
-    {
+        // The pages start on RL and take the family's captions at the controller change.
         Rig rig(BoardFamily::RL, 4);
-        rig.state.registry.setLoadResult(BoardFamily::RN, 0);
-        rig.state.registry.setCardInfo(BoardFamily::RN, 0, 4, 0, 16);
-        rig.state.active.family = BoardFamily::RN;
+        rig.state.registry.setLoadResult(static_cast<BoardFamily>(family), 0);
+        rig.state.registry.setCardInfo(static_cast<BoardFamily>(family), 0, 4, 0, 16);
+        rig.state.active.family = static_cast<BoardFamily>(family);
         rig.view->handleUserMessage(UM_CONTROLLER_CHANGED, 0);
-        QCOMPARE(rig.card()->lamp(0, 12)->image().toImage(), lampPicture("I-RUN", false));
+        QCOMPARE(rig.card()->lamp(0, 12)->image().toImage(), lampPicture(cardBit12, false));
+        QCOMPARE(rig.card()->lamp(0, 7)->image().toImage(), lampPicture("NC", false));
+        QCOMPARE(rig.drive()->lamp(3, 11)->image().toImage(), lampPicture(driveBit11, false));
     }
 
     void drivePage_bit12LitShowsMinusLimitPicture()
