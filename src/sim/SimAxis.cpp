@@ -1,87 +1,33 @@
 #include "SimAxis.h"
 
 #include "SimConstants.h"
+#include "StatusWords.h"
 
-#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 
 namespace nrxsim {
 
 namespace {
-
-int64_t floorDiv(int64_t a, int64_t b)
-{
-    int64_t q = a / b;
-    if ((a % b != 0) && ((a < 0) != (b < 0)))
-        --q;
-    return q;
-}
-
-int64_t floorMod(int64_t a, int64_t b)
-{
-    return a - floorDiv(a, b) * b;
-}
-
-// Counters are 32-bit on the board: they wrap like one.
-int32_t wrap32(int64_t v)
-{
-    return static_cast<int32_t>(static_cast<uint32_t>(static_cast<uint64_t>(v)));
-}
-
-int32_t ringed(int64_t raw, bool use, int32_t ring)
-{
-    return wrap32(use && ring > 0 ? floorMod(raw, ring) : raw);
-}
-
-uint16_t errorBitFor(int32_t code)
-{
-    switch (code) {
-    case StopCode::PlusSoftLimit:
-        return ErrorBit::PlusSoftLimit;
-    case StopCode::MinusSoftLimit:
-        return ErrorBit::MinusSoftLimit;
-    case StopCode::PlusLimit:
-        return ErrorBit::PlusLimit;
-    case StopCode::MinusLimit:
-        return ErrorBit::MinusLimit;
-    case StopCode::Alarm:
-        return ErrorBit::Alarm;
-    case StopCode::Emergency:
-        return ErrorBit::Emergency;
-    case StopCode::ZAlreadyActive:
-        return ErrorBit::ZAlreadyActive;
-    default:
-        return code < 0 ? ErrorBit::Other : 0;
-    }
-}
-
-// Counter-clear pulse widths of the time codes 0..7 (0.01 .. 20 ms), at least one tick.
-constexpr int64_t CounterClearMs[8] = {1, 1, 1, 1, 1, 2, 10, 20};
-
-HomeSearch::Signal limitSignal(int direction)
-{
-    return direction > 0 ? HomeSearch::Signal::LimitPlus : HomeSearch::Signal::LimitMinus;
-}
-
+using Signal = HomeSearch::Signal;
 } // namespace
 
 SimAxis::SimAxis(const BoardSetup::Axis& wiring, bool rn)
-    : wiring_(wiring), rn_(rn), machine_(wiring.start), exact_(static_cast<double>(wiring.start)),
-      commandOffset_(-wiring.start), encoderRef_(wiring.start)
+    : sensors_(wiring), rn_(rn), counters_(wiring.start), machine_(wiring.start),
+      exact_(static_cast<double>(wiring.start))
 {}
 
 void SimAxis::setParameter(Id id, int32_t value)
 {
     // The actual counter keeps its value when the encoder is set up differently.
     if (id == Id::EncoderMode || id == Id::EncoderDir)
-        rebaseEncoder();
+        counters_.rebase(machine_, parameters_);
     parameters_.set(id, value);
 }
 
 void SimAxis::restoreDefaults()
 {
-    rebaseEncoder();
+    counters_.rebase(machine_, parameters_);
     parameters_.restoreDefaults();
 }
 
@@ -96,13 +42,8 @@ void SimAxis::reset()
     clearLatches();
     homeOk_ = false;
     exact_ = static_cast<double>(machine_);
-    commandOffset_ = -machine_;
-    actualBase_ = 0;
-    encoderRef_ = machine_;
-    servoOn = false;
-    servoRun = false;
-    alarmReset_ = false;
-    counterClearUntil_ = 0;
+    counters_.zeroAt(machine_);
+    servo_.switchOff();
 }
 
 void SimAxis::clearLatches()
@@ -134,139 +75,16 @@ SpeedProfile SimAxis::homeSpeed(bool fast) const
     return speedFor(low, fast ? p(Id::HomeHigh) : low, p(Id::HomeAccDec), p(Id::HomeAccDec));
 }
 
-// ---- signals and counters -------------------------------------------------------------
-
-bool SimAxis::signalActive(HomeSearch::Signal s, int64_t position) const
-{
-    bool actuated = false;
-    int wiring = 0;
-    int32_t board = 0;
-    switch (s) {
-    case HomeSearch::Signal::Org:
-        actuated = std::llabs(position - wiring_.origin) <= wiring_.originWidth / 2;
-        wiring = wiring_.originLevel;
-        board = p(Id::Org);
-        break;
-    case HomeSearch::Signal::LimitPlus:
-        actuated = position >= wiring_.plusLimit;
-        wiring = wiring_.limitLevel;
-        board = p(Id::HlmtLevel);
-        break;
-    case HomeSearch::Signal::LimitMinus:
-        actuated = position <= wiring_.minusLimit;
-        wiring = wiring_.limitLevel;
-        board = p(Id::HlmtLevel);
-        break;
-    case HomeSearch::Signal::Z:
-        actuated =
-            wiring_.zPeriod > 0 && floorMod(position - wiring_.zOffset, wiring_.zPeriod) == 0;
-        wiring = wiring_.zLevel;
-        board = p(Id::EncoderZ);
-        break;
-    }
-    // A board set to the other level than the wiring reads the switch inverted.
-    return actuated != (wiring != (board != 0));
-}
-
-std::optional<int64_t> SimAxis::firstTransition(HomeSearch::Signal s, int64_t from, int64_t to,
-                                                bool want) const
-{
-    const int dir = to > from ? 1 : -1;
-    int64_t candidates[4];
-    int n = 0;
-    auto add = [&](int64_t c) { candidates[n++] = c; };
-    switch (s) {
-    case HomeSearch::Signal::LimitPlus:
-        add(dir > 0 ? wiring_.plusLimit : wiring_.plusLimit - 1);
-        break;
-    case HomeSearch::Signal::LimitMinus:
-        add(dir > 0 ? wiring_.minusLimit + 1 : wiring_.minusLimit);
-        break;
-    case HomeSearch::Signal::Org: {
-        const int64_t lo = wiring_.origin - wiring_.originWidth / 2;
-        const int64_t hi = wiring_.origin + wiring_.originWidth / 2;
-        add(dir > 0 ? lo : hi);
-        add(dir > 0 ? hi + 1 : lo - 1);
-        break;
-    }
-    case HomeSearch::Signal::Z: {
-        const int64_t period = wiring_.zPeriod;
-        if (period <= 0)
-            break;
-        // The first mark ahead, the one before it (leaving it) and the step past it.
-        const int64_t mark = dir > 0 ? from + 1 + floorMod(wiring_.zOffset - (from + 1), period)
-                                     : from - 1 - floorMod(from - 1 - wiring_.zOffset, period);
-        add(mark - dir * period + dir);
-        add(mark);
-        add(mark + dir);
-        break;
-    }
-    }
-    std::sort(candidates, candidates + n,
-              [from](int64_t a, int64_t b) { return std::llabs(a - from) < std::llabs(b - from); });
-    for (int i = 0; i < n; ++i) {
-        const int64_t c = candidates[i];
-        const bool inPath = dir > 0 ? (c > from && c <= to) : (c < from && c >= to);
-        if (inPath && signalActive(s, c) == want && signalActive(s, c - dir) != want)
-            return c;
-    }
-    return std::nullopt;
-}
-
-int SimAxis::encoderSign() const
-{
-    return p(Id::EncoderDir) == 1 ? -1 : 1;
-}
-
-int SimAxis::encoderDivisor() const
-{
-    // One count per command pulse at x4; x2 and x1 count every second and fourth.
-    switch (p(Id::EncoderMode)) {
-    case 1:
-        return 2;
-    case 2:
-        return 4;
-    default:
-        return 1;
-    }
-}
-
-int64_t SimAxis::actualRaw(int64_t position) const
-{
-    const int div = encoderDivisor();
-    return actualBase_ + encoderSign() * (floorDiv(position, div) - floorDiv(encoderRef_, div));
-}
-
-void SimAxis::rebaseEncoder()
-{
-    actualBase_ = actualRaw(machine_);
-    encoderRef_ = machine_;
-}
-
-int64_t SimAxis::counterAt(int64_t position) const
-{
-    return p(Id::CompCountMode) == 1 ? actualRaw(position) : position + commandOffset_;
-}
+// ---- counters and signals -------------------------------------------------------------
 
 int32_t SimAxis::commandPosition() const
 {
-    return ringed(commandRaw(), p(Id::RingUse) != 0, p(Id::RingCommand));
+    return counters_.commandReading(machine_, parameters_);
 }
 
 int32_t SimAxis::actualPosition() const
 {
-    return ringed(actualRaw(machine_), p(Id::RingUse) != 0, p(Id::RingActual));
-}
-
-void SimAxis::setCommandPosition(int32_t value)
-{
-    commandOffset_ = value - machine_;
-}
-
-void SimAxis::setActualPosition(int32_t value)
-{
-    actualBase_ = value;
-    encoderRef_ = machine_;
+    return counters_.actualReading(machine_, parameters_);
 }
 
 int32_t SimAxis::commandSpeed() const
@@ -278,82 +96,13 @@ int32_t SimAxis::commandSpeed() const
 
 bool SimAxis::alarmActive(const Lines& lines) const
 {
-    const bool raw = latchedAlarm_ || lines.alarmLine;
-    return raw != (wiring_.alarmLevel != (p(Id::SvAlmLevel) != 0));
-}
-
-bool SimAxis::limitActive(int direction) const
-{
-    return signalActive(limitSignal(direction), machine_);
+    return sensors_.alarm(servo_.latchedAlarm() || lines.alarmLine, parameters_);
 }
 
 bool SimAxis::compareActive(int direction) const
 {
-    const int64_t counter = counterAt(machine_);
+    const int64_t counter = compared(machine_);
     return direction > 0 ? counter >= p(Id::SlmtPlus) : counter <= p(Id::SlmtMinus);
-}
-
-void SimAxis::setAlarmReset(bool on)
-{
-    alarmReset_ = on;
-    if (on)
-        latchedAlarm_ = false;
-}
-
-void SimAxis::pulseCounterClear(int64_t nowMs)
-{
-    counterClearUntil_ = nowMs + CounterClearMs[p(Id::SvCClrTime) & 7];
-}
-
-// ---- status words -----------------------------------------------------------------------
-
-uint16_t SimAxis::cardStatus(const Lines& lines, int64_t nowMs) const
-{
-    const bool settled = !isMoving();
-    const bool inpos = settled != (wiring_.inposLevel != (p(Id::SvInposLevel) != 0));
-    uint16_t w = 0;
-    w |= signalActive(HomeSearch::Signal::Org, machine_) ? CardBit::Org : 0;
-    w |= signalActive(HomeSearch::Signal::Z, machine_) ? CardBit::Ez : 0;
-    w |= lines.emergency ? CardBit::Emg : 0;
-    w |= inpos ? CardBit::Inp : 0;
-    w |= alarmActive(lines) ? CardBit::Alm : 0;
-    w |= limitActive(1) ? CardBit::LimitPlus : 0;
-    w |= limitActive(-1) ? CardBit::LimitMinus : 0;
-    w |= isMoving() ? CardBit::Run : 0;
-    w |= errorCode_ < 0 ? CardBit::Err : 0;
-    w |= isHoming() ? CardBit::Home : 0;
-    w |= homeOk_ ? CardBit::HomeOk : 0;
-    w |= rn_ && isMoving() && group_ != 0 ? CardBit::InterpolationRun : 0;
-    w |= counterClearOutput(nowMs) ? CardBit::CounterClear : 0;
-    w |= servoOn ? CardBit::ServoOn : 0;
-    w |= alarmReset_ ? CardBit::AlarmReset : 0;
-    return w;
-}
-
-uint16_t SimAxis::driveStatus() const
-{
-    uint16_t w = stopBits_;
-    w |= compareActive(1) ? DriveBit::ComparePlus : 0;
-    w |= compareActive(-1) ? DriveBit::CompareMinus : 0;
-    if (isMoving())
-        w |= profileBits_;
-    return w;
-}
-
-uint16_t SimAxis::inputBits(const Lines& lines) const
-{
-    const bool alarm = alarmActive(lines);
-    const bool inpos = !isMoving() != (wiring_.inposLevel != (p(Id::SvInposLevel) != 0));
-    uint16_t w = 0;
-    w |= servoOn && !alarm ? InputBit::Ready : 0;
-    w |= signalActive(HomeSearch::Signal::Org, machine_) ? InputBit::Org : 0;
-    w |= signalActive(HomeSearch::Signal::Z, machine_) ? InputBit::Ez : 0;
-    w |= lines.emergency ? InputBit::Emg : 0;
-    w |= limitActive(1) ? InputBit::LimitPlus : 0;
-    w |= limitActive(-1) ? InputBit::LimitMinus : 0;
-    w |= inpos ? InputBit::Inp : 0;
-    w |= alarm ? InputBit::Alm : 0;
-    return w;
 }
 
 // ---- starting and stopping ------------------------------------------------------------------
@@ -367,30 +116,15 @@ int32_t SimAxis::startCode(int direction, const Lines& lines) const
     if (limitActive(direction))
         return direction > 0 ? StopCode::PlusLimit : StopCode::MinusLimit;
     if (p(Id::SlmtUse) != 0) {
-        const int64_t counter = counterAt(machine_);
-        const int counterDir = direction * (p(Id::CompCountMode) == 1 ? encoderSign() : 1);
+        const int64_t counter = compared(machine_);
+        const int counterDir =
+            direction * (p(Id::CompCountMode) == 1 ? AxisCounters::encoderSign(parameters_) : 1);
         if (counterDir > 0 && counter >= p(Id::SlmtPlus))
             return StopCode::PlusSoftLimit;
         if (counterDir < 0 && counter <= p(Id::SlmtMinus))
             return StopCode::MinusSoftLimit;
     }
     return StopCode::None;
-}
-
-uint16_t SimAxis::stopBitsFor(int32_t code) const
-{
-    switch (code) {
-    case StopCode::Emergency:
-        return DriveBit::StopEmergency | (rn_ ? DriveBit::StopInput : 0);
-    case StopCode::Alarm:
-        return DriveBit::StopAlarm;
-    case StopCode::PlusLimit:
-        return DriveBit::StopLimitPlus;
-    case StopCode::MinusLimit:
-        return DriveBit::StopLimitMinus;
-    default:
-        return 0;
-    }
 }
 
 void SimAxis::begin(Activity activity, const MotionProfile& profile, const SpeedProfile& speed,
@@ -518,7 +252,7 @@ void SimAxis::startLeg()
             target_ = machine_ + offset;
             return;
         }
-        if (signalActive(leg.signal, machine_) == leg.wantActive) {
+        if (senses(leg.signal) == leg.wantActive) {
             if (leg.ifAlready == HomeSearch::IfAlready::Fail) {
                 finish(StopCode::ZAlreadyActive);
                 return;
@@ -537,8 +271,8 @@ void SimAxis::startLeg()
             homeSearch_.insert(away);
             continue;
         }
-        const HomeSearch::Signal ahead = limitSignal(leg.direction);
-        if (leg.signal != ahead && signalActive(ahead, machine_)) {
+        const Signal ahead = AxisSensors::limit(leg.direction);
+        if (leg.signal != ahead && senses(ahead)) {
             onLimit(leg.direction > 0 ? EventKind::LimitPlus : EventKind::LimitMinus, machine_,
                     machine_);
             return;
@@ -551,9 +285,7 @@ void SimAxis::startLeg()
 
 void SimAxis::completeHome()
 {
-    commandOffset_ = -machine_;
-    actualBase_ = 0;
-    encoderRef_ = machine_;
+    counters_.zeroAt(machine_);
     homeOk_ = true;
     finish(StopCode::None, homeStopBits_);
 }
@@ -649,8 +381,8 @@ void SimAxis::finish(int32_t code, uint16_t stopBits)
     target_.reset();
     exact_ = static_cast<double>(machine_);
     errorCode_ = code;
-    stopBits_ = stopBits | stopBitsFor(code);
-    errorBits_ = errorBitFor(code);
+    stopBits_ = stopBits | StatusWords::stopBitsFor(code, rn_);
+    errorBits_ = StatusWords::errorBitsFor(code);
     if (code < 0 && wasHome)
         errorBits_ |= ErrorBit::DuringHome;
     if (group_ != 0 && code < 0 && groupEvent_ == GroupEvent::None)
@@ -707,17 +439,18 @@ std::optional<SimAxis::Event> SimAxis::firstEvent(int64_t from, int64_t to) cons
         homing && !stopping_ && !homeSearch_.finished() && !homeSearch_.current().offset;
     if (seeking) {
         const HomeSearch::Leg& leg = homeSearch_.current();
-        if (const auto t = firstTransition(leg.signal, from, to, leg.wantActive))
+        if (const auto t =
+                sensors_.firstTransition(leg.signal, from, to, leg.wantActive, parameters_))
             consider(EventKind::Leg, *t, *t);
     }
-    const HomeSearch::Signal ahead = limitSignal(dir);
+    const Signal ahead = AxisSensors::limit(dir);
     if (!(seeking && homeSearch_.current().signal == ahead)) {
-        if (const auto t = firstTransition(ahead, from, to, true))
+        if (const auto t = sensors_.firstTransition(ahead, from, to, true, parameters_))
             consider(dir > 0 ? EventKind::LimitPlus : EventKind::LimitMinus, *t, *t);
     }
     if (!homing && p(Id::SlmtUse) != 0) {
-        const int64_t c0 = counterAt(from);
-        const int64_t c1 = counterAt(to);
+        const int64_t c0 = compared(from);
+        const int64_t c1 = compared(to);
         const int64_t plus = p(Id::SlmtPlus);
         const int64_t minus = p(Id::SlmtMinus);
         // The first position past the limit; the axis stays on the last one before it.
@@ -726,7 +459,7 @@ std::optional<SimAxis::Event> SimAxis::firstEvent(int64_t from, int64_t to) cons
             int64_t hi = to;
             while (std::llabs(hi - lo) > 1) {
                 const int64_t mid = lo + (hi - lo) / 2;
-                (past(counterAt(mid)) ? hi : lo) = mid;
+                (past(compared(mid)) ? hi : lo) = mid;
             }
             return hi;
         };
@@ -759,16 +492,16 @@ void SimAxis::takeEvent(const Event& e, int64_t next)
         const HomeSearch::Leg& leg = homeSearch_.current();
         homeStopBits_ = 0;
         switch (leg.signal) {
-        case HomeSearch::Signal::Org:
+        case Signal::Org:
             homeStopBits_ = DriveBit::StopOrg;
             break;
-        case HomeSearch::Signal::Z:
+        case Signal::Z:
             homeStopBits_ = DriveBit::StopEz;
             break;
-        case HomeSearch::Signal::LimitPlus:
+        case Signal::LimitPlus:
             homeStopBits_ = DriveBit::StopLimitPlus;
             break;
-        case HomeSearch::Signal::LimitMinus:
+        case Signal::LimitMinus:
             homeStopBits_ = DriveBit::StopLimitMinus;
             break;
         }

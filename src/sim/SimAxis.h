@@ -1,9 +1,12 @@
 #pragma once
 
+#include "AxisCounters.h"
 #include "AxisParameters.h"
+#include "AxisSensors.h"
 #include "BoardSetup.h"
 #include "HomeSearch.h"
 #include "MotionProfile.h"
+#include "ServoLink.h"
 #include "SpeedProfile.h"
 
 #include <cstdint>
@@ -11,7 +14,7 @@
 
 namespace nrxsim {
 
-// One simulated axis: parameters, counters, sensors and pulse generator, stepped per ms.
+// One simulated axis: the pulse generator and its stops, stepped per millisecond.
 class SimAxis
 {
 public:
@@ -66,32 +69,26 @@ public:
 
     int32_t commandPosition() const;
     int32_t actualPosition() const;
-    void setCommandPosition(int32_t value);
-    void setActualPosition(int32_t value);
+    void setCommandPosition(int32_t value) { counters_.setCommand(value, machine_); }
+    void setActualPosition(int32_t value) { counters_.setActual(value, machine_); }
     int32_t commandSpeed() const;
     int64_t machinePosition() const { return machine_; }
     int32_t errorCode() const { return errorCode_; }
     bool homed() const { return homeOk_; }
     bool isHoming() const { return activity_ == Activity::Home; }
 
-    uint16_t cardStatus(const Lines& lines, int64_t nowMs) const;
-    uint16_t driveStatus() const;
-    uint16_t errorStatus() const { return errorBits_; }
-    // The eight input bits of this axis in the input status word.
-    uint16_t inputBits(const Lines& lines) const;
+    // What the status words are made of.
+    uint16_t stopBits() const { return stopBits_; }
+    uint16_t errorBits() const { return errorBits_; }
+    uint16_t profileBits() const { return isMoving() ? profileBits_ : 0; }
+    bool senses(HomeSearch::Signal s) const { return sensors_.active(s, machine_, parameters_); }
+    bool inPosition() const { return sensors_.inPosition(!isMoving(), parameters_); }
     bool alarmActive(const Lines& lines) const;
-    bool limitActive(int direction) const;
+    bool limitActive(int direction) const { return senses(AxisSensors::limit(direction)); }
     bool compareActive(int direction) const;
 
-    // Outputs to the servo drive.
-    bool servoOn = false;
-    bool servoRun = false;
-    bool alarmReset() const { return alarmReset_; }
-    void setAlarmReset(bool on);
-    void pulseCounterClear(int64_t nowMs);
-    bool counterClearOutput(int64_t nowMs) const { return nowMs < counterClearUntil_; }
-    // A servo alarm held until the alarm reset output is asserted.
-    void setLatchedAlarm(bool on) { latchedAlarm_ = on; }
+    ServoLink& servo() { return servo_; }
+    const ServoLink& servo() const { return servo_; }
 
 private:
     enum class Activity
@@ -126,16 +123,7 @@ private:
     int32_t p(Id id) const { return parameters_[id]; }
     SpeedProfile speedFor(int32_t initial, int32_t drive, int32_t accel, int32_t decel) const;
     SpeedProfile homeSpeed(bool fast) const;
-
-    bool signalActive(HomeSearch::Signal s, int64_t position) const;
-    std::optional<int64_t> firstTransition(HomeSearch::Signal s, int64_t from, int64_t to,
-                                           bool want) const;
-    int64_t counterAt(int64_t position) const; // the counter the comparators watch
-    int64_t commandRaw() const { return machine_ + commandOffset_; }
-    int64_t actualRaw(int64_t position) const;
-    int encoderSign() const;
-    int encoderDivisor() const;
-    void rebaseEncoder();
+    int64_t compared(int64_t position) const { return counters_.compared(position, parameters_); }
 
     void begin(Activity activity, const MotionProfile& profile, const SpeedProfile& speed,
                double scale);
@@ -148,12 +136,13 @@ private:
     void finish(int32_t code, uint16_t stopBits = 0);
     void startLeg();
     void clearLatches();
-    uint16_t stopBitsFor(int32_t code) const;
     void completeHome();
 
-    BoardSetup::Axis wiring_;
+    AxisSensors sensors_;
     bool rn_ = false;
     AxisParameters parameters_;
+    AxisCounters counters_;
+    ServoLink servo_;
 
     Activity activity_ = Activity::Idle;
     MotionProfile profile_;
@@ -175,17 +164,11 @@ private:
 
     int64_t machine_ = 0;
     double exact_ = 0.0;
-    int64_t commandOffset_ = 0;
-    int64_t actualBase_ = 0;
-    int64_t encoderRef_ = 0;
 
     int32_t errorCode_ = 0;
     uint16_t stopBits_ = 0;
     uint16_t errorBits_ = 0;
     bool homeOk_ = false;
-    bool latchedAlarm_ = false;
-    bool alarmReset_ = false;
-    int64_t counterClearUntil_ = 0;
 };
 
 } // namespace nrxsim

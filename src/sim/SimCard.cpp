@@ -8,18 +8,13 @@
 
 namespace nrxsim {
 
-namespace {
-constexpr int FamilyRl = 0;
-constexpr int FamilyRn = 2;
-} // namespace
-
 SimCard::SimCard(const BoardSetup::Card& setup, int familyIndex)
     : setup_(setup), familyIndex_(familyIndex)
 {
     setup_.axes = std::clamp(setup_.axes, 1, MaxAxes);
     setup_.io = std::clamp(setup_.io, 0, MaxIoPoints);
     for (int a = 0; a < setup_.axes; ++a)
-        axes_.emplace_back(setup_.axis[static_cast<std::size_t>(a)], familyIndex == FamilyRn);
+        axes_.emplace_back(setup_.axis[static_cast<std::size_t>(a)], familyIndex == Family::RN);
 }
 
 SimAxis* SimCard::axis(int index)
@@ -180,46 +175,6 @@ void SimCard::reset()
     for (SimAxis& a : axes_)
         a.reset();
     outputs_.fill(false);
-}
-
-uint16_t SimCard::mainStatus(int index) const
-{
-    // RL groups its axes in pairs, RM and RN in fours.
-    const int groupSize = familyIndex_ == FamilyRl ? 2 : 4;
-    const int base = index - index % groupSize;
-    const bool rn = familyIndex_ == FamilyRn;
-    uint16_t w = 0;
-    for (int slot = 0; slot < groupSize && base + slot < axisCount(); ++slot) {
-        const SimAxis& a = axes_[static_cast<std::size_t>(base + slot)];
-        w |= a.isMoving() ? 1u << (MainBit::RunShift + slot) : 0;
-        w |= a.errorCode() < 0 ? 1u << (MainBit::ErrShift + slot) : 0;
-        if (!rn) {
-            w |= a.isHoming() ? 1u << (MainBit::HomeShift + slot) : 0;
-            continue;
-        }
-        const SimAxis::Lines lines = linesFor(base + slot);
-        w |= lines.emergency ? MainBit::RnEmergency : 0;
-        w |= a.isMoving() && a.group() != 0 ? MainBit::RnInterpolationRun : 0;
-        w |= a.isHoming() ? MainBit::RnHoming : 0;
-        w |= a.homed() ? MainBit::RnHomeOk : 0;
-        w |= a.servoOn ? MainBit::RnServoOn : 0;
-        w |= a.alarmActive(lines) ? MainBit::RnAlarm : 0;
-        w |= a.limitActive(1) || a.limitActive(-1) ? MainBit::RnLimit : 0;
-        w |= a.compareActive(1) || a.compareActive(-1) ? MainBit::RnCompare : 0;
-    }
-    return w;
-}
-
-uint16_t SimCard::inputStatus(int index) const
-{
-    const int even = index - index % 2;
-    uint16_t w = axes_[static_cast<std::size_t>(even)].inputBits(linesFor(even));
-    if (even + 1 < axisCount()) {
-        w |= static_cast<uint16_t>(
-            axes_[static_cast<std::size_t>(even + 1)].inputBits(linesFor(even + 1))
-            << InputBit::OddAxisShift);
-    }
-    return w;
 }
 
 } // namespace nrxsim

@@ -2,6 +2,7 @@
 
 #include "BoardSetup.h"
 #include "SimAxis.h"
+#include "SimConstants.h"
 
 #include <array>
 #include <cstdint>
@@ -10,13 +11,15 @@
 
 namespace nrxsim {
 
-// One simulated card: its axes, digital I/O, emergency input and axis-group words.
+// One simulated card: its axes, digital I/O, emergency input and multi-axis moves.
 class SimCard
 {
 public:
     SimCard(const BoardSetup::Card& setup, int familyIndex);
 
     const BoardSetup::Card& setup() const { return setup_; }
+    int familyIndex() const { return familyIndex_; }
+    bool isRn() const { return familyIndex_ == Family::RN; }
     int axisCount() const { return static_cast<int>(axes_.size()); }
     int ioCount() const { return setup_.io; }
     SimAxis* axis(int index);
@@ -45,9 +48,6 @@ public:
     bool step();
     bool anyMoving() const;
     void reset();
-
-    uint16_t mainStatus(int axis) const;
-    uint16_t inputStatus(int axis) const;
 
     // Told of every abnormal end of a motion (axis, stop code).
     std::function<void(int, int32_t)> onAbnormalStop;

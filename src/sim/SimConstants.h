@@ -98,6 +98,13 @@ constexpr uint16_t Alm = 1u << 7;
 constexpr int OddAxisShift = 8;
 } // namespace InputBit
 
+// Family indices, in the order of the contract.
+namespace Family {
+constexpr int RL = 0;
+constexpr int RM = 1;
+constexpr int RN = 2;
+} // namespace Family
+
 constexpr int MaxCards = 8;
 constexpr int MaxAxes = 8;
 constexpr int MaxIoPoints = 64;

@@ -1,6 +1,7 @@
 #include "SimContract.h"
 
 #include "SimConstants.h"
+#include "StatusWords.h"
 
 #include <algorithm>
 
@@ -415,53 +416,53 @@ nrx_u16 SimContract::GetEmergency(nrx_u16 c)
 nrx_i32 SimContract::PutSvOn(nrx_u16 c, nrx_u16 a, nrx_u16 on)
 {
     if (SimAxis* ax = axis(c, a))
-        ax->servoOn = on != 0;
+        ax->servo().setServoOn(on != 0);
     return 0;
 }
 
 nrx_u16 SimContract::GetSvOn(nrx_u16 c, nrx_u16 a)
 {
     const SimAxis* ax = axis(c, a);
-    return ax && ax->servoOn ? 1 : 0;
+    return ax && ax->servo().servoOn() ? 1 : 0;
 }
 
 nrx_i32 SimContract::PutSvRun(nrx_u16 c, nrx_u16 a, nrx_u16 on)
 {
     if (SimAxis* ax = axis(c, a))
-        ax->servoRun = on != 0;
+        ax->servo().setServoRun(on != 0);
     return 0;
 }
 
 nrx_u16 SimContract::GetSvRun(nrx_u16 c, nrx_u16 a)
 {
     const SimAxis* ax = axis(c, a);
-    return ax && ax->servoRun ? 1 : 0;
+    return ax && ax->servo().servoRun() ? 1 : 0;
 }
 
 nrx_i32 SimContract::PutSvAlmRst(nrx_u16 c, nrx_u16 a, nrx_u16 on)
 {
     if (SimAxis* ax = axis(c, a))
-        ax->setAlarmReset(on != 0);
+        ax->servo().setAlarmReset(on != 0);
     return 0;
 }
 
 nrx_u16 SimContract::GetSvAlmRst(nrx_u16 c, nrx_u16 a)
 {
     const SimAxis* ax = axis(c, a);
-    return ax && ax->alarmReset() ? 1 : 0;
+    return ax && ax->servo().alarmReset() ? 1 : 0;
 }
 
 nrx_i32 SimContract::PutSvCClrCmd(nrx_u16 c, nrx_u16 a)
 {
     if (SimAxis* ax = axis(c, a))
-        ax->pulseCounterClear(family_.nowMs());
+        ax->servo().pulseCounterClear(family_.nowMs(), ax->parameters()[Id::SvCClrTime]);
     return 0;
 }
 
 nrx_u16 SimContract::GetSvCClrDO(nrx_u16 c, nrx_u16 a)
 {
     const SimAxis* ax = axis(c, a);
-    return ax && ax->counterClearOutput(family_.nowMs()) ? 1 : 0;
+    return ax && ax->servo().counterClearOutput(family_.nowMs()) ? 1 : 0;
 }
 
 // ---- digital I/O -------------------------------------------------------------------------------
@@ -517,32 +518,31 @@ nrx_u16 SimContract::GetDiFilterTime(nrx_u16 c)
 nrx_u16 SimContract::GetCardStatus(nrx_u16 c, nrx_u16 a)
 {
     const SimCard* cd = card(c);
-    const SimAxis* ax = cd ? cd->axis(a) : nullptr;
-    return ax ? ax->cardStatus(cd->linesFor(a), family_.nowMs()) : 0;
+    return cd && cd->axis(a) ? StatusWords::card(*cd, a, family_.nowMs()) : 0;
 }
 
 nrx_u16 SimContract::GetMainStatus(nrx_u16 c, nrx_u16 a)
 {
     const SimCard* cd = card(c);
-    return cd && a < cd->axisCount() ? cd->mainStatus(a) : 0;
+    return cd && cd->axis(a) ? StatusWords::main(*cd, a) : 0;
 }
 
 nrx_u16 SimContract::GetDrvStatus(nrx_u16 c, nrx_u16 a)
 {
-    const SimAxis* ax = axis(c, a);
-    return ax ? ax->driveStatus() : 0;
+    const SimCard* cd = card(c);
+    return cd && cd->axis(a) ? StatusWords::drive(*cd, a) : 0;
 }
 
 nrx_u16 SimContract::GetErrStatus(nrx_u16 c, nrx_u16 a)
 {
-    const SimAxis* ax = axis(c, a);
-    return ax ? ax->errorStatus() : 0;
+    const SimCard* cd = card(c);
+    return cd && cd->axis(a) ? StatusWords::error(*cd, a) : 0;
 }
 
 nrx_u16 SimContract::GetInputStatus(nrx_u16 c, nrx_u16 a)
 {
     const SimCard* cd = card(c);
-    return cd && a < cd->axisCount() ? cd->inputStatus(a) : 0;
+    return cd && cd->axis(a) ? StatusWords::input(*cd, a) : 0;
 }
 
 // ---- extras ---------------------------------------------------------------------------------
@@ -576,7 +576,7 @@ nrx_i32 SimContract::SetSignal(nrx_u16 c, nrx_u16 a, nrx_u16 signal, nrx_u16 on)
     if (signal == NRXSIM_SIGNAL_EMERGENCY)
         cd->setForcedEmergency(on != 0);
     else if (signal == NRXSIM_SIGNAL_ALARM && cd->axis(a))
-        cd->axis(a)->setLatchedAlarm(on != 0);
+        cd->axis(a)->servo().setLatchedAlarm(on != 0);
     return 0;
 }
 
