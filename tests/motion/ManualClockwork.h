@@ -6,40 +6,27 @@
 
 #include <cstdint>
 
-// A tick clock that moves only when a test advances it.
-class ManualTickClock : public TickClock
-{
-public:
-    std::uint32_t tickCount() const override { return m_now; }
-    void advance(std::uint32_t ms) { m_now += ms; }
-    void set(std::uint32_t now) { m_now = now; }
-
-private:
-    std::uint32_t m_now = 0;
-};
-
-// A timer on a manual clock: it fires only when a test asks whether it is due.
+// A timer on a hand-moved clock: it fires only when a test lets the time pass.
 class ManualTimer : public SequenceTimer
 {
 public:
-    explicit ManualTimer(const ManualTickClock& clock) : m_clock(clock) {}
+    explicit ManualTimer(const std::uint32_t& now) : m_now(now) {}
 
     void start(int intervalMs) override
     {
         m_active = true;
         m_interval = intervalMs;
-        m_due = m_clock.tickCount() + period();
+        m_due = m_now + period();
     }
     void stop() override { m_active = false; }
     bool isActive() const override { return m_active; }
     void setHandler(std::function<void()> handler) override { m_handler = std::move(handler); }
-
     int interval() const { return m_interval; }
-    // Fires for every period that has passed on the clock; a zero period fires once per tick.
+
+    // Fires for every period that has passed; a period below one fires once per tick.
     void fireIfDue()
     {
-        while (m_active && m_handler &&
-               static_cast<std::int32_t>(m_clock.tickCount() - m_due) >= 0) {
+        while (m_active && m_handler && static_cast<std::int32_t>(m_now - m_due) >= 0) {
             m_due += period();
             m_handler();
         }
@@ -48,32 +35,31 @@ public:
 private:
     std::uint32_t period() const { return m_interval > 0 ? std::uint32_t(m_interval) : 1u; }
 
-    const ManualTickClock& m_clock;
+    const std::uint32_t& m_now;
     bool m_active = false;
     int m_interval = 0;
     std::uint32_t m_due = 0;
     std::function<void()> m_handler;
 };
 
-// The sequencer's timers and clock, stepped by hand.
-class ManualClockwork : public SequencerClockwork
+// The sequencer's three timers and its clock, stepped by hand.
+class ManualClockwork : public SequencerClockwork, private TickClock
 {
 public:
     SequenceTimer& cycleClock() override { return cycle; }
     SequenceTimer& motionPoll() override { return poll; }
     SequenceTimer& dwell() override { return pause; }
-    TickClock& clock() override { return tick; }
+    TickClock& clock() override { return *this; }
 
-    // Advances the clock and lets each timer see the time pass, one millisecond at a time, calling
-    // beforeStep first (to move a simulated board along with it).
+    // Lets the time pass one millisecond at a time, calling beforeStep first in each (to move
+    // a simulated board along).
     template <typename F> void run(int ms, F beforeStep)
     {
         for (int i = 0; i < ms; ++i) {
             beforeStep();
-            tick.advance(1);
-            cycle.fireIfDue();
-            poll.fireIfDue();
-            pause.fireIfDue();
+            ++now;
+            for (ManualTimer* timer : {&cycle, &poll, &pause})
+                timer->fireIfDue();
         }
     }
     void run(int ms)
@@ -82,8 +68,11 @@ public:
     }
     bool anyActive() const { return cycle.isActive() || poll.isActive() || pause.isActive(); }
 
-    ManualTickClock tick;
-    ManualTimer cycle{tick};
-    ManualTimer poll{tick};
-    ManualTimer pause{tick};
+    std::uint32_t now = 0;
+    ManualTimer cycle{now};
+    ManualTimer poll{now};
+    ManualTimer pause{now};
+
+private:
+    std::uint32_t tickCount() const override { return now; }
 };

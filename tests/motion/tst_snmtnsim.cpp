@@ -1,24 +1,11 @@
-#include "AppState.h"
-#include "BoardApi.h"
 #include "BoardLoader.h"
-#include "COV_SnMtnPtpWnd.h"
-#include "COV_SnMtnWnd.h"
-#include "ManualClockwork.h"
-#include "RecordingFrame.h"
-#include "ScriptedPrompt.h"
+#include "SnMtnWindowRig.h"
 
-#include <QCheckBox>
-#include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QLibrary>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTabBar>
 #include <QTemporaryDir>
 #include <QTest>
-
-#include <memory>
 
 // The single-axis window on the simulated RL board, with the board's clock and the window's
 // timers moving together one millisecond at a time.
@@ -27,20 +14,13 @@ class TestSnMtnSim : public QObject
     Q_OBJECT
 
 private:
-    struct Rig
+    struct Rig : SnMtnWindowRig
     {
         QTemporaryDir folder;
         BoardLoader loader{QStringLiteral(ORVANE_SIM_DIR)};
         QLibrary extras{QDir(QStringLiteral(ORVANE_SIM_DIR))
                             .filePath(BoardLoader::libraryFileName(BoardFamily::RL))};
         nrx_i32 (*advanceClock)(nrx_i32) = nullptr;
-        BoardApi api;
-        AppState state;
-        ScriptedPrompt prompt;
-        RecordingFrame frame;
-        ManualClockwork clockwork;
-        ToolContext context{state, api, prompt, frame};
-        std::unique_ptr<COV_SnMtnWnd> window;
 
         // One RL card of 4 axes whose limit switches sit at +-6000 pulses, without Z marks.
         bool start()
@@ -53,12 +33,12 @@ private:
             boards.close();
             loader.loadAll();
             api.setTable(BoardFamily::RL, loader.table(BoardFamily::RL));
+            using Switch = nrx_i32 (*)(nrx_i32);
             auto setManualClock =
-                reinterpret_cast<nrx_i32 (*)(nrx_i32)>(extras.resolve("NRXSIM520L_SetManualClock"));
+                reinterpret_cast<Switch>(extras.resolve("NRXSIM520L_SetManualClock"));
             auto setDataFolder = reinterpret_cast<nrx_i32 (*)(const char*)>(
                 extras.resolve("NRXSIM520L_SetDataFolder"));
-            advanceClock =
-                reinterpret_cast<nrx_i32 (*)(nrx_i32)>(extras.resolve("NRXSIM520L_AdvanceClock"));
+            advanceClock = reinterpret_cast<Switch>(extras.resolve("NRXSIM520L_AdvanceClock"));
             if (!api.hasLibrary(BoardFamily::RL) || !setManualClock || !setDataFolder ||
                 !advanceClock)
                 return false;
@@ -70,32 +50,19 @@ private:
             api.BoardInfo(BoardFamily::RL, 0, &reserved, &firmware, &axes, &info, &io);
             state.registry.setCardInfo(BoardFamily::RL, 0, axes, info, io);
             state.active.axis = 1;
-            window = std::make_unique<COV_SnMtnWnd>(context, clockwork);
+            open();
             return result == 0 && axes == 4;
         }
         ~Rig()
         {
+            // The window stops what it holds on the board before the library goes.
             window.reset();
             api.UnloadDevice(BoardFamily::RL);
         }
 
-        template <typename T> T* find(const char* name) const
-        {
-            return window->findChild<T*>(QLatin1String(name));
-        }
-        void setText(const char* name, const char* text) { find<QLineEdit>(name)->setText(text); }
-        QString text(const char* name) const { return find<QLineEdit>(name)->text(); }
-        void pointToPoint(MotionType type, bool repeat)
-        {
-            find<QTabBar>("tabBar")->setCurrentIndex(int(MotionTab::PointToPoint));
-            auto* combo = find<QComboBox>("motionType");
-            combo->setCurrentIndex(int(type));
-            emit combo->activated(int(type));
-            if (repeat)
-                find<QCheckBox>("repeat")->click();
-        }
-        void click(const char* name) { QTest::mouseClick(find<QPushButton>(name), Qt::LeftButton); }
+        void click(const char* name) { QTest::mouseClick(button(name), Qt::LeftButton); }
         std::int32_t commandPosition() { return api.GetCommandPos(BoardFamily::RL, 0, 1); }
+        std::int32_t errorCode() { return api.GetMotionErrCod(BoardFamily::RL, 0, 1); }
         // Runs board and window together until the sequence is over (at most a minute).
         template <typename F> bool runToEnd(F eachMs)
         {
@@ -121,10 +88,8 @@ private slots:
         Rig rig;
         QVERIFY(rig.start());
         rig.pointToPoint(MotionType::Relative, true);
-        auto* page = rig.window->findChild<COV_SnMtnPtpWnd*>();
-        page->findChild<QLineEdit*>("setCommand")->setText("-700");
-        page->findChild<QPushButton*>("commandButton")->click();
-        QCOMPARE(rig.commandPosition(), -700);
+        rig.setText("setCommand", "-700");
+        rig.button("commandButton")->click();
         rig.setText("count", "3");
         rig.setText("delayTime", "150");
         rig.setText("position2", "1000");
@@ -132,7 +97,7 @@ private slots:
         rig.window->show();
         rig.window->resize(rig.window->sizeHint().expandedTo(QSize(720, 0)));
         rig.click("plusButton");
-        QVERIFY(rig.state.active.axesMoving[0] != 0);
+        QVERIFY(rig.axesMoving());
         bool shot = false;
         QVERIFY(rig.runToEnd([&] {
             if (!shot && rig.text("repeatCount") == QStringLiteral("2") &&
@@ -146,8 +111,7 @@ private slots:
         QCOMPARE(rig.commandPosition(), -700 + 3000);
         QCOMPARE(rig.text("repeatCount"), QStringLiteral("3"));
         QVERIFY(rig.text("cycleTime").toInt() > 300);
-        QCOMPARE(rig.state.active.axesMoving[0], 0);
-        QVERIFY(rig.prompt.messages().isEmpty());
+        QVERIFY(!rig.axesMoving() && rig.prompt.messages().isEmpty());
     }
 
     void absoluteRepeat_alternatesAndEndsAtPosition1()
@@ -159,14 +123,13 @@ private slots:
         rig.setText("delayTime", "20");
         rig.setText("position1", "-1500");
         rig.setText("position2", "2500");
-        QCOMPARE(rig.find<QPushButton>("minusButton")->text(), QStringLiteral("Auto Move"));
+        QCOMPARE(rig.button("minusButton")->text(), QStringLiteral("Auto Move"));
         rig.click("minusButton");
         QList<int> restedAt;
-        bool dwelling = false;
         QVERIFY(rig.runToEnd([&] {
-            if (rig.clockwork.pause.isActive() && !dwelling)
+            if (rig.clockwork.pause.isActive() &&
+                (restedAt.isEmpty() || restedAt.last() != rig.commandPosition()))
                 restedAt << rig.commandPosition();
-            dwelling = rig.clockwork.pause.isActive();
         }));
         QCOMPARE(restedAt, (QList<int>{-1500, 2500, -1500, 2500, -1500}));
         QCOMPARE(rig.commandPosition(), -1500);
@@ -178,11 +141,11 @@ private slots:
     {
         Rig rig;
         QVERIFY(rig.start());
-        rig.pointToPoint(MotionType::Relative, false);
+        rig.pointToPoint(MotionType::Relative);
         rig.setText("position2", "50000");
         rig.click("plusButton");
         QVERIFY(rig.runToEnd());
-        QCOMPARE(rig.api.GetMotionErrCod(BoardFamily::RL, 0, 1), -620);
+        QCOMPARE(rig.errorCode(), -620);
         QCOMPARE(rig.prompt.messages(),
                  QStringList{"Abnormally stopped by positive hardware limit"});
 
@@ -190,15 +153,14 @@ private slots:
         // axis, ends on the + limit as well.
         rig.setText("position2", "3000");
         rig.click("minusButton");
-        QVERIFY(rig.runToEnd());
-        QCOMPARE(rig.api.GetMotionErrCod(BoardFamily::RL, 0, 1), 0);
+        QVERIFY(rig.runToEnd() && rig.errorCode() == 0);
         rig.prompt.clear();
-        rig.find<QTabBar>("tabBar")->setCurrentIndex(int(MotionTab::Home));
+        rig.selectTab(MotionTab::Home);
         rig.api.SetHomeDir(BoardFamily::RL, 0, 1, 0);
         rig.find<QComboBox>("homeMode")->setCurrentIndex(8);
         rig.click("minusButton");
         QVERIFY(rig.runToEnd());
-        QCOMPARE(rig.api.GetMotionErrCod(BoardFamily::RL, 0, 1), -620);
+        QCOMPARE(rig.errorCode(), -620);
         QVERIFY(rig.prompt.messages().isEmpty());
     }
 };
