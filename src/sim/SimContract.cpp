@@ -413,43 +413,47 @@ nrx_u16 SimContract::GetEmergency(nrx_u16 c)
 
 // ---- servo signals ---------------------------------------------------------------------------
 
-nrx_i32 SimContract::PutSvOn(nrx_u16 c, nrx_u16 a, nrx_u16 on)
+nrx_i32 SimContract::putServo(nrx_u16 c, nrx_u16 a, void (ServoLink::*set)(bool), nrx_u16 on)
 {
     if (SimAxis* ax = axis(c, a))
-        ax->servo().setServoOn(on != 0);
+        (ax->servo().*set)(on != 0);
     return 0;
+}
+
+nrx_u16 SimContract::servoOutput(nrx_u16 c, nrx_u16 a, bool (ServoLink::*get)() const)
+{
+    const SimAxis* ax = axis(c, a);
+    return ax && (ax->servo().*get)() ? 1 : 0;
+}
+
+nrx_i32 SimContract::PutSvOn(nrx_u16 c, nrx_u16 a, nrx_u16 on)
+{
+    return putServo(c, a, &ServoLink::setServoOn, on);
 }
 
 nrx_u16 SimContract::GetSvOn(nrx_u16 c, nrx_u16 a)
 {
-    const SimAxis* ax = axis(c, a);
-    return ax && ax->servo().servoOn() ? 1 : 0;
+    return servoOutput(c, a, &ServoLink::servoOn);
 }
 
 nrx_i32 SimContract::PutSvRun(nrx_u16 c, nrx_u16 a, nrx_u16 on)
 {
-    if (SimAxis* ax = axis(c, a))
-        ax->servo().setServoRun(on != 0);
-    return 0;
+    return putServo(c, a, &ServoLink::setServoRun, on);
 }
 
 nrx_u16 SimContract::GetSvRun(nrx_u16 c, nrx_u16 a)
 {
-    const SimAxis* ax = axis(c, a);
-    return ax && ax->servo().servoRun() ? 1 : 0;
+    return servoOutput(c, a, &ServoLink::servoRun);
 }
 
 nrx_i32 SimContract::PutSvAlmRst(nrx_u16 c, nrx_u16 a, nrx_u16 on)
 {
-    if (SimAxis* ax = axis(c, a))
-        ax->servo().setAlarmReset(on != 0);
-    return 0;
+    return putServo(c, a, &ServoLink::setAlarmReset, on);
 }
 
 nrx_u16 SimContract::GetSvAlmRst(nrx_u16 c, nrx_u16 a)
 {
-    const SimAxis* ax = axis(c, a);
-    return ax && ax->servo().alarmReset() ? 1 : 0;
+    return servoOutput(c, a, &ServoLink::alarmReset);
 }
 
 nrx_i32 SimContract::PutSvCClrCmd(nrx_u16 c, nrx_u16 a)
@@ -515,6 +519,12 @@ nrx_u16 SimContract::GetDiFilterTime(nrx_u16 c)
 
 // ---- status words --------------------------------------------------------------------------
 
+nrx_u16 SimContract::statusWord(nrx_u16 c, nrx_u16 a, uint16_t (*word)(const SimCard&, int))
+{
+    const SimCard* cd = card(c);
+    return cd && cd->axis(a) ? word(*cd, a) : 0;
+}
+
 nrx_u16 SimContract::GetCardStatus(nrx_u16 c, nrx_u16 a)
 {
     const SimCard* cd = card(c);
@@ -523,26 +533,22 @@ nrx_u16 SimContract::GetCardStatus(nrx_u16 c, nrx_u16 a)
 
 nrx_u16 SimContract::GetMainStatus(nrx_u16 c, nrx_u16 a)
 {
-    const SimCard* cd = card(c);
-    return cd && cd->axis(a) ? StatusWords::main(*cd, a) : 0;
+    return statusWord(c, a, &StatusWords::main);
 }
 
 nrx_u16 SimContract::GetDrvStatus(nrx_u16 c, nrx_u16 a)
 {
-    const SimCard* cd = card(c);
-    return cd && cd->axis(a) ? StatusWords::drive(*cd, a) : 0;
+    return statusWord(c, a, &StatusWords::drive);
 }
 
 nrx_u16 SimContract::GetErrStatus(nrx_u16 c, nrx_u16 a)
 {
-    const SimCard* cd = card(c);
-    return cd && cd->axis(a) ? StatusWords::error(*cd, a) : 0;
+    return statusWord(c, a, &StatusWords::error);
 }
 
 nrx_u16 SimContract::GetInputStatus(nrx_u16 c, nrx_u16 a)
 {
-    const SimCard* cd = card(c);
-    return cd && cd->axis(a) ? StatusWords::input(*cd, a) : 0;
+    return statusWord(c, a, &StatusWords::input);
 }
 
 // ---- extras ---------------------------------------------------------------------------------

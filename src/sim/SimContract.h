@@ -33,6 +33,9 @@ private:
         if (out)
             *out = static_cast<T>(value);
     }
+    nrx_i32 putServo(nrx_u16 card, nrx_u16 axis, void (ServoLink::*set)(bool), nrx_u16 on);
+    nrx_u16 servoOutput(nrx_u16 card, nrx_u16 axis, bool (ServoLink::*get)() const);
+    nrx_u16 statusWord(nrx_u16 card, nrx_u16 axis, uint16_t (*word)(const SimCard&, int));
     nrx_i32 command(nrx_u16 card, nrx_u16 axis, const char* what, bool accepted, nrx_i32 value = 0);
 
     SimFamily family_;
