@@ -53,28 +53,23 @@ private:
     }
 
 private slots:
-    void open_showsCardAxisServoTabsAndHomeButton()
+    void open_thenButtonsFollowTabMotionTypeAndRepeat()
     {
         Rig rig;
         rig.rl.setResultFor("GetSvOn", 0, 1, 1);
         QCOMPARE(rig.open().windowTitle(), QStringLiteral("Single Axis Motion - NRX-RL416V(0)"));
+        QCOMPARE(rig.rl.calls({"GetHomeMode", "GetJogSpeed", "GetSvOn"}),
+                 (QStringList{"GetSvOn(0,1)", "GetHomeMode(0,1)", "GetJogSpeed(0,1,&,&,&)"}));
         auto* cards = rig.find<QComboBox>("cardCombo");
-        QVERIFY(cards->count() == 1 && !cards->isEnabled());
         auto* axes = rig.find<QComboBox>("axisCombo");
+        QVERIFY(cards->count() == 1 && !cards->isEnabled());
         QVERIFY(axes->count() == 4 && axes->currentText() == QStringLiteral("1"));
         QCOMPARE(rig.button("servoButton")->text(), QStringLiteral("Servo Off"));
-        QCOMPARE(rig.captions(), QStringList{"Home"});
         auto* tabs = rig.find<QTabBar>("tabBar");
         QCOMPARE(QStringList({tabs->tabText(0), tabs->tabText(1)}),
                  (QStringList{"Home", "Point To Point"}));
-        QCOMPARE(rig.rl.calls({"GetHomeMode", "GetJogSpeed", "GetSvOn"}),
-                 (QStringList{"GetSvOn(0,1)", "GetHomeMode(0,1)", "GetJogSpeed(0,1,&,&,&)"}));
-    }
+        QCOMPARE(rig.captions(), QStringList{"Home"});
 
-    void layout_buttonsFollowTabMotionTypeAndRepeat()
-    {
-        Rig rig;
-        rig.open();
         auto* repeat = rig.find<QCheckBox>("repeat");
         rig.pointToPoint(MotionType::Jog);
         QCOMPARE(rig.captions(), (QStringList{"-Jog", "+Jog"}));
@@ -161,7 +156,7 @@ private slots:
         QCOMPARE(rig.frame.sent, (Sent{{UM_OPEN_TOOL, ToolParameter}}));
     }
 
-    void prompt_askedOnEveryWayOutOnlyWhenChanged()
+    void prompt_askedOnEveryWayOutOnlyWhenChangedAndYesWrites()
     {
         Rig rig({4, 4});
         rig.open();
@@ -171,9 +166,20 @@ private slots:
         rig.selectTab(MotionTab::Home);
         QVERIFY(rig.prompt.questions().isEmpty());
 
-        // Each way out with edited fields asks; No writes nothing.
-        rig.setText("highSpeed", "12345");
+        // Yes writes the page that was shown, in its order, and tells the frame.
+        rig.setText("highSpeed", "9000");
+        rig.setText("offset", "-5");
+        rig.prompt.queueAnswers({true, true});
         rig.selectTab(MotionTab::PointToPoint);
+        QCOMPARE(rig.rl.calls({"SetHomeMode", "SetHomeOffset", "SetHomeSpeed"}),
+                 (QStringList{"SetHomeMode(0,2,0)", "SetHomeOffset(0,2,-5)",
+                              "SetHomeSpeed(0,2,0,9000,0)"}));
+        // "Set Prm" writes without asking; a motion-type change asks like the ways out.
+        rig.setText("driveSpeed", "4000");
+        rig.button("setPrmButton")->click();
+        rig.setText("driveSpeed", "4200");
+        rig.choose("motionType", int(MotionType::Relative));
+        // No writes nothing.
         rig.setText("driveSpeed", "777");
         rig.choose("axisCombo", 3);
         rig.setText("driveSpeed", "778");
@@ -181,33 +187,16 @@ private slots:
         rig.setText("driveSpeed", "779");
         rig.window->requestClose();
         rig.window->close();
-        QCOMPARE(rig.prompt.questions(), QStringList(4, kChanged));
-        QCOMPARE(rig.rl.count("SetHomeMode") + rig.rl.count("SetJogSpeed"), 0);
-        QCOMPARE(rig.frame.sent,
-                 (Sent{{UM_AXIS_CHANGED, 2}, {UM_AXIS_CHANGED, 3}, {UM_CARD_CHANGED, 1}}));
-    }
-
-    void prompt_yesWritesThePageAndNotifiesFrame()
-    {
-        Rig rig;
-        rig.open();
-        rig.setText("highSpeed", "9000");
-        rig.setText("offset", "-5");
-        rig.prompt.queueAnswers({true, true});
-        rig.selectTab(MotionTab::PointToPoint);
-        QCOMPARE(rig.rl.calls({"SetHomeMode", "SetHomeOffset", "SetHomeSpeed"}),
-                 (QStringList{"SetHomeMode(0,1,0)", "SetHomeOffset(0,1,-5)",
-                              "SetHomeSpeed(0,1,0,9000,0)"}));
-        // "Set Prm" writes the visible page without asking.
-        rig.setText("driveSpeed", "4000");
-        rig.button("setPrmButton")->click();
-        // A motion-type change with edited speeds asks too.
-        rig.setText("driveSpeed", "4200");
-        rig.choose("motionType", int(MotionType::Relative));
-        QCOMPARE(rig.prompt.questions(), QStringList(2, kChanged));
-        QCOMPARE(rig.rl.calls({"SetJogSpeed"}),
-                 (QStringList{"SetJogSpeed(0,1,0,4000,0)", "SetJogSpeed(0,1,0,4200,0)"}));
-        QCOMPARE(rig.frame.sent, Sent(3, {UM_PARAM_CHANGED, 0}));
+        QCOMPARE(rig.prompt.questions(), QStringList(5, kChanged));
+        QCOMPARE(rig.rl.calls({"SetJogSpeed", "SetPosSpeed"}),
+                 (QStringList{"SetJogSpeed(0,2,0,4000,0)", "SetJogSpeed(0,2,0,4200,0)"}));
+        const QPair<int, int> written{UM_PARAM_CHANGED, 0};
+        QCOMPARE(rig.frame.sent, (Sent{{UM_AXIS_CHANGED, 2},
+                                       written,
+                                       written,
+                                       written,
+                                       {UM_AXIS_CHANGED, 3},
+                                       {UM_CARD_CHANGED, 1}}));
     }
 
     void controllerChange_promptsForPreviousFamilyThenRebuilds()
@@ -254,23 +243,24 @@ private slots:
         rig.pointToPoint(MotionType::Relative, true);
         rig.setText("count", "2");
         rig.setText("delayTime", "50");
-        const QList<QWidget*> locked{
+        const QList<QWidget*> lockable{
             rig.find<QComboBox>("cardCombo"), rig.find<QComboBox>("axisCombo"),
             rig.find<QTabBar>("tabBar"),      rig.find<QComboBox>("motionType"),
             rig.find<QCheckBox>("repeat"),    rig.find<QCheckBox>("infinite")};
-        const auto lockedCount = [&] {
-            return int(std::count_if(locked.begin(), locked.end(),
-                                     [](QWidget* widget) { return !widget->isEnabled(); }));
+        const auto enabled = [&] {
+            QList<bool> states;
+            for (QWidget* widget : lockable)
+                states << widget->isEnabled();
+            return states;
         };
         QTest::mouseClick(rig.button("plusButton"), Qt::LeftButton);
-        QVERIFY(lockedCount() == locked.size() && rig.axesMoving());
-        // The second step is on its way; after it the last dwell is still locked.
-        rig.clockwork.run(10 + 50);
+        QVERIFY(rig.axesMoving() && enabled() == QList<bool>(6, false));
+        // Poll, dwell, second step, poll: the last dwell still holds the lock.
+        rig.clockwork.run(10 + 50 + 10 + 49);
         QCOMPARE(rig.rl.count("Inc_Move"), 2);
-        rig.clockwork.run(10 + 49);
-        QVERIFY(lockedCount() == locked.size() && rig.axesMoving());
+        QVERIFY(rig.axesMoving() && enabled() == QList<bool>(6, false));
         rig.clockwork.run(1);
-        QVERIFY(lockedCount() == 0 && !rig.axesMoving());
+        QVERIFY(!rig.axesMoving() && enabled() == QList<bool>(6, true));
         QCOMPARE(rig.text("repeatCount"), QStringLiteral("2"));
     }
 };
