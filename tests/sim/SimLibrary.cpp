@@ -1,5 +1,10 @@
 #include "SimLibrary.h"
 
+#include "BoardSetup.h"
+
+#include <QDir>
+#include <QFile>
+
 SimLibrary::SimLibrary(int family) : library_(path(family))
 {
     if (!library_.load())
@@ -46,4 +51,10 @@ int SimLibrary::loadIn(const QString& folder)
     sim.SetManualClock(1);
     sim.SetDataFolder(folder.toLocal8Bit().constData());
     return nrx.LoadDevice();
+}
+
+bool SimLibrary::writeBoards(const QString& folder, const QByteArray& text)
+{
+    QFile f(QDir(folder).filePath(QString::fromLatin1(nrxsim::BoardSetup::FileName)));
+    return f.open(QIODevice::WriteOnly | QIODevice::Truncate) && f.write(text) == text.size();
 }

@@ -3,6 +3,7 @@
 #include "nrx_contract.h"
 #include "nrxsim_extras.h"
 
+#include <QByteArray>
 #include <QLibrary>
 #include <QString>
 
@@ -35,6 +36,8 @@ public:
 
     // LoadDevice on the given folder with the manual clock on.
     int loadIn(const QString& folder);
+    // Puts a boards file into `folder`; false when it cannot be written.
+    static bool writeBoards(const QString& folder, const QByteArray& text);
 
     NrxFunctionTable nrx{};
     Extras sim;

@@ -48,6 +48,31 @@ Axes=2
 IO=bogus
 )";
 
+// Every stored setting of one axis and its card, as the getters read them.
+QList<int> settings(NrxFunctionTable& n, nrx_u16 card, nrx_u16 axis)
+{
+    nrx_i32 v[4] = {};
+    nrx_u16 u[3] = {};
+    QList<int> all;
+    n.GetPosSpeed(card, axis, &v[0], &v[1], &v[2], &v[3]);
+    all << v[0] << v[1] << v[2] << v[3];
+    n.GetJogSpeed(card, axis, &v[0], &v[1], &v[2]);
+    all << v[0] << v[1] << v[2];
+    n.GetHomeSpeed(card, axis, &v[0], &v[1], &v[2]);
+    all << v[0] << v[1] << v[2];
+    n.GetSlmt(card, axis, &v[0], &v[1], &u[0]);
+    n.GetCounterRing(card, axis, &v[2], &v[3], &u[1]);
+    all << v[0] << v[1] << u[0] << v[2] << v[3] << u[1];
+    for (auto get : {n.GetHlmt, n.GetSvAlm, n.GetSvInpos, n.GetSvCClr}) {
+        get(card, axis, &u[0], &u[1]);
+        all << u[0] << u[1];
+    }
+    all << n.GetHomeOffset(card, axis) << n.GetHomeMode(card, axis) << n.GetHomeDir(card, axis)
+        << n.GetRangeMode(card, axis) << n.GetFilterTime(card, axis) << n.GetEmergency(card)
+        << n.GetDiFilter(card) << n.GetDiFilterTime(card);
+    return all;
+}
+
 } // namespace
 
 // The boards file, parameter files, log, I/O and robustness of the simulated libraries.
@@ -237,6 +262,7 @@ private slots:
     {
         QCOMPARE(rl().loadIn(dir_->path()), 1);
         NrxFunctionTable& n = rl().nrx;
+        const QList<int> defaults = settings(n, 0, 3);
         n.SetPosSpeed(0, 3, 300, 45000, 250, 350);
         n.SetJogSpeed(0, 3, 200, 30000, 150);
         n.SetHomeSpeed(0, 3, 1500, 25000, 80);
@@ -246,49 +272,28 @@ private slots:
         n.SetHlmt(0, 3, 1, 1);
         n.SetSvAlm(0, 3, 0, 1);
         n.SetSvInpos(0, 3, 1, 1);
-        n.SetSvCClr(0, 3, 1, 1);
+        n.SetSvCClr(0, 3, 0, 1);
         n.SetSlmt(0, 3, 70000, -80000, 1);
-        n.SetCounterRing(0, 3, 3600, 7200, 0);
+        n.SetCounterRing(0, 3, 3600, 7200, 1);
         n.SetRangeMode(0, 3, 250);
+        n.SetFilterTime(0, 3, 6);
         n.SetEmergency(0, 1);
         n.SetDiFilter(0, 1);
         n.SetDiFilterTime(0, 5);
         n.SetEncoderMode(1, 1, 3);
+        const QList<int> saved = settings(n, 0, 3);
+        for (int i = 0; i < saved.size(); ++i)
+            QVERIFY2(saved[i] != defaults[i], qPrintable(QString::number(i))); // all were set
         n.SaveFile(0);
         n.SaveFile(1);
-        QVERIFY(QFile::exists(path("NrxSimRL_Card0.prm")));
+        QCOMPARE(QDir(dir_->path()).entryList({"*.prm"}, QDir::Files).size(), 2);
         QCOMPARE(QDir(dir_->path()).entryList({"*.new"}, QDir::Files).size(), 0);
         n.UnloadDevice();
 
         QCOMPARE(rl().loadIn(dir_->path()), 1);
-        nrx_i32 a, b, c, d;
-        n.GetPosSpeed(0, 3, &a, &b, &c, &d);
-        QCOMPARE(QList<int>({a, b, c, d}), QList<int>({300, 45000, 250, 350}));
-        n.GetJogSpeed(0, 3, &a, &b, &c);
-        QCOMPARE(QList<int>({a, b, c}), QList<int>({200, 30000, 150}));
-        n.GetHomeSpeed(0, 3, &a, &b, &c);
-        QCOMPARE(QList<int>({a, b, c}), QList<int>({1500, 25000, 80}));
-        QCOMPARE(n.GetHomeOffset(0, 3), -1234);
-        QCOMPARE(n.GetHomeMode(0, 3), 7);
-        QCOMPARE(n.GetHomeDir(0, 3), 0);
-        nrx_u16 u, v;
-        n.GetHlmt(0, 3, &u, &v);
-        QCOMPARE(QList<int>({u, v}), QList<int>({1, 1}));
-        n.GetSvAlm(0, 3, &u, &v);
-        QCOMPARE(QList<int>({u, v}), QList<int>({0, 1}));
-        n.GetSvInpos(0, 3, &u, &v);
-        QCOMPARE(QList<int>({u, v}), QList<int>({1, 1}));
-        nrx_u16 use;
-        n.GetSlmt(0, 3, &a, &b, &use);
-        QCOMPARE(QList<int>({a, b, use}), QList<int>({70000, -80000, 1}));
-        n.GetCounterRing(0, 3, &a, &b, &use);
-        QCOMPARE(QList<int>({a, b, use}), QList<int>({3600, 7200, 0}));
-        QCOMPARE(n.GetRangeMode(0, 3), 250);
-        QCOMPARE(n.GetEmergency(0), 1);
-        QCOMPARE(n.GetDiFilter(0), 1);
-        QCOMPARE(n.GetDiFilterTime(0), 5);
+        QCOMPARE(settings(n, 0, 3), saved);
         QCOMPARE(n.GetEncoderMode(1, 1), 3);
-        QCOMPARE(n.GetRangeMode(0, 2), 100); // untouched axes keep their defaults
+        QCOMPARE(settings(n, 1, 0), defaults); // an untouched card keeps its defaults
     }
 
     void parameterFile_damagedOrForeignGivesMinus2_data()

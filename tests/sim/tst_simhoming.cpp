@@ -1,7 +1,6 @@
 #include "SimConstants.h"
 #include "SimLibrary.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -70,10 +69,7 @@ private slots:
     void initTestCase()
     {
         QVERIFY(dir_.isValid());
-        QFile f(dir_.filePath("NrxSimBoards.ini"));
-        QVERIFY(f.open(QIODevice::WriteOnly));
-        f.write(Boards);
-        f.close();
+        QVERIFY(SimLibrary::writeBoards(dir_.path(), Boards));
         lib_ = std::make_unique<SimLibrary>(0);
         QVERIFY2(lib_->isLoaded(), qPrintable(lib_->errorString()));
         nrx_ = &lib_->nrx;
@@ -186,19 +182,6 @@ private slots:
         home(0, 9, Minus);
         nrx_->Reset(0);
         QVERIFY(!(nrx_->GetCardStatus(0, 0) & CardBit::HomeOk));
-    }
-
-    void emergency_abortsTheSearch()
-    {
-        nrx_->SetHomeMode(0, 0, 4);
-        nrx_->Home_Move(0, 0);
-        lib_->sim.AdvanceClock(500);
-        lib_->sim.SetSignal(0, 0, NRXSIM_SIGNAL_EMERGENCY, 1);
-        lib_->sim.AdvanceClock(1);
-        QCOMPARE(nrx_->Done(0, 0), 0);
-        QCOMPARE(nrx_->GetMotionErrCod(0, 0), -650);
-        QVERIFY(!(nrx_->GetCardStatus(0, 0) & CardBit::HomeOk));
-        lib_->sim.SetSignal(0, 0, NRXSIM_SIGNAL_EMERGENCY, 0);
     }
 };
 

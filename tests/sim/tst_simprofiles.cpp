@@ -1,9 +1,7 @@
-#include "MotionProfile.h"
 #include "SpeedProfile.h"
 
 #include <QtTest>
 
-using nrxsim::MotionProfile;
 using nrxsim::SpeedProfile;
 
 namespace {
@@ -24,7 +22,7 @@ SpeedProfile profile(int drive, int initial, int accel, int decel, bool sCurve =
 
 } // namespace
 
-// The register rules the actual-speed calculator shows, and the runs built from them.
+// The register rules the actual-speed calculator shows.
 class TestSimProfiles : public QObject
 {
     Q_OBJECT
@@ -90,53 +88,6 @@ private slots:
         QCOMPARE(p.jerk(), 3.90625e6);
         QCOMPARE(p.accelTimeMs(), 100.0);
         QCOMPARE(p.decelTimeMs(), p.accelTimeMs()); // the decel input is not used
-    }
-
-    void positioning_fullProfileTakesRampsPlusCruise()
-    {
-        for (const bool sCurve : {false, true}) {
-            const SpeedProfile sp = profile(10000, 100, 100, 200, sCurve);
-            const double distance = 50000;
-            const MotionProfile run = MotionProfile::positioning(distance, sp);
-            const double ramps = (sp.initialSpeed() + sp.driveSpeed()) / 2.0 *
-                                 (sp.accelTimeMs() + sp.decelTimeMs()) / 1000.0;
-            const double expected = (sp.accelTimeMs() + sp.decelTimeMs()) / 1000.0 +
-                                    (distance - ramps) / sp.driveSpeed();
-            QVERIFY2(qAbs(run.duration() - expected) < 0.002, sCurve ? "S-curve" : "trapezoid");
-            QCOMPARE(run.at(run.duration()).distance, distance);
-            QCOMPARE(run.at(run.duration() / 2).speed, double(sp.driveSpeed()));
-            // Distance never runs backwards.
-            double last = 0;
-            for (double t = 0; t < run.duration(); t += 0.001) {
-                const double d = run.at(t).distance;
-                QVERIFY(d >= last - 1e-6);
-                last = d;
-            }
-        }
-    }
-
-    void positioning_shortMoveMakesTriangle()
-    {
-        for (const bool sCurve : {false, true}) {
-            const SpeedProfile sp = profile(10000, 100, 200, 200, sCurve);
-            const MotionProfile run = MotionProfile::positioning(300, sp);
-            double peak = 0;
-            for (double t = 0; t < run.duration(); t += 0.0005)
-                peak = qMax(peak, run.at(t).speed);
-            QVERIFY(peak < sp.driveSpeed());
-            QVERIFY(peak > sp.initialSpeed());
-            QCOMPARE(run.at(run.duration()).distance, 300.0);
-        }
-    }
-
-    void rampDown_endsAtInitialSpeed()
-    {
-        const SpeedProfile sp = profile(10000, 100, 100, 100);
-        const MotionProfile down = MotionProfile::rampDown(sp.driveSpeed(), sp);
-        QVERIFY(qAbs(down.duration() * 1000.0 - sp.decelTimeMs()) < 1e-6);
-        // Triangle area: (10000 + 100) / 2 pps for 0.1 s.
-        QVERIFY(qAbs(down.distance() - 505.0) < 1e-6);
-        QCOMPARE(MotionProfile::rampDown(50, sp).duration(), 0.0);
     }
 };
 
