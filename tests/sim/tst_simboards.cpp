@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -149,30 +150,26 @@ private slots:
 
     void boardsFile_describesTheCards()
     {
-        writeFile(path("NrxSimBoards.ini"), TwoCards);
+        QVERIFY(SimLibrary::writeBoards(dir_->path(), TwoCards));
         QCOMPARE(rl().loadIn(dir_->path()), 1);
         QCOMPARE(lib_[1]->loadIn(dir_->path()), -1); // no [RM] section: no board
         QCOMPARE(rl().nrx.GetDllVersion(nullptr), 3040506);
         nrx_i32 reserved, firmware, axisCount, info, ioCount;
         rl().nrx.BoardInfo(0, &reserved, &firmware, &axisCount, &info, &ioCount);
-        QCOMPARE(firmware, 0x43);
-        QCOMPARE(axisCount, 4);
-        QCOMPARE(info, 7);
-        QCOMPARE(ioCount, 24);
+        QCOMPARE(QList<int>({firmware, axisCount, info, ioCount}), QList<int>({0x43, 4, 7, 24}));
         rl().nrx.BoardInfo(1, &reserved, &firmware, &axisCount, &info, &ioCount);
-        QCOMPARE(axisCount, 2);
-        QCOMPARE(ioCount, 16); // a value that is no number keeps the default
-        QCOMPARE(info, 1);
+        // IO=bogus keeps the default of 16.
+        QCOMPARE(QList<int>({axisCount, info, ioCount}), QList<int>({2, 1, 16}));
 
         // Input wiring: 3 follows output 5, 4 is held on, the rest stay off.
+        auto inputs = [this] {
+            return QList<int>({rl().nrx.GetDIBit(0, 3), rl().nrx.GetDIBit(0, 4),
+                               rl().nrx.GetDIBit(0, 5), rl().nrx.GetDOBit(0, 5)});
+        };
         rl().nrx.PutDOBit(0, 5, 1);
-        QCOMPARE(rl().nrx.GetDOBit(0, 5), 1);
-        QCOMPARE(rl().nrx.GetDIBit(0, 3), 1);
-        QCOMPARE(rl().nrx.GetDIBit(0, 4), 1);
-        QCOMPARE(rl().nrx.GetDIBit(0, 5), 0);
+        QCOMPARE(inputs(), QList<int>({1, 1, 0, 1}));
         rl().nrx.PutDOBit(0, 5, 0);
-        QCOMPARE(rl().nrx.GetDIBit(0, 3), 0);
-        QCOMPARE(rl().nrx.GetDOBit(0, 5), 0);
+        QCOMPARE(inputs(), QList<int>({0, 1, 0, 0}));
 
         // Axis 0's alarm line is output 2.
         QVERIFY(!(rl().nrx.GetCardStatus(0, 0) & CardBit::Alm));
@@ -184,27 +181,20 @@ private slots:
 
     void boardsFile_largestConfiguration()
     {
-        QByteArray text;
-        for (const char* family : {"RL", "RM", "RN"}) {
-            text += QByteArray("[") + family + "]\nCards=8\n";
-            for (int card = 0; card < 8; ++card)
-                text += QByteArray("[") + family + ".Card" + QByteArray::number(card) +
-                        "]\nAxes=8\nIO=64\n";
-        }
-        writeFile(path("NrxSimBoards.ini"), text);
-        for (int family = 0; family < 3; ++family) {
-            SimLibrary& l = *lib_[family];
-            QCOMPARE(l.loadIn(dir_->path()), 7);
-            nrx_i32 axisCount = 0, ioCount = 0;
-            l.nrx.BoardInfo(7, nullptr, nullptr, &axisCount, nullptr, &ioCount);
-            QCOMPARE(axisCount, 8);
-            QCOMPARE(ioCount, 64);
-            l.nrx.Inc_Move(7, 7, 1000);
-            l.sim.AdvanceClock(1000);
-            QCOMPARE(l.nrx.GetCommandPos(7, 7), 1000);
-            l.nrx.PutDOBit(7, 63, 1);
-            QCOMPARE(l.nrx.GetDIBit(7, 63), 1);
-        }
+        QByteArray text = "[RN]\nCards=8\n";
+        for (int card = 0; card < 8; ++card)
+            text += "[RN.Card" + QByteArray::number(card) + "]\nAxes=8\nIO=64\n";
+        QVERIFY(SimLibrary::writeBoards(dir_->path(), text));
+        SimLibrary& rn = *lib_[2];
+        QCOMPARE(rn.loadIn(dir_->path()), 7);
+        nrx_i32 axisCount = 0, ioCount = 0;
+        rn.nrx.BoardInfo(7, nullptr, nullptr, &axisCount, nullptr, &ioCount);
+        QCOMPARE(QList<int>({axisCount, ioCount}), QList<int>({8, 64}));
+        rn.nrx.Inc_Move(7, 7, 1000);
+        rn.sim.AdvanceClock(1000);
+        QCOMPARE(rn.nrx.GetCommandPos(7, 7), 1000);
+        rn.nrx.PutDOBit(7, 63, 1);
+        QCOMPARE(rn.nrx.GetDIBit(7, 63), 1);
     }
 
     void boardsFile_forcesTheLoadResult_data()
@@ -216,8 +206,8 @@ private slots:
     void boardsFile_forcesTheLoadResult()
     {
         QFETCH(int, code);
-        writeFile(path("NrxSimBoards.ini"),
-                  QByteArray("[RM]\nCards=2\nLoadResult=") + QByteArray::number(code) + "\n");
+        QVERIFY(SimLibrary::writeBoards(
+            dir_->path(), "[RM]\nCards=2\nLoadResult=" + QByteArray::number(code) + "\n"));
         SimLibrary& rm = *lib_[1];
         QCOMPARE(rm.loadIn(dir_->path()), code);
         nrx_i32 axisCount = -1;
@@ -324,7 +314,7 @@ private slots:
         else if (damage == "junk")
             text = QByteArray(3000, '\xff') + QByteArray("\0\0", 2);
         if (damage == "axes")
-            writeFile(path("NrxSimBoards.ini"), "[RL]\nCards=1\n[RL.Card0]\nAxes=8\n");
+            QVERIFY(SimLibrary::writeBoards(dir_->path(), "[RL]\nCards=1\n[RL.Card0]\nAxes=8\n"));
         else
             writeFile(file, text);
 
@@ -419,19 +409,17 @@ private slots:
             auto u16 = [&]() -> nrx_u16 {
                 return rng.bounded(4) == 0 ? nrx_u16(rng.generate()) : nrx_u16(rng.bounded(10));
             };
+            // Mostly small numbers, now and then any value or an extreme one.
             auto i32 = [&]() -> nrx_i32 {
-                switch (rng.bounded(4)) {
-                case 0:
-                    return nrx_i32(rng.generate());
-                case 1:
-                    return rng.bounded(2) ? INT32_MAX : INT32_MIN;
-                default:
-                    return rng.bounded(-100000, 100000);
-                }
+                const int kind = int(rng.bounded(4));
+                if (kind < 2)
+                    return kind == 0        ? nrx_i32(rng.generate())
+                           : rng.bounded(2) ? INT32_MAX
+                                            : INT32_MIN;
+                return rng.bounded(-100000, 100000);
             };
-            nrx_u16 axes[8];
-            nrx_i32 values[8];
-            nrx_u16 dirs[8];
+            nrx_u16 axes[8] = {};
+            nrx_i32 values[8] = {};
             nrx_i32 out[4];
             nrx_u16 outs[3];
             const std::vector<std::function<void()>> calls = {
@@ -463,27 +451,13 @@ private slots:
                 [&] { n.Reset(u16()); },
                 [&] { n.SetSystemDefault(u16(), u16()); },
                 [&] {
-                    const nrx_u16 count = u16() % 10;
-                    for (int i = 0; i < 8; ++i) {
-                        axes[i] = u16();
-                        values[i] = i32();
-                        dirs[i] = u16();
-                    }
-                    switch (rng.bounded(4)) {
-                    case 0:
-                        n.Multi_Inc_Move(u16(), count, axes, values);
-                        break;
-                    case 1:
-                        n.Multi_Abs_Move(u16(), count, axes, values);
-                        break;
-                    case 2:
-                        n.Multi_Jog_Move(u16(), count, axes, dirs);
-                        break;
-                    default:
-                        n.Multi_Decel_Stop(u16(), count, axes);
-                        break;
-                    }
+                    std::generate(axes, axes + 8, u16);
+                    std::generate(values, values + 8, i32);
+                    n.Multi_Inc_Move(u16(), u16() % 10, axes, values);
                 },
+                [&] { n.Multi_Abs_Move(u16(), u16() % 10, axes, values); },
+                [&] { n.Multi_Jog_Move(u16(), u16() % 10, axes, axes); },
+                [&] { n.Multi_Decel_Stop(u16(), u16() % 10, axes); },
                 [&] {
                     n.GetCardStatus(u16(), u16());
                     n.GetMainStatus(u16(), u16());

@@ -260,17 +260,6 @@ private slots:
         QCOMPARE(rl_->GetCommandPos(0, 2), -5000);
     }
 
-    void limits_boardLevelAgainstWiringReadsInverted()
-    {
-        // Switches wired normally open but the board set to high active: the limit reads
-        // active away from the switch, so no motion starts.
-        rl_->SetHlmt(0, 0, 0, 1);
-        QVERIFY(rl_->GetCardStatus(0, 0) & CardBit::LimitPlus);
-        rl_->Inc_Move(0, 0, 1000);
-        QCOMPARE(rl_->GetMotionErrCod(0, 0), -620);
-        QCOMPARE(rl_->GetCommandPos(0, 0), 0);
-    }
-
     void softLimits_stopOnTheLimit()
     {
         rl_->SetSlmt(0, 0, 5000, -3000, 1);
