@@ -17,6 +17,7 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTreeWidgetItemIterator>
 
 #include <functional>
 #include <memory>
@@ -29,10 +30,7 @@ class TestToolView : public ToolView
 public:
     TestToolView(ToolKind kind, QStringList& log, QWidget* parent)
         : ToolView(parent), m_kind(kind), m_log(log)
-    {
-        setWindowTitle(QStringLiteral("Tool %1").arg(kind));
-        setMinimumSize(120, 80);
-    }
+    {}
     ToolKind kind() const override { return m_kind; }
     void handleUserMessage(UserMessage message, int wParam) override
     {
@@ -105,15 +103,9 @@ private:
         QStringList boldItems() const
         {
             QStringList bold;
-            QList<QTreeWidgetItem*> pending;
-            for (int i = 0; i < tree()->topLevelItemCount(); ++i)
-                pending << tree()->topLevelItem(i);
-            while (!pending.isEmpty()) {
-                QTreeWidgetItem* item = pending.takeFirst();
-                if (item->font(0).bold())
-                    bold << item->text(0);
-                for (int i = 0; i < item->childCount(); ++i)
-                    pending << item->child(i);
+            for (QTreeWidgetItemIterator item(tree()); *item; ++item) {
+                if ((*item)->font(0).bold())
+                    bold << (*item)->text(0);
             }
             return bold;
         }
@@ -154,19 +146,6 @@ private slots:
                  QStringLiteral("Axis Status - NRX-RM416V(0)"));
         QCOMPARE(rig.frame->motionDock()->windowTitle(),
                  QStringLiteral("Motion Status - NRX-RM416V(0)"));
-    }
-
-    void tree_contextMenuOnlyOnCardItems()
-    {
-        Rig rig(1, -1, -1);
-        QVERIFY(rig.create());
-        QTreeWidgetItem* card = rig.tree()->cardItem(BoardFamily::RL, 1);
-        QCOMPARE(card->text(0), QStringLiteral("1 : NRX-RL416V"));
-        std::unique_ptr<QMenu> menu(rig.tree()->createContextMenu(card));
-        QVERIFY(menu);
-        QCOMPARE(menu->actions().first()->text(), QStringLiteral("Set Active Controller"));
-        QVERIFY(!rig.tree()->createContextMenu(card->child(0)));
-        QVERIFY(!rig.tree()->createContextMenu(rig.tree()->familyItem(BoardFamily::RL)));
     }
 
     void activeController_setFromTreeOrCombosMovesBoldTitlesAndCombos()
@@ -225,11 +204,17 @@ private slots:
         }
     }
 
-    void tree_doubleClickOpensOnlyUnderTheActiveCard()
+    void tree_contextMenuOnCardsDoubleClickUnderTheActiveCard()
     {
         Rig rig(1, -1, -1);
         QVERIFY(rig.create());
         QTreeWidgetItem* inactive = rig.tree()->cardItem(BoardFamily::RL, 1);
+        QCOMPARE(inactive->text(0), QStringLiteral("1 : NRX-RL416V"));
+        std::unique_ptr<QMenu> menu(rig.tree()->createContextMenu(inactive));
+        QCOMPARE(menu->actions().first()->text(), QStringLiteral("Set Active Controller"));
+        QVERIFY(!rig.tree()->createContextMenu(inactive->child(0)));
+        QVERIFY(!rig.tree()->createContextMenu(rig.tree()->familyItem(BoardFamily::RL)));
+
         rig.tree()->activateItem(inactive->child(0));
         rig.tree()->activateItem(rig.tree()->cardItem(BoardFamily::RL, 0));
         QCOMPARE(rig.frame->toolWindows().createdCount(), 0);
@@ -243,7 +228,6 @@ private slots:
     void relay_orderAndRecipients()
     {
         Rig rig(1, -1, -1);
-        rig.rl.setOutValuesFor("BoardInfo", 1, 0, {0, 0x21, 8, 0, 16});
         QVERIFY(rig.create());
         rig.frame->openTool(ToolParameter);
         rig.frame->openTool(ToolDigitalIo);
@@ -359,9 +343,6 @@ private slots:
         defaults.frame->show();
         QVERIFY(!defaults.frame->statusDock()->isHidden());
         QCOMPARE(defaults.state.statusFollowsOperation, 1);
-        for (QDockWidget* dock : {defaults.frame->treeDock(), defaults.frame->statusDock(),
-                                  defaults.frame->motionDock()})
-            QCOMPARE(dock->features(), QDockWidget::NoDockWidgetFeatures);
 
         Rig rig(0, -1, -1);
         const QString path = rig.state.moduleDirectory + QStringLiteral("ZelbrinOrvane.ini");
@@ -378,18 +359,7 @@ private slots:
         QCOMPARE(rig.state.settingsFilePath, path);
     }
 
-    void logLevel_goesToTheActiveFamilyOnly()
-    {
-        Rig rig(-1, 0, 0);
-        QVERIFY(rig.create());
-        rig.frame->applyLogLevel(3);
-        QCOMPARE(rig.rm.calls(QStringList{"LogCheck"}), QStringList{"LogCheck(3)"});
-        QCOMPARE(rig.rl.count(QStringLiteral("LogCheck")), 0);
-        QCOMPARE(rig.rn.count(QStringLiteral("LogCheck")), 0);
-        QCOMPARE(rig.state.logLevel, 3);
-    }
-
-    void monitorTick_readsTheActiveCard()
+    void activeFamilyOnly_monitorTickAndLogLevel()
     {
         Rig rig(-1, 0, 1);
         QVERIFY(rig.create());
@@ -397,10 +367,13 @@ private slots:
         rig.rm.clearCalls();
         rig.rn.clearCalls();
         rig.frame->MonitorTick();
-        const QStringList calls = rig.rm.calls();
-        QCOMPARE(calls.filter(QStringLiteral("GetCardStatus")).size(), 4);
-        QVERIFY(calls.contains(QStringLiteral("GetCommandPos(0,3)")));
+        QCOMPARE(rig.rm.calls().filter(QStringLiteral("GetCardStatus")).size(), 4);
+        QVERIFY(rig.rm.calls().contains(QStringLiteral("GetCommandPos(0,3)")));
+        rig.frame->applyLogLevel(3);
+        QCOMPARE(rig.rm.calls(QStringList{"LogCheck"}), QStringList{"LogCheck(3)"});
+        QCOMPARE(rig.state.logLevel, 3);
         QCOMPARE(rig.rn.calls(), QStringList());
+        QCOMPARE(rig.rl.count(QStringLiteral("LogCheck")), 0);
     }
 
     void exit_offersSaveThenUnloadsFamiliesWithBoards()

@@ -58,7 +58,7 @@ private slots:
         QCOMPARE(TextFile::read(file), expected);
     }
 
-    void write_newKeyJoinsItsSectionNewSectionIsAppended()
+    void write_newKeyJoinsItsSectionNewSectionAndFileAreCreated()
     {
         const QString file = path("grow.ini");
         QVERIFY(TextFile::write(file, "[System]\nA=1\n\n[Next]\nB=2\n"));
@@ -68,14 +68,11 @@ private slots:
         QCOMPARE(TextFile::read(file),
                  QByteArray("[System]\nA=1\nC=x,y\n\n[Next]\nB=2\n[DEBUG_RM]\nLOG_LEVEL=3\n"));
         QCOMPARE(profile.readString("System", "C"), QByteArray("x,y"));
-    }
 
-    void write_createsMissingFile()
-    {
-        const QString file = path("new.ini");
-        PrivateProfile profile(file);
-        QVERIFY(profile.writeInt("System", "Change_Status_Axis_Depend_On_Operation", 0));
-        QCOMPARE(TextFile::read(file),
+        // A missing file is created, its lines ending in CR LF.
+        PrivateProfile fresh(path("new.ini"));
+        QVERIFY(fresh.writeInt("System", "Change_Status_Axis_Depend_On_Operation", 0));
+        QCOMPARE(TextFile::read(fresh.path()),
                  QByteArray("[System]\r\nChange_Status_Axis_Depend_On_Operation=0\r\n"));
     }
 };

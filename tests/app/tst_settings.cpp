@@ -70,8 +70,6 @@ private slots:
     {
         QVERIFY(TextFile::write(folder() + OrvaneSettings::debugLevelFileName(),
                                 "[DEBUG_RM]\nLOG_LEVEL=3\n"));
-        QCOMPARE(OrvaneSettings::readLogLevel(folder(), BoardFamily::RM), 3);
-        QCOMPARE(OrvaneSettings::readLogLevel(folder(), BoardFamily::RL), 2);
         COV_LogLevDlg rm(OrvaneSettings::readLogLevel(folder(), BoardFamily::RM));
         QCOMPARE(rm.levelList()->currentText(), QStringLiteral("3 : Level 3(All Functions)"));
         COV_LogLevDlg rl(OrvaneSettings::readLogLevel(folder(), BoardFamily::RL));

@@ -155,21 +155,11 @@ private slots:
         QCOMPARE(rig.drive()->lamp(3, 11)->image().toImage(), lampPicture(driveBit11, false));
     }
 
-    void drivePage_bit12LitShowsMinusLimitPicture()
-    {
-        Rig rig(BoardFamily::RL, 4);
-        rig.board.setResultFor("GetDrvStatus", 0, 0, 0x1000);
-        rig.view->showPage(COV_StBaseWnd::DrivePage);
-        rig.tick();
-        QCOMPARE(rig.drive()->lamp(0, 12)->image().toImage(), lampPicture("S-LMT-", true));
-        QCOMPARE(rig.drive()->lamp(0, 13)->image().toImage(), lampPicture("S-LMT-", false));
-        QCOMPARE(rig.drive()->lamp(1, 12)->image().toImage(), lampPicture("S-LMT+", false));
-    }
-
     void polling_onlyThePageOnShow()
     {
         Rig rig(BoardFamily::RL, 4);
         rig.board.setResultFor("GetCardStatus", 0, 2, 0x0100);
+        rig.board.setResultFor("GetDrvStatus", 0, 0, 0x1000);
         QCOMPARE(rig.tick().filter("GetDrvStatus").size(), 0);
         rig.view->showPage(COV_StBaseWnd::DrivePage);
         const QStringList calls = rig.tick();
@@ -177,6 +167,9 @@ private slots:
         QCOMPARE(calls.filter("GetDrvStatus").size(), 4);
         // The card page keeps its last lamps while hidden.
         QCOMPARE(rig.card()->lamp(2, 8)->image().toImage(), lampPicture("RUN", true));
+        // Drive bit 12 lights up with bit 13's picture; dark, it keeps its own caption.
+        QCOMPARE(rig.drive()->lamp(0, 12)->image().toImage(), lampPicture("S-LMT-", true));
+        QCOMPARE(rig.drive()->lamp(1, 12)->image().toImage(), lampPicture("S-LMT+", false));
     }
 
     void lamps_unchangedBoardRepaintsNothing()
