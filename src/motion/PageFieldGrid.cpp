@@ -7,11 +7,15 @@
 
 namespace {
 constexpr int kCaptionWidth = 110;
+constexpr int kUnitWidth = 48;
+constexpr int kButtonWidth = 84;
 } // namespace
 
 PageFieldGrid::PageFieldGrid(QWidget* group) : m_grid(new QGridLayout(group))
 {
     m_grid->setColumnMinimumWidth(0, kCaptionWidth);
+    m_grid->setColumnMinimumWidth(2, kUnitWidth);
+    m_grid->setColumnMinimumWidth(3, kButtonWidth);
 }
 
 void PageFieldGrid::addRow(const QString& caption, QWidget* control)

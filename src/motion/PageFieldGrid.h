@@ -9,7 +9,7 @@ class QPushButton;
 class QWidget;
 
 // Lays out the fields of a single-axis page's group, one row each: caption, control, unit and
-// an optional button, with one caption width on every group so the fields line up.
+// an optional button, with the same column widths on every group so the fields line up.
 class PageFieldGrid
 {
 public:

@@ -1,4 +1,5 @@
 #include "BoardLoader.h"
+#include "COV_SnMtnPtpWnd.h"
 #include "SnMtnWindowRig.h"
 
 #include <QDir>
@@ -88,8 +89,9 @@ private slots:
         Rig rig;
         QVERIFY(rig.start());
         rig.pointToPoint(MotionType::Relative, true);
-        rig.setText("setCommand", "-700");
-        rig.button("commandButton")->click();
+        auto* page = rig.window->findChild<COV_SnMtnPtpWnd*>();
+        page->findChild<QLineEdit*>("setCommand")->setText("-700");
+        page->findChild<QPushButton*>("commandButton")->click();
         rig.setText("count", "3");
         rig.setText("delayTime", "150");
         rig.setText("position2", "1000");
