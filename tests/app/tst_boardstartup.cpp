@@ -1,12 +1,9 @@
 #include "AppState.h"
-#include "BoardApi.h"
 #include "BoardStartup.h"
-#include "RecordingBoard.h"
+#include "RecordingBoardSet.h"
 #include "ScriptedPrompt.h"
 
 #include <QTest>
-
-#include <memory>
 
 // The start-up load with its messages, the card information, the save prompt and the unload.
 class TestBoardStartup : public QObject
@@ -14,19 +11,13 @@ class TestBoardStartup : public QObject
     Q_OBJECT
 
 private:
-    struct Rig
+    struct Rig : RecordingBoardSet
     {
-        RecordingBoard rl{BoardFamily::RL};
-        RecordingBoard rm{BoardFamily::RM};
-        RecordingBoard rn{BoardFamily::RN};
-        BoardApi api;
         CardRegistry registry;
         ScriptedPrompt prompt;
         BoardStartup startup{api, registry, prompt};
         Rig(int rlResult, int rmResult, int rnResult)
         {
-            for (RecordingBoard* board : {&rl, &rm, &rn})
-                board->installInto(api);
             rl.setResult("LoadDevice", rlResult);
             rm.setResult("LoadDevice", rmResult);
             rn.setResult("LoadDevice", rnResult);
@@ -41,7 +32,7 @@ private slots:
         QCOMPARE(rig.prompt.messages(),
                  QStringList{QStringLiteral("FAIL! LOAD DEVICE DRIVER ....")});
         rig.startup.unloadDevices();
-        for (RecordingBoard* board : {&rig.rl, &rig.rm, &rig.rn})
+        for (RecordingBoard* board : rig.all())
             QCOMPARE(board->calls(), QStringList{QStringLiteral("LoadDevice()")});
     }
 
