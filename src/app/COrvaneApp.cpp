@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QScreen>
 
 COrvaneApp::COrvaneApp()
 {
@@ -31,6 +32,10 @@ int COrvaneApp::run()
     m_prompt.setParent(m_frame.get());
     if (!m_frame->create(m_loader->problems()))
         return 1;
+    // Without a window manager (a kiosk, a virtual display) maximising does nothing; the
+    // frame then still covers the screen.
+    if (const QScreen* screen = m_frame->screen())
+        m_frame->setGeometry(screen->availableGeometry());
     m_frame->showMaximized();
     const int result = QApplication::exec();
     m_frame.reset();
