@@ -106,9 +106,10 @@ void StatusLampPage::showColumns(const StatusColumnRules::Columns& columns)
         QLineEdit* edit = title(column);
         if (edit->isHidden() == columns.titlesShown[index])
             edit->setVisible(columns.titlesShown[index]);
-        const QString text = QStringLiteral("%1 Axis").arg(columns.titleAxis[index]);
-        if (edit->text() != text)
-            edit->setText(text);
+        if (m_shownTitleAxis[index] != columns.titleAxis[index]) {
+            m_shownTitleAxis[index] = columns.titleAxis[index];
+            edit->setText(QStringLiteral("%1 Axis").arg(columns.titleAxis[index]));
+        }
     }
 }
 

@@ -58,6 +58,8 @@ private:
     // The bit value each lamp shows (0 or the bit's mask); 1 marks a lamp not yet drawn.
     std::array<std::array<std::uint32_t, kBits>, kColumns> m_shown{};
     StatusColumnRules::Columns m_columns;
+    // The axis number each title shows, so a tick formats no text while it stays.
+    std::array<int, kColumns> m_shownTitleAxis{-1, -1, -1, -1};
 };
 
 // The status view's card page (GetCardStatus) and drive page (GetDrvStatus): the same page,
