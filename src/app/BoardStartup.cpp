@@ -83,7 +83,7 @@ std::string BoardStartup::libraryVersionText(BoardFamily family)
     return BoardTexts::libraryVersionText(m_board.GetDllVersion(family, fileName.constData()));
 }
 
-void BoardStartup::offerSave()
+bool BoardStartup::offerSave()
 {
     for (BoardFamily family : kAllFamilies) {
         for (int card = 0; card < kMaxCards; ++card) {
@@ -93,10 +93,14 @@ void BoardStartup::offerSave()
                                                 "Do you want to save parameter to file?")
                                      .arg(QLatin1String(familyDisplayName(family)))
                                      .arg(card);
-            if (m_prompt.askYesNo(text))
+            const PromptAnswer answer = m_prompt.askYesNoCancel(text);
+            if (answer == PromptAnswer::Cancel)
+                return false;
+            if (answer == PromptAnswer::Yes)
                 m_board.SaveFile(family, static_cast<CardNo>(card));
         }
     }
+    return true;
 }
 
 void BoardStartup::unloadDevices()

@@ -30,8 +30,8 @@ public:
     std::string libraryVersionText(BoardFamily family);
 
     // For each changed card (families, then cards 0..7) asks whether to save; Yes calls
-    // SaveFile.
-    void offerSave();
+    // SaveFile. False when the user cancelled: the program stays open.
+    bool offerSave();
     // UnloadDevice for each family that has boards.
     void unloadDevices();
 

@@ -9,7 +9,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-COV_LogLevDlg::COV_LogLevDlg(int level, QWidget* parent) : QDialog(parent)
+COV_LogLevDlg::COV_LogLevDlg(int level, QWidget* parent) : QDialog(parent), m_readLevel(level)
 {
     setWindowTitle(QStringLiteral("Log Level Setup"));
     auto* layout = new QVBoxLayout(this);
@@ -25,12 +25,15 @@ QWidget* COV_LogLevDlg::createChoice(int level)
     layout->addWidget(new QLabel(QStringLiteral("Select Log Level : "), row));
     m_levels = new QComboBox(row);
     m_levels->addItems(OrvaneSettings::logLevelTexts());
-    m_levels->setCurrentIndex(qBound(0, level, m_levels->count() - 1));
+    // A level outside the list shows as no choice rather than as a neighbour the user would
+    // then write back without having picked it.
+    m_levels->setCurrentIndex(level >= 0 && level < m_levels->count() ? level : -1);
     layout->addWidget(m_levels, 1);
     return row;
 }
 
 int COV_LogLevDlg::level() const
 {
-    return m_levels->currentIndex();
+    const int chosen = m_levels->currentIndex();
+    return chosen < 0 ? m_readLevel : chosen;
 }

@@ -12,6 +12,7 @@ class COV_LogLevDlg : public QDialog
 public:
     explicit COV_LogLevDlg(int level, QWidget* parent = nullptr);
 
+    // The chosen level; the level read from the file while nothing in the list is chosen.
     int level() const;
     QComboBox* levelList() const { return m_levels; }
 
@@ -19,4 +20,5 @@ private:
     QWidget* createChoice(int level);
 
     QComboBox* m_levels = nullptr;
+    int m_readLevel = 0;
 };

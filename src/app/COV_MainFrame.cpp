@@ -287,7 +287,11 @@ void COV_MainFrame::saveLayout() const
 
 void COV_MainFrame::closeEvent(QCloseEvent* event)
 {
-    m_startup.offerSave();
+    // Cancel keeps the program running, so a slip of the Escape key loses nothing.
+    if (!m_startup.offerSave()) {
+        event->ignore();
+        return;
+    }
     saveLayout();
     m_monitorTimer.stop();
     event->accept();

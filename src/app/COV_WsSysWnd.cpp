@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QContextMenuEvent>
+#include <QFontMetrics>
 #include <QHeaderView>
 #include <QMenu>
 #include <QStyle>
@@ -203,6 +204,14 @@ QMenu* COV_WsSysWnd::createContextMenu(QTreeWidgetItem* item)
     return menu;
 }
 
+QRect COV_WsSysWnd::iconAndLabelRect(QTreeWidgetItem* item) const
+{
+    const QRect cell = visualItemRect(item);
+    const int iconWidth = item->icon(0).isNull() ? 0 : iconSize().width() + kLabelMargin;
+    const int labelWidth = QFontMetrics(item->font(0)).horizontalAdvance(item->text(0));
+    return QRect(cell.left(), cell.top(), iconWidth + labelWidth + 2 * kLabelMargin, cell.height());
+}
+
 void COV_WsSysWnd::contextMenuEvent(QContextMenuEvent* event)
 {
     QPoint position = event->pos();
@@ -211,6 +220,9 @@ void COV_WsSysWnd::contextMenuEvent(QContextMenuEvent* event)
         item = itemAt(position);
         if (item != nullptr)
             setCurrentItem(item);
+        // Only a click on the icon or the label counts, not one in the empty rest of the row.
+        if (item != nullptr && !iconAndLabelRect(item).contains(position))
+            item = nullptr;
     } else {
         item = currentItem();
         position = QPoint(5, 5);

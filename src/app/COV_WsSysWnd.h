@@ -22,6 +22,8 @@ class COV_WsSysWnd : public QTreeWidget
 
 public:
     // The image numbers of the tree's items.
+    static constexpr int kLabelMargin = 4;
+
     enum Image
     {
         FamilyImage = 0,
@@ -43,6 +45,8 @@ public:
     QTreeWidgetItem* cardItem(BoardFamily family, int card) const;
     // The context menu for an item: only card items have one ("Set Active Controller").
     QMenu* createContextMenu(QTreeWidgetItem* item);
+    // Where a right click on the item counts: its icon and label, in viewport coordinates.
+    QRect iconAndLabelRect(QTreeWidgetItem* item) const;
     // What a double click on an item does.
     void activateItem(QTreeWidgetItem* item);
 

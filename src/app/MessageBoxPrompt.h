@@ -12,6 +12,7 @@ public:
     void setParent(QWidget* parent) { m_parent = parent; }
 
     bool askYesNo(const QString& text) override;
+    PromptAnswer askYesNoCancel(const QString& text) override;
     void inform(const QString& text) override;
 
 private:

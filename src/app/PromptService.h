@@ -2,6 +2,14 @@
 
 #include <QString>
 
+// The answer to a question that can also be called off.
+enum class PromptAnswer
+{
+    Yes,
+    No,
+    Cancel
+};
+
 // Every message box of the program goes through here, so tests can answer and read them.
 class PromptService
 {
@@ -9,6 +17,8 @@ public:
     virtual ~PromptService() = default;
     // A Yes/No question; true for Yes.
     virtual bool askYesNo(const QString& text) = 0;
+    // A Yes/No/Cancel question; Escape answers Cancel.
+    virtual PromptAnswer askYesNoCancel(const QString& text) = 0;
     // A message with an OK button.
     virtual void inform(const QString& text) = 0;
 };

@@ -138,7 +138,7 @@ private slots:
         rig.registry.setParametersChanged(BoardFamily::RN, 0, true);
         rig.registry.setParametersChanged(BoardFamily::RL, 1, true);
         rig.prompt.queueAnswers({true, false, true});
-        rig.startup.offerSave();
+        QVERIFY(rig.startup.offerSave());
         QCOMPARE(rig.prompt.questions(),
                  (QStringList{
                      QStringLiteral("NRX-RLxxxV(1) board parameters are changed.\nDo you want to "
@@ -152,6 +152,15 @@ private slots:
         QCOMPARE(rig.rn.calls(QStringList{QStringLiteral("SaveFile")}),
                  QStringList{QStringLiteral("SaveFile(1)")});
         QCOMPARE(rig.rm.count(QStringLiteral("SaveFile")), 0);
+
+        // Cancel ends the questions at once and keeps the program open.
+        rig.prompt.clear();
+        rig.prompt.queueAnswers({true});
+        rig.prompt.queueCancel();
+        QVERIFY(!rig.startup.offerSave());
+        QCOMPARE(rig.prompt.questions().size(), 2);
+        QCOMPARE(rig.rl.count(QStringLiteral("SaveFile")), 2);
+        QCOMPARE(rig.rn.count(QStringLiteral("SaveFile")), 1);
     }
 };
 

@@ -10,6 +10,7 @@
 #include "ToolWindowHost.h"
 
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QDockWidget>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -19,6 +20,7 @@
 #include <QTest>
 #include <QTreeWidgetItemIterator>
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 
@@ -214,6 +216,23 @@ private slots:
         QCOMPARE(menu->actions().first()->text(), QStringLiteral("Set Active Controller"));
         QVERIFY(!rig.tree()->createContextMenu(inactive->child(0)));
         QVERIFY(!rig.tree()->createContextMenu(rig.tree()->familyItem(BoardFamily::RL)));
+
+        // A right click counts on the label, not in the empty rest of the row.
+        rig.frame->resize(1366, 768);
+        const QRect row = rig.tree()->visualItemRect(inactive);
+        const auto menusAfterClickAt = [&](QPoint at) {
+            QContextMenuEvent click(QContextMenuEvent::Mouse, at,
+                                    rig.tree()->viewport()->mapToGlobal(at));
+            QCoreApplication::sendEvent(rig.tree()->viewport(), &click);
+            const auto menus = rig.tree()->findChildren<QMenu*>();
+            const auto shown = std::count_if(menus.begin(), menus.end(),
+                                             [](QMenu* each) { return each->isVisible(); });
+            for (QMenu* each : menus)
+                each->close();
+            return shown;
+        };
+        QCOMPARE(menusAfterClickAt(QPoint(row.left() + 30, row.center().y())), 1);
+        QCOMPARE(menusAfterClickAt(QPoint(row.right() - 2, row.center().y())), 0);
 
         rig.tree()->activateItem(inactive->child(0));
         rig.tree()->activateItem(rig.tree()->cardItem(BoardFamily::RL, 0));

@@ -77,6 +77,13 @@ private slots:
         QCOMPARE(rl.levelList()->count(), 4);
         QCOMPARE(rl.levelList()->itemText(1),
                  QStringLiteral("1 : Level 1(Only Command Functions)"));
+
+        // A level outside the list is shown as no choice and handed on unchanged.
+        COV_LogLevDlg outside(7);
+        QCOMPARE(outside.levelList()->currentIndex(), -1);
+        QCOMPARE(outside.level(), 7);
+        outside.levelList()->setCurrentIndex(1);
+        QCOMPARE(outside.level(), 1);
     }
 };
 

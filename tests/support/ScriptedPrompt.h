@@ -13,11 +13,16 @@ class ScriptedPrompt : public PromptService
 public:
     bool askYesNo(const QString& text) override
     {
+        // Cancel in a Yes/No box is its Escape, which answers No.
+        return askYesNoCancel(text) == PromptAnswer::Yes;
+    }
+    PromptAnswer askYesNoCancel(const QString& text) override
+    {
         m_questions << text;
         m_texts << text;
         if (m_answers.empty())
-            return m_defaultAnswer;
-        const bool answer = m_answers.front();
+            return m_defaultAnswer ? PromptAnswer::Yes : PromptAnswer::No;
+        const PromptAnswer answer = m_answers.front();
         m_answers.pop_front();
         return answer;
     }
@@ -29,8 +34,10 @@ public:
 
     void queueAnswers(std::initializer_list<bool> answers)
     {
-        m_answers.insert(m_answers.end(), answers.begin(), answers.end());
+        for (bool answer : answers)
+            m_answers.push_back(answer ? PromptAnswer::Yes : PromptAnswer::No);
     }
+    void queueCancel() { m_answers.push_back(PromptAnswer::Cancel); }
     void setDefaultAnswer(bool answer) { m_defaultAnswer = answer; }
 
     // Everything shown, in order; only the questions; only the OK messages.
@@ -48,6 +55,6 @@ private:
     QStringList m_texts;
     QStringList m_questions;
     QStringList m_messages;
-    std::deque<bool> m_answers;
+    std::deque<PromptAnswer> m_answers;
     bool m_defaultAnswer = false;
 };
