@@ -89,6 +89,7 @@ int main(int argc, char* argv[])
     options.addOption({"boards", "largest or default", "set", "largest"});
     options.addOption({"ticks", "ticks to time", "count", "2000"});
     options.addOption({"screenshot", "save the frame as a PNG", "file"});
+    options.addOption({"size", "the frame's size", "WxH", "1400x900"});
     options.process(qtApp);
 
     QTemporaryDir data;
@@ -116,7 +117,8 @@ int main(int argc, char* argv[])
         return 1;
     }
     frame.monitorTimer().stop();
-    frame.resize(1400, 900);
+    const QStringList size = options.value("size").split(QLatin1Char('x'));
+    frame.resize(size.value(0).toInt(), size.value(1).toInt());
     frame.show();
     if (!options.isSet("screenshot"))
         frame.sendToFrame(UM_OPEN_TOOL, ToolSingleAxis);

@@ -19,10 +19,12 @@
 #include <QDir>
 #include <QDockWidget>
 #include <QFile>
+#include <QFileInfo>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
 #include <QSettings>
+#include <QStandardPaths>
 #include <QStatusBar>
 #include <QToolBar>
 
@@ -257,7 +259,15 @@ void COV_MainFrame::readSettings()
     if (m_state.moduleDirectory.isEmpty())
         m_state.moduleDirectory =
             QDir(QCoreApplication::applicationDirPath()).absolutePath() + QLatin1Char('/');
-    m_state.settingsFilePath = m_state.moduleDirectory + OrvaneSettings::settingsFileName();
+    // An installed copy's folder is not the user's to write: settings go to the user's data
+    // folder there, where the simulated boards keep their files too.
+    QString folder = m_state.moduleDirectory;
+    if (!QFileInfo(folder).isWritable()) {
+        folder =
+            QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + QLatin1Char('/');
+        QDir().mkpath(folder);
+    }
+    m_state.settingsFilePath = folder + OrvaneSettings::settingsFileName();
     const OrvaneSettings::System values = OrvaneSettings::readSystem(m_state.settingsFilePath);
     m_showStatusWindow = values.showStatusWindow;
     m_statusFollowsOperation = values.statusFollowsOperation;

@@ -9,6 +9,7 @@
 #include <QContextMenuEvent>
 #include <QFontMetrics>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QStyle>
 
@@ -229,6 +230,17 @@ void COV_WsSysWnd::contextMenuEvent(QContextMenuEvent* event)
     }
     if (QMenu* menu = createContextMenu(item))
         menu->popup(viewport()->mapToGlobal(position));
+}
+
+void COV_WsSysWnd::keyPressEvent(QKeyEvent* event)
+{
+    // Enter does what a double click does, for keyboard users.
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        activateItem(currentItem());
+        event->accept();
+        return;
+    }
+    QTreeWidget::keyPressEvent(event);
 }
 
 void COV_WsSysWnd::activateItem(QTreeWidgetItem* item)

@@ -2,6 +2,7 @@
 
 #include "BoardLoader.h"
 #include "COV_MainFrame.h"
+#include "OrvaneIcon.h"
 
 #include <QApplication>
 #include <QDir>
@@ -10,6 +11,8 @@
 COrvaneApp::COrvaneApp()
 {
     QApplication::setApplicationName(QStringLiteral("Orvane"));
+    // Every window, dialog and tool window takes the program's own icon.
+    QApplication::setWindowIcon(OrvaneIcon::create());
     m_state.moduleDirectory =
         QDir(QCoreApplication::applicationDirPath()).absolutePath() + QLatin1Char('/');
 }

@@ -6,6 +6,8 @@
 #include <QCloseEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QScrollArea>
+#include <QStyle>
 
 ToolWindowHost::ToolWindowHost(QMdiArea& area, const ToolWindowFactory& factory,
                                const ToolContext& context, QObject* parent)
@@ -79,7 +81,13 @@ bool ToolWindowHost::open(ToolKind kind)
         delete window;
         return false;
     }
-    window->setWidget(view);
+    // A window taller or wider than the workspace (a small screen with the three panes)
+    // scrolls, so no control is ever out of reach.
+    auto* scroller = new QScrollArea(window);
+    scroller->setFrameShape(QFrame::NoFrame);
+    scroller->setWidgetResizable(true);
+    scroller->setWidget(view);
+    window->setWidget(scroller);
     window->setWindowTitle(view->windowTitle());
     connect(view, &QWidget::windowTitleChanged, window, &QWidget::setWindowTitle);
     connect(view, &ToolView::closeRequested, this, [this, kind] { viewAgreedToClose(kind); });
@@ -88,11 +96,28 @@ bool ToolWindowHost::open(ToolKind kind)
     entry = Slot{window, view, false};
     ++m_created;
 
-    window->adjustSize();
+    window->resize(initialSize(*window, *view));
     window->move(m_cascade.placeNew(m_area.viewport()->size()));
     window->show();
     m_area.setActiveSubWindow(window);
     return true;
+}
+
+QSize ToolWindowHost::initialSize(const QMdiSubWindow& window, const QWidget& view) const
+{
+    // The view's own size plus the title bar and frame, but never more than the workspace.
+    const QSize frame = window.sizeHint() - window.widget()->sizeHint();
+    QSize wanted = view.sizeHint().expandedTo(view.minimumSizeHint()) + frame;
+    if (!m_area.isVisible())
+        return wanted;
+    // Where one direction must scroll, its scroll bar takes room from the other.
+    const QSize room = m_area.viewport()->size();
+    const int bar = window.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    if (wanted.height() > room.height())
+        wanted.rwidth() += bar;
+    if (wanted.width() > room.width())
+        wanted.rheight() += bar;
+    return wanted.boundedTo(room);
 }
 
 void ToolWindowHost::forget(Slot& entry)

@@ -57,6 +57,7 @@ private:
     Slot* slotOf(const QObject* window);
     void viewAgreedToClose(ToolKind kind);
     void forget(Slot& entry);
+    QSize initialSize(const QMdiSubWindow& window, const QWidget& view) const;
 
     QMdiArea& m_area;
     const ToolWindowFactory& m_factory;

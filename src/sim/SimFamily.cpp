@@ -7,6 +7,10 @@
 #include <windows.h>
 #else
 #include <dlfcn.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cstdlib>
 #endif
 
 namespace nrxsim {
@@ -53,7 +57,28 @@ void SimFamily::setDataFolder(const std::string& folder)
 
 std::string SimFamily::dataFolder() const
 {
-    return folder_.empty() ? libraryFolder() : folder_;
+    if (!folder_.empty())
+        return folder_;
+    const std::string library = libraryFolder();
+#ifndef _WIN32
+    // An installed copy sits in a folder users cannot write: their boards keep their files
+    // in the user's data folder instead.
+    if (!library.empty() && access(library.c_str(), W_OK) != 0) {
+        const char* dataHome = std::getenv("XDG_DATA_HOME");
+        const char* home = std::getenv("HOME");
+        std::string folder = dataHome && *dataHome ? std::string(dataHome)
+                             : home && *home       ? std::string(home) + "/.local/share"
+                                                   : std::string();
+        if (!folder.empty()) {
+            folder += "/Orvane/";
+            for (auto slash = folder.find('/', 1); slash != std::string::npos;
+                 slash = folder.find('/', slash + 1))
+                mkdir(folder.substr(0, slash).c_str(), 0755);
+            return folder;
+        }
+    }
+#endif
+    return library;
 }
 
 std::string SimFamily::pathOf(const std::string& fileName) const

@@ -240,7 +240,8 @@ private slots:
         QTreeWidgetItem* active = rig.tree()->cardItem(BoardFamily::RL, 0);
         rig.tree()->activateItem(active->child(1));
         QVERIFY(rig.view(ToolDigitalIo));
-        rig.tree()->activateItem(active->child(0));
+        rig.tree()->setCurrentItem(active->child(0));
+        QTest::keyClick(rig.tree(), Qt::Key_Return);
         QVERIFY(rig.view(ToolSingleAxis));
     }
 
