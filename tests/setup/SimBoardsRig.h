@@ -19,7 +19,8 @@ struct SimBoardsRig
     BoardApi api;
     AppState state;
 
-    bool start()
+    // With loadBoards false the boards are left for a main frame to load.
+    bool start(bool loadBoards = true)
     {
         loader.loadAll();
         for (BoardFamily family : kAllFamilies) {
@@ -36,7 +37,7 @@ struct SimBoardsRig
             setDataFolder(QFile::encodeName(folder.path()).constData());
             api.setTable(family, loader.table(family));
         }
-        return load();
+        return !loadBoards || load();
     }
     // LoadDevice and BoardInfo of every family, as start-up does.
     bool load()
