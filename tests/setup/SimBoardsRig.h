@@ -9,6 +9,8 @@
 #include <QLibrary>
 #include <QTemporaryDir>
 
+#include <array>
+
 // The three simulated board libraries with their built-in boards, loaded from the build's
 // library folder as the program loads them, keeping their files in a folder of their own,
 // and registered in an application state.
@@ -18,6 +20,7 @@ struct SimBoardsRig
     BoardLoader loader{QStringLiteral(ORVANE_SIM_DIR)};
     BoardApi api;
     AppState state;
+    std::array<nrx_i32 (*)(nrx_i32), kFamilyCount> advanceClock{};
 
     // With loadBoards false the boards are left for a main frame to load.
     bool start(bool loadBoards = true)
@@ -31,7 +34,10 @@ struct SimBoardsRig
                 reinterpret_cast<nrx_i32 (*)(nrx_i32)>(extras.resolve(prefix + "SetManualClock"));
             auto setDataFolder = reinterpret_cast<nrx_i32 (*)(const char*)>(
                 extras.resolve(prefix + "SetDataFolder"));
-            if (!setManualClock || !setDataFolder || !loader.table(family))
+            advanceClock[familyIndex(family)] =
+                reinterpret_cast<nrx_i32 (*)(nrx_i32)>(extras.resolve(prefix + "AdvanceClock"));
+            if (!setManualClock || !setDataFolder || !loader.table(family) ||
+                !advanceClock[familyIndex(family)])
                 return false;
             setManualClock(1);
             setDataFolder(QFile::encodeName(folder.path()).constData());
@@ -66,6 +72,8 @@ struct SimBoardsRig
         }
         return load();
     }
+    // Lets the family's boards run on for a while.
+    void advance(BoardFamily family, int ms) { advanceClock[familyIndex(family)](ms); }
     ~SimBoardsRig()
     {
         for (BoardFamily family : kAllFamilies)

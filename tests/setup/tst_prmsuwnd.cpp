@@ -117,6 +117,25 @@ private slots:
         QCOMPARE(rig.list("EmergencyLevel")->currentIndex(), 1);
     }
 
+    void pages_changeWhatTheSimulatedAxisDoes()
+    {
+        Rig rig;
+        QVERIFY(rig.start());
+        rig.state.active.axis = 2;
+        rig.open();
+        rig.tab(1);
+        rig.choose("EncoderDirection", 1);
+        rig.find<QCheckBox>("softLimitUse")->click();
+        rig.find<QLineEdit>("softLimitPlus")->setText("500");
+        rig.click("setPrmButton");
+        rig.api.Inc_Move(BoardFamily::RL, 0, 2, 2000);
+        rig.advance(BoardFamily::RL, 5000);
+        QCOMPARE(rig.api.Done(BoardFamily::RL, 0, 2), 0);
+        QVERIFY(rig.api.GetCommandPos(BoardFamily::RL, 0, 2) <= 500);
+        QVERIFY(rig.api.GetMotionErrCod(BoardFamily::RL, 0, 2) < 0);
+        QVERIFY(rig.api.GetActualPos(BoardFamily::RL, 0, 2) < 0);
+    }
+
     void leaveCheck_asksOnEveryWayOut_data()
     {
         QTest::addColumn<QString>("way");
