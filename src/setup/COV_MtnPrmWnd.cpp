@@ -106,24 +106,24 @@ QWidget* COV_MtnPrmWnd::createRangeGroup()
     return box;
 }
 
-QWidget* COV_MtnPrmWnd::createLimitGroup(const QString& title, const Names& prefix, QCheckBox*& use,
+QWidget* COV_MtnPrmWnd::createLimitGroup(const QString& title, const Names& names, QCheckBox*& use,
                                          QLineEdit*& first, QLineEdit*& second,
                                          const QString& firstCaption, const QString& secondCaption)
 {
     QGroupBox* box = group(title);
     auto* layout = new QGridLayout(box);
     use = new QCheckBox(QStringLiteral(" Use"));
-    use->setObjectName(QLatin1String(prefix[0]) + QStringLiteral("Use"));
+    use->setObjectName(QLatin1String(names[0]) + QStringLiteral("Use"));
     layout->addWidget(use, 0, 0, 1, 3);
     auto addRow = [&](int row, QLineEdit*& edit, const QString& caption, const char* name) {
         edit = new QLineEdit;
-        edit->setObjectName(QLatin1String(prefix[0]) + QLatin1String(name));
+        edit->setObjectName(QLatin1String(names[0]) + QLatin1String(name));
         layout->addWidget(new QLabel(caption), row, 0);
         layout->addWidget(edit, row, 1);
         layout->addWidget(new QLabel(QStringLiteral("[pulse]")), row, 2);
     };
-    addRow(1, first, firstCaption, prefix[1]);
-    addRow(2, second, secondCaption, prefix[2]);
+    addRow(1, first, firstCaption, names[1]);
+    addRow(2, second, secondCaption, names[2]);
     return box;
 }
 

@@ -23,17 +23,14 @@ public:
     bool IsChanged(BoardFamily family) override;
     void Apply(BoardFamily family) override;
 
-    // The family the page last loaded, for the board's magnification on a refused input.
-    void setFamily(BoardFamily family) { m_family = family; }
-
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     QWidget* createRangeGroup();
-    // Object names: the group's prefix, then the suffixes of the two edits.
+    // Object names: the group's prefix, then the suffixes of its two edits.
     using Names = std::array<const char*, 3>;
-    QWidget* createLimitGroup(const QString& title, const Names& prefix, QCheckBox*& use,
+    QWidget* createLimitGroup(const QString& title, const Names& names, QCheckBox*& use,
                               QLineEdit*& first, QLineEdit*& second, const QString& firstCaption,
                               const QString& secondCaption);
     PageParameters shown() const;
@@ -44,6 +41,7 @@ private:
     void useCounterRing(bool use);
 
     PromptService& m_prompt;
+    // The family the page last loaded, for the board's magnification on a refused input.
     BoardFamily m_family = BoardFamily::RL;
 
     QComboBox* m_magnification = nullptr;

@@ -29,16 +29,12 @@ COV_SysIOSetWnd::COV_SysIOSetWnd(BoardApi& board, QWidget* parent)
     m_limitLevel = m_lists.at(5);
     m_originLevel = m_lists.at(6);
 
-    // Each group stacks its lists; a caption goes only where the list needs one.
-    auto makeGroup = [this](const QString& title, std::initializer_list<int> lists,
-                            const QString& caption = {}) {
+    // Each group stacks its lists.
+    auto makeGroup = [this](const QString& title, std::initializer_list<int> lists) {
         QGroupBox* box = group(title);
         auto* layout = new QVBoxLayout(box);
-        for (int i : lists) {
-            if (!caption.isEmpty() && i == 9)
-                layout->addWidget(new QLabel(caption));
+        for (int i : lists)
             layout->addWidget(m_lists.at(i));
-        }
         layout->addStretch();
         return box;
     };
@@ -48,9 +44,10 @@ COV_SysIOSetWnd::COV_SysIOSetWnd(BoardApi& board, QWidget* parent)
     grid->addWidget(makeGroup(QStringLiteral(" Limit "), {4, 5}), 1, 0);
     grid->addWidget(makeGroup(QStringLiteral(" Origin "), {6}), 1, 1);
     grid->addWidget(makeGroup(QStringLiteral(" Encoder Z "), {7}), 2, 0);
-    grid->addWidget(
-        makeGroup(QStringLiteral(" Counter Clear "), {8, 9}, QStringLiteral("Clear Time [msec]")),
-        2, 1);
+    QGroupBox* counterClear = makeGroup(QStringLiteral(" Counter Clear "), {8, 9});
+    static_cast<QVBoxLayout*>(counterClear->layout())
+        ->insertWidget(1, new QLabel(QStringLiteral("Clear Time [msec]")));
+    grid->addWidget(counterClear, 2, 1);
     grid->addWidget(makeGroup(QStringLiteral(" EMG "), {10}), 3, 0);
     QGroupBox* remark = group(QStringLiteral(" Remark "));
     auto* remarkLayout = new QVBoxLayout(remark);

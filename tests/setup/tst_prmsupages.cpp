@@ -164,16 +164,6 @@ private slots:
         QCOMPARE(rig.rl.calls({"SetHlmt", "SetOrg", "SetSvCClr"}),
                  (QStringList{"SetHlmt(1,2,0,0)", "SetOrg(1,2,0)", "SetSvCClr(1,2,1,0)"}));
     }
-
-    void filterCaptions_dependOnAxisAndFamily()
-    {
-        QCOMPARE(COV_FilterSetWnd::sensorCaption(0), QStringLiteral("Enable\n(with EMG)"));
-        QCOMPARE(COV_FilterSetWnd::sensorCaption(1), QStringLiteral("Enable"));
-        QCOMPARE(COV_FilterSetWnd::externalCaption(BoardFamily::RM, 0), QStringLiteral("Enable"));
-        QCOMPARE(COV_FilterSetWnd::externalCaption(BoardFamily::RN, 0),
-                 QStringLiteral("Enable\n(with SYNC)"));
-        QCOMPARE(COV_FilterSetWnd::externalCaption(BoardFamily::RN, 3), QStringLiteral("Enable\n"));
-    }
 };
 
 QTEST_MAIN(TestPrmSuPages)
