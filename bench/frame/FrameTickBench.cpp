@@ -10,6 +10,7 @@
 #include "BoardApi.h"
 #include "BoardLoader.h"
 #include "COV_MainFrame.h"
+#include "COV_PrmSuWnd.h"
 #include "COV_SnMtnWnd.h"
 #include "MessageBoxPrompt.h"
 #include "ToolWindowFactory.h"
@@ -110,6 +111,9 @@ int main(int argc, char* argv[])
     factory.registerKind(ToolSingleAxis, [](const ToolContext& c, QWidget* p) -> ToolView* {
         return new COV_SnMtnWnd(c, p);
     });
+    factory.registerKind(ToolParameter, [](const ToolContext& c, QWidget* p) -> ToolView* {
+        return new COV_PrmSuWnd(c, p);
+    });
 
     COV_MainFrame frame(state, board, prompt, factory);
     if (!frame.create(loader.problems())) {
@@ -120,8 +124,10 @@ int main(int argc, char* argv[])
     const QStringList size = options.value("size").split(QLatin1Char('x'));
     frame.resize(size.value(0).toInt(), size.value(1).toInt());
     frame.show();
-    if (!options.isSet("screenshot"))
+    if (!options.isSet("screenshot")) {
+        frame.sendToFrame(UM_OPEN_TOOL, ToolParameter);
         frame.sendToFrame(UM_OPEN_TOOL, ToolSingleAxis);
+    }
     QApplication::processEvents();
     jogActiveCard(state, board);
 

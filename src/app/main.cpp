@@ -1,3 +1,4 @@
+#include "COV_PrmSuWnd.h"
 #include "COV_SnMtnWnd.h"
 #include "COrvaneApp.h"
 
@@ -11,6 +12,10 @@ int main(int argc, char* argv[])
     app.toolWindows().registerKind(ToolSingleAxis,
                                    [](const ToolContext& context, QWidget* parent) -> ToolView* {
                                        return new COV_SnMtnWnd(context, parent);
+                                   });
+    app.toolWindows().registerKind(ToolParameter,
+                                   [](const ToolContext& context, QWidget* parent) -> ToolView* {
+                                       return new COV_PrmSuWnd(context, parent);
                                    });
     return app.run();
 }

@@ -1,0 +1,105 @@
+#include "COV_FilterSetWnd.h"
+
+#include "BoardApi.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFrame>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+
+namespace {
+// The check-box rows: label, catalogue parameter.
+struct FilterRow
+{
+    const char* label;
+    const char* parameter;
+};
+constexpr FilterRow kRows[] = {
+    {"+Limit, -Limit, Origin", "FilterSensor"},
+    {"Inposition, Alarm", "FilterServo"},
+    {"Encoder Z", "FilterEncoderZ"},
+    {"MPG", "FilterExternal"},
+    {"Stop", "FilterStop"},
+};
+constexpr int kStopRow = 4;
+
+QFrame* rowFrame(const QString& label, QWidget* control)
+{
+    auto* frame = new QFrame;
+    frame->setFrameShape(QFrame::StyledPanel);
+    auto* layout = new QHBoxLayout(frame);
+    auto* caption = new QLabel(label);
+    caption->setMinimumWidth(150);
+    layout->addWidget(caption);
+    layout->addWidget(control, 1);
+    return frame;
+}
+} // namespace
+
+COV_FilterSetWnd::COV_FilterSetWnd(BoardApi& board, QWidget* parent)
+    : ParameterSetupPage(board, parent)
+{
+    auto* layout = new QVBoxLayout(this);
+    m_time = listFor("FilterTime");
+    layout->addWidget(rowFrame(QStringLiteral("Filter Time [msec]"), m_time));
+    for (const FilterRow& row : kRows) {
+        auto* box = new QCheckBox(QStringLiteral(" Enable"));
+        box->setObjectName(QLatin1String(row.parameter));
+        m_boxes.append(box);
+        // The three sensors share one row, as they share one board setting.
+        QFrame* frame = rowFrame(
+            QString::fromLatin1(row.label).replace(QLatin1String(", "), QLatin1String("\n")), box);
+        layout->addWidget(frame);
+        if (&row == &kRows[kStopRow])
+            m_stopRow = frame;
+    }
+    layout->addStretch();
+    m_stopRow->setObjectName(QStringLiteral("stopRow"));
+}
+
+QString COV_FilterSetWnd::sensorCaption(AxisNo axis)
+{
+    return axis == 0 ? QStringLiteral("Enable\n(with EMG)") : QStringLiteral("Enable");
+}
+
+QString COV_FilterSetWnd::externalCaption(BoardFamily family, AxisNo axis)
+{
+    if (family != BoardFamily::RN)
+        return QStringLiteral("Enable");
+    return axis == 0 ? QStringLiteral("Enable\n(with SYNC)") : QStringLiteral("Enable\n");
+}
+
+void COV_FilterSetWnd::Load(BoardFamily family)
+{
+    m_stopRow->setVisible(family == BoardFamily::RN);
+    const PageParameters board =
+        PageParameters::read(m_board, ParameterPage::Filter, family, m_card, m_axis);
+    select(m_time, board.value("FilterTime"));
+    for (int i = 0; i < m_boxes.size(); ++i)
+        m_boxes.at(i)->setChecked(board.value(kRows[i].parameter) != 0);
+    m_boxes.at(0)->setText(sensorCaption(m_axis));
+    m_boxes.at(3)->setText(externalCaption(family, m_axis));
+}
+
+PageParameters COV_FilterSetWnd::shown(BoardFamily family) const
+{
+    PageParameters values(ParameterPage::Filter, family);
+    values.set("FilterTime", m_time->currentIndex());
+    for (int i = 0; i < m_boxes.size(); ++i)
+        values.set(kRows[i].parameter, m_boxes.at(i)->isChecked() ? 1 : 0);
+    return values;
+}
+
+bool COV_FilterSetWnd::IsChanged(BoardFamily family)
+{
+    const PageParameters board =
+        PageParameters::read(m_board, ParameterPage::Filter, family, m_card, m_axis);
+    return shown(family).firstDifference(board) != nullptr;
+}
+
+void COV_FilterSetWnd::Apply(BoardFamily family)
+{
+    shown(family).write(m_board, m_card, m_axis);
+}

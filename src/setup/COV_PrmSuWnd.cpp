@@ -1,0 +1,283 @@
+#include "COV_PrmSuWnd.h"
+
+#include "AppState.h"
+#include "BoardApi.h"
+#include "COV_FilterSetWnd.h"
+#include "COV_MtnPrmWnd.h"
+#include "COV_SysIOSetWnd.h"
+#include "FrameRelay.h"
+#include "PromptService.h"
+
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QTabBar>
+#include <QVBoxLayout>
+
+namespace {
+const QString kParametersChanged =
+    QStringLiteral("Parameters are changed. Do you want to set parameter?");
+
+QPushButton* makeButton(const QString& caption, const char* name, const QString& tip)
+{
+    auto* button = new QPushButton(caption);
+    button->setObjectName(QLatin1String(name));
+    button->setAutoDefault(false);
+    button->setToolTip(tip);
+    return button;
+}
+} // namespace
+
+COV_PrmSuWnd::COV_PrmSuWnd(const ToolContext& context, QWidget* parent)
+    : ToolView(parent), m_context(context)
+{
+    m_systemIo = new COV_SysIOSetWnd(context.board);
+    m_pages = {m_systemIo, new COV_MtnPrmWnd(context.board, context.prompt),
+               new COV_FilterSetWnd(context.board)};
+
+    auto* layout = new QHBoxLayout(this);
+    auto* left = new QVBoxLayout;
+    left->addWidget(createSelectorRow());
+    m_tabBar = new QTabBar;
+    m_tabBar->setObjectName(QStringLiteral("tabBar"));
+    for (const char* title : {"System IO", "Motion Parameter", "Filter"})
+        m_tabBar->addTab(QLatin1String(title));
+    m_stack = new QStackedWidget;
+    m_stack->setFrameShape(QFrame::StyledPanel);
+    for (ParameterSetupPage* page : m_pages)
+        m_stack->addWidget(page);
+    left->setSpacing(0);
+    left->addWidget(m_tabBar);
+    left->addWidget(m_stack, 1);
+    layout->addLayout(left, 1);
+    layout->addWidget(createButtonColumn());
+
+    connect(m_tabBar, &QTabBar::currentChanged, this, [this](int index) { onTabChanged(index); });
+    connect(m_cardCombo, &QComboBox::activated, this,
+            [this](int index) { onCardActivated(index); });
+    connect(m_axisCombo, &QComboBox::activated, this,
+            [this](int index) { onAxisActivated(index); });
+
+    fillCardCombo();
+    m_axis = static_cast<AxisNo>(m_context.state.active.axis);
+    refresh();
+}
+
+QWidget* COV_PrmSuWnd::createSelectorRow()
+{
+    auto* row = new QWidget;
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 6);
+    // Flat buttons serve as the selectors' captions.
+    auto caption = [](const QString& text) {
+        auto* button = new QPushButton(text);
+        button->setFlat(true);
+        button->setFocusPolicy(Qt::NoFocus);
+        return button;
+    };
+    m_cardCombo = new QComboBox;
+    m_cardCombo->setObjectName(QStringLiteral("cardCombo"));
+    m_axisCombo = new QComboBox;
+    m_axisCombo->setObjectName(QStringLiteral("axisCombo"));
+    layout->addWidget(caption(QStringLiteral("Card No.")));
+    layout->addWidget(m_cardCombo);
+    layout->addSpacing(16);
+    layout->addWidget(caption(QStringLiteral("Axis No.")));
+    layout->addWidget(m_axisCombo);
+    layout->addStretch();
+    return row;
+}
+
+QWidget* COV_PrmSuWnd::createButtonColumn()
+{
+    auto* column = new QWidget;
+    auto* layout = new QVBoxLayout(column);
+    layout->setContentsMargins(0, 0, 0, 0);
+    QPushButton* set = makeButton(QStringLiteral("Set Prm"), "setPrmButton",
+                                  QStringLiteral("Write the shown page to the board"));
+    QPushButton* copy =
+        makeButton(QStringLiteral("Copy Prm"), "copyPrmButton",
+                   QStringLiteral("Copy the shown page's parameters to axes of another card"));
+    QPushButton* reset = makeButton(QStringLiteral("Default Prm"), "defaultPrmButton",
+                                    QStringLiteral("Restore the factory parameters of this axis"));
+    QPushButton* close =
+        makeButton(QStringLiteral("Close"), "closeButton", QStringLiteral("Close the window"));
+    for (QPushButton* button : {set, copy, reset})
+        layout->addWidget(button);
+    layout->addStretch();
+    layout->addWidget(close);
+
+    connect(set, &QPushButton::clicked, this, [this] {
+        m_pages[std::size_t(m_page)]->Apply(m_context.state.active.family);
+        m_context.frame.sendToFrame(UM_PARAM_CHANGED, m_card);
+    });
+    connect(copy, &QPushButton::clicked, this, [this] { onCopyClicked(); });
+    connect(reset, &QPushButton::clicked, this, [this] { onDefaultClicked(); });
+    connect(close, &QPushButton::clicked, this, [this] { requestClose(); });
+    return column;
+}
+
+void COV_PrmSuWnd::fillCardCombo()
+{
+    const AppState& state = m_context.state;
+    const int cards = state.activeCardCount();
+    m_cardCombo->clear();
+    for (int card = 0; card < cards; ++card)
+        m_cardCombo->addItem(QString::number(card));
+    m_card = static_cast<CardNo>(state.active.card);
+    m_cardCombo->setCurrentIndex(state.active.card);
+    m_cardCombo->setEnabled(cards != 1);
+}
+
+void COV_PrmSuWnd::refresh()
+{
+    AppState& state = m_context.state;
+    setWindowTitle(
+        QStringLiteral("Parameter Setup - %1(%2)").arg(state.modelName(m_card)).arg(m_card));
+    const int axes = state.registry.axisCount(state.active.family, m_card);
+    m_axisCombo->clear();
+    for (int axis = 0; axis < axes; ++axis)
+        m_axisCombo->addItem(QString::number(axis));
+    if (m_axis > axes - 1) {
+        m_axis = 0;
+        state.active.axis = 0;
+    }
+    m_axisCombo->setCurrentIndex(m_axis);
+    handPagesAxis();
+}
+
+void COV_PrmSuWnd::handPagesAxis()
+{
+    const AppState& state = m_context.state;
+    const int axes = state.registry.axisCount(state.active.family, m_card);
+    for (ParameterSetupPage* page : m_pages)
+        page->setCardAxis(m_card, m_axis, axes);
+    for (ParameterSetupPage* page : m_pages)
+        page->Load(state.active.family);
+}
+
+bool COV_PrmSuWnd::leaveCheck(BoardFamily family)
+{
+    ParameterSetupPage* page = m_pages[std::size_t(m_page)];
+    if (!page->IsChanged(family))
+        return false;
+    if (!m_context.prompt.askYesNo(kParametersChanged))
+        return true;
+    page->Apply(family);
+    m_context.frame.sendToFrame(UM_PARAM_CHANGED, m_card);
+    return false;
+}
+
+void COV_PrmSuWnd::onTabChanged(int index)
+{
+    if (index < 0 || index == m_page)
+        return;
+    const BoardFamily family = m_context.state.active.family;
+    // Edits the user chose not to write do not stay in the page that is left.
+    if (leaveCheck(family))
+        m_pages[std::size_t(m_page)]->Load(family);
+    m_page = index;
+    m_stack->setCurrentIndex(index);
+}
+
+void COV_PrmSuWnd::onCardActivated(int index)
+{
+    leaveCheck(m_context.state.active.family);
+    m_card = static_cast<CardNo>(index);
+    refresh();
+}
+
+void COV_PrmSuWnd::onAxisActivated(int index)
+{
+    leaveCheck(m_context.state.active.family);
+    m_axis = static_cast<AxisNo>(index);
+    handPagesAxis();
+}
+
+void COV_PrmSuWnd::onControllerChanged()
+{
+    // The pages still show values of the family that was active before the change.
+    leaveCheck(m_context.state.active.previousFamily);
+    fillCardCombo();
+    refresh();
+}
+
+void COV_PrmSuWnd::onAxisChanged(int axis)
+{
+    const AppState& state = m_context.state;
+    leaveCheck(state.active.family);
+    if (m_card == state.active.card) {
+        m_axis = static_cast<AxisNo>(axis);
+        m_axisCombo->setCurrentIndex(axis);
+        handPagesAxis();
+        return;
+    }
+    fillCardCombo();
+    refresh();
+}
+
+void COV_PrmSuWnd::onDefaultClicked()
+{
+    if (!m_context.prompt.askYesNo(
+            QStringLiteral("%1 axis parameter set to default value?").arg(m_axis)))
+        return;
+    m_context.board.SetSystemDefault(m_context.state.active.family, m_card, m_axis);
+    refresh();
+}
+
+void COV_PrmSuWnd::onCopyClicked()
+{
+    leaveCheck(m_context.state.active.family);
+    openCopyDialog();
+}
+
+void COV_PrmSuWnd::openCopyDialog()
+{
+    // INTEGRATION: replace with COV_CopyPrmDlg(m_context, m_card, m_axis, m_page, this).exec();
+}
+
+void COV_PrmSuWnd::handleUserMessage(UserMessage message, int wParam)
+{
+    switch (message) {
+    case UM_CONTROLLER_CHANGED:
+        onControllerChanged();
+        break;
+    case UM_AXIS_CHANGED:
+        onAxisChanged(wParam);
+        break;
+    case UM_HOME_LIMIT_USE:
+        m_systemIo->setHomeUsesLimit(wParam != 0);
+        m_systemIo->Load(m_context.state.active.family);
+        break;
+    case UM_VIEW_COMMAND:
+        if (wParam == ToolParameter)
+            refresh();
+        break;
+    default:
+        break;
+    }
+}
+
+bool COV_PrmSuWnd::closePrompted()
+{
+    if (m_closeConfirmed)
+        return false;
+    leaveCheck(m_context.state.active.family);
+    m_closeConfirmed = true;
+    return true;
+}
+
+void COV_PrmSuWnd::requestClose()
+{
+    closePrompted();
+    emit closeRequested();
+}
+
+void COV_PrmSuWnd::closeEvent(QCloseEvent* event)
+{
+    // The frame may close the child directly; the question is still asked once.
+    closePrompted();
+    event->accept();
+}

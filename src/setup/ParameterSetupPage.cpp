@@ -1,0 +1,28 @@
+#include "ParameterSetupPage.h"
+
+#include "ParameterCatalog.h"
+
+#include <QComboBox>
+#include <QGroupBox>
+
+QComboBox* ParameterSetupPage::listFor(const char* parameter)
+{
+    auto* combo = new QComboBox;
+    combo->setObjectName(QLatin1String(parameter));
+    if (const ParameterInfo* info = ParameterCatalog::find(parameter)) {
+        for (const char* text : info->choices)
+            combo->addItem(QLatin1String(text));
+    }
+    return combo;
+}
+
+QGroupBox* ParameterSetupPage::group(const QString& title)
+{
+    return new QGroupBox(title);
+}
+
+void ParameterSetupPage::select(QComboBox* combo, int index)
+{
+    // A code off the list shows as no selection, as the board gave it.
+    combo->setCurrentIndex(index >= 0 && index < combo->count() ? index : -1);
+}

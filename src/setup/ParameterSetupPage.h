@@ -1,0 +1,47 @@
+#pragma once
+
+#include "BoardFamily.h"
+
+#include <QWidget>
+
+class BoardApi;
+class QComboBox;
+class QGroupBox;
+
+// One page of the parameter setup window: shows one axis's parameters of one kind, tells
+// whether the board holds something else, and writes them. The host hands it card, axis and
+// the card's axis count before it asks for anything; the page knows nothing of the host.
+class ParameterSetupPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ParameterSetupPage(BoardApi& board, QWidget* parent = nullptr)
+        : QWidget(parent), m_board(board)
+    {}
+
+    void setCardAxis(CardNo card, AxisNo axis, int axisCount)
+    {
+        m_card = card;
+        m_axis = axis;
+        m_axisCount = axisCount;
+    }
+
+    // Reads every parameter of the page from the board and shows it, dropping edits.
+    virtual void Load(BoardFamily family) = 0;
+    // Whether what the page shows differs from what the board holds.
+    virtual bool IsChanged(BoardFamily family) = 0;
+    // Writes what the page shows to the board.
+    virtual void Apply(BoardFamily family) = 0;
+
+protected:
+    // A drop-down list of the catalogue parameter's texts, named after the parameter.
+    static QComboBox* listFor(const char* parameter);
+    static QGroupBox* group(const QString& title);
+    static void select(QComboBox* combo, int index);
+
+    BoardApi& m_board;
+    CardNo m_card = 0;
+    AxisNo m_axis = 0;
+    int m_axisCount = 0;
+};

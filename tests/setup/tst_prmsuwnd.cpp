@@ -1,0 +1,250 @@
+#include "COV_MainFrame.h"
+#include "COV_PrmSuWnd.h"
+#include "COV_SnMtnWnd.h"
+#include "RecordingFrame.h"
+#include "ScriptedPrompt.h"
+#include "SimBoardsRig.h"
+#include "ToolWindowFactory.h"
+#include "ToolWindowHost.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QStandardPaths>
+#include <QTabBar>
+#include <QTest>
+
+#include <memory>
+
+namespace {
+const QString kChanged = QStringLiteral("Parameters are changed. Do you want to set parameter?");
+}
+
+// The parameter setup window on the simulated boards: edits reach the board and survive a
+// power cycle, and every way out of an edited page asks first.
+class TestPrmSuWnd : public QObject
+{
+    Q_OBJECT
+
+private:
+    struct Rig : SimBoardsRig
+    {
+        ScriptedPrompt prompt;
+        RecordingFrame frame;
+        ToolContext context{state, api, prompt, frame};
+        std::unique_ptr<COV_PrmSuWnd> window;
+
+        COV_PrmSuWnd& open()
+        {
+            window = std::make_unique<COV_PrmSuWnd>(context);
+            return *window;
+        }
+        template <typename T> T* find(const char* name) const
+        {
+            T* widget = window->findChild<T*>(QLatin1String(name));
+            Q_ASSERT(widget);
+            return widget;
+        }
+        QComboBox* list(const char* name) const { return find<QComboBox>(name); }
+        void choose(const char* name, int index) const
+        {
+            list(name)->setCurrentIndex(index);
+            emit list(name)->activated(index);
+        }
+        void tab(int index) const { find<QTabBar>("tabBar")->setCurrentIndex(index); }
+        void click(const char* name) const { find<QPushButton>(name)->click(); }
+        bool paramChangedSent(int card) const
+        {
+            return frame.sent.contains(qMakePair(int(UM_PARAM_CHANGED), card));
+        }
+        std::uint16_t limitLevel(BoardFamily family, int card, int axis)
+        {
+            std::uint16_t stop = 0, level = 0;
+            api.GetHlmt(family, CardNo(card), AxisNo(axis), &stop, &level);
+            return level;
+        }
+    };
+
+private slots:
+    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
+
+    void pages_setCloseReopen_boardHoldsEdits_data()
+    {
+        QTest::addColumn<BoardFamily>("family");
+        QTest::newRow("RL") << BoardFamily::RL;
+        QTest::newRow("RN") << BoardFamily::RN;
+    }
+    void pages_setCloseReopen_boardHoldsEdits()
+    {
+        QFETCH(BoardFamily, family);
+        Rig rig;
+        QVERIFY(rig.start());
+        rig.state.active.family = family;
+        rig.state.active.axis = 1;
+        rig.open();
+        QVERIFY(rig.find<QWidget>("stopRow")->isHidden() == (family != BoardFamily::RN));
+        rig.choose("LimitLevel", 1);
+        rig.choose("EmergencyLevel", 1);
+        rig.click("setPrmButton");
+        rig.tab(1);
+        rig.choose("PulseMode", 3);
+        rig.choose("EncoderDirection", 1);
+        rig.find<QCheckBox>("softLimitUse")->click();
+        rig.find<QLineEdit>("softLimitPlus")->setText("12345");
+        rig.click("setPrmButton");
+        rig.tab(2);
+        rig.choose("FilterTime", 5);
+        rig.find<QCheckBox>(family == BoardFamily::RN ? "FilterStop" : "FilterExternal")->click();
+        rig.click("setPrmButton");
+        QCOMPARE(rig.frame.sent.count(qMakePair(int(UM_PARAM_CHANGED), 0)), 3);
+        rig.click("closeButton");
+        QVERIFY(rig.prompt.texts().isEmpty());
+        rig.window.reset();
+
+        QVERIFY(rig.saveAndReload());
+        rig.state.active.axis = 1;
+        rig.open();
+        QCOMPARE(rig.list("LimitLevel")->currentIndex(), 1);
+        QCOMPARE(rig.list("PulseMode")->currentIndex(), 3);
+        QCOMPARE(rig.find<QLineEdit>("softLimitPlus")->text(), QStringLiteral("12345"));
+        QVERIFY(rig.find<QCheckBox>("softLimitUse")->isChecked());
+        QCOMPARE(rig.list("FilterTime")->currentIndex(), 5);
+        QVERIFY(rig.find<QCheckBox>(family == BoardFamily::RN ? "FilterStop" : "FilterExternal")
+                    ->isChecked());
+        // The EMG level is the card's: another axis shows it too.
+        rig.choose("axisCombo", 0);
+        QCOMPARE(rig.list("EmergencyLevel")->currentIndex(), 1);
+    }
+
+    void pages_changeWhatTheSimulatedAxisDoes()
+    {
+        Rig rig;
+        QVERIFY(rig.start());
+        rig.state.active.axis = 2;
+        rig.open();
+        rig.tab(1);
+        rig.choose("EncoderDirection", 1);
+        rig.find<QCheckBox>("softLimitUse")->click();
+        rig.find<QLineEdit>("softLimitPlus")->setText("500");
+        rig.click("setPrmButton");
+        rig.api.Inc_Move(BoardFamily::RL, 0, 2, 2000);
+        rig.advance(BoardFamily::RL, 5000);
+        QCOMPARE(rig.api.Done(BoardFamily::RL, 0, 2), 0);
+        QVERIFY(rig.api.GetCommandPos(BoardFamily::RL, 0, 2) <= 500);
+        QVERIFY(rig.api.GetMotionErrCod(BoardFamily::RL, 0, 2) < 0);
+        QVERIFY(rig.api.GetActualPos(BoardFamily::RL, 0, 2) < 0);
+    }
+
+    void leaveCheck_asksOnEveryWayOut_data()
+    {
+        QTest::addColumn<QString>("way");
+        QTest::addColumn<bool>("yes");
+        for (const char* way :
+             {"tab", "card", "axis", "copy", "controller", "axisMessage", "close"}) {
+            QTest::addRow("%s yes", way) << QString::fromLatin1(way) << true;
+            QTest::addRow("%s no", way) << QString::fromLatin1(way) << false;
+        }
+    }
+    void leaveCheck_asksOnEveryWayOut()
+    {
+        QFETCH(QString, way);
+        QFETCH(bool, yes);
+        Rig rig;
+        QVERIFY(rig.start());
+        rig.open();
+        rig.choose("LimitLevel", 1);
+        rig.prompt.queueAnswers({yes});
+        if (way == "tab") {
+            rig.tab(2);
+        } else if (way == "card") {
+            rig.choose("cardCombo", 1);
+        } else if (way == "axis") {
+            rig.choose("axisCombo", 1);
+        } else if (way == "copy") {
+            rig.click("copyPrmButton");
+        } else if (way == "controller") {
+            rig.state.active.previousFamily = BoardFamily::RL;
+            rig.state.active.family = BoardFamily::RN;
+            rig.window->handleUserMessage(UM_CONTROLLER_CHANGED, 0);
+        } else if (way == "axisMessage") {
+            rig.window->handleUserMessage(UM_AXIS_CHANGED, 2);
+        } else {
+            rig.click("closeButton");
+        }
+        QCOMPARE(rig.prompt.questions(), QStringList{kChanged});
+        QCOMPARE(rig.limitLevel(BoardFamily::RL, 0, 0), yes ? 1 : 0);
+        QCOMPARE(rig.paramChangedSent(0), yes);
+        // A No on a tab change drops the edit; before a copy the page keeps it.
+        if (way == "tab" || way == "copy") {
+            rig.tab(0);
+            QCOMPARE(rig.list("LimitLevel")->currentIndex(), yes || way == "copy" ? 1 : 0);
+        }
+    }
+
+    void defaultPrm_andRefresh_resetAxisAndSelectors()
+    {
+        Rig rig;
+        QVERIFY(rig.start());
+        rig.state.active.axis = 3;
+        rig.api.SetPulseMode(BoardFamily::RL, 0, 3, 4);
+        rig.open();
+        QCOMPARE(rig.window->windowTitle(), QStringLiteral("Parameter Setup - NRX-RL416V(0)"));
+        QCOMPARE(rig.list("PulseMode")->currentIndex(), 4);
+        rig.prompt.queueAnswers({false, true});
+        rig.click("defaultPrmButton");
+        QCOMPARE(rig.api.GetPulseMode(BoardFamily::RL, 0, 3), 4);
+        rig.click("defaultPrmButton");
+        QCOMPARE(rig.prompt.questions(),
+                 QStringList(2, QStringLiteral("3 axis parameter set to default value?")));
+        QCOMPARE(rig.api.GetPulseMode(BoardFamily::RL, 0, 3), 0);
+        QCOMPARE(rig.list("PulseMode")->currentIndex(), 0);
+        QVERIFY(!rig.paramChangedSent(0));
+
+        // Card 1 has two axes: axis 3 falls back to 0, in the active controller too.
+        rig.choose("cardCombo", 1);
+        QCOMPARE(rig.window->windowTitle(), QStringLiteral("Parameter Setup - NRX-RL224V(1)"));
+        QCOMPARE(rig.list("axisCombo")->count(), 2);
+        QCOMPARE(rig.state.active.axis, 0);
+        // RM has one card: its selector shows "0" and cannot be changed.
+        rig.state.active = {BoardFamily::RM, BoardFamily::RL, 0, 0, {}};
+        rig.window->handleUserMessage(UM_CONTROLLER_CHANGED, 0);
+        QVERIFY(!rig.list("cardCombo")->isEnabled());
+        QCOMPARE(rig.list("cardCombo")->currentText(), QStringLiteral("0"));
+    }
+
+    void frame_opensFromSingleAxis_andOffersToSaveEditedCard()
+    {
+        SimBoardsRig boards;
+        QVERIFY(boards.start(false));
+        ScriptedPrompt prompt;
+        ToolWindowFactory factory;
+        factory.registerKind(ToolParameter, [](const ToolContext& c, QWidget* p) -> ToolView* {
+            return new COV_PrmSuWnd(c, p);
+        });
+        factory.registerKind(ToolSingleAxis, [](const ToolContext& c, QWidget* p) -> ToolView* {
+            return new COV_SnMtnWnd(c, p);
+        });
+        COV_MainFrame frame(boards.state, boards.api, prompt, factory);
+        QVERIFY(frame.create());
+        frame.monitorTimer().stop();
+        frame.sendToFrame(UM_OPEN_TOOL, ToolSingleAxis);
+        frame.toolWindows()
+            .view(ToolSingleAxis)
+            ->findChild<QPushButton*>("parameterSetupButton")
+            ->click();
+        auto* window = static_cast<COV_PrmSuWnd*>(frame.toolWindows().view(ToolParameter));
+        QVERIFY(window);
+        window->findChild<QComboBox*>("LimitLevel")->setCurrentIndex(1);
+        window->findChild<QPushButton*>("setPrmButton")->click();
+        prompt.queueAnswers({true});
+        frame.close();
+        QCOMPARE(prompt.questions(),
+                 QStringList{QStringLiteral("NRX-RLxxxV(0) board parameters are changed.\n"
+                                            "Do you want to save parameter to file?")});
+        QVERIFY(QFile::exists(boards.folder.filePath(QStringLiteral("NrxSimRL_Card0.prm"))));
+    }
+};
+
+QTEST_MAIN(TestPrmSuWnd)
+#include "tst_prmsuwnd.moc"
