@@ -81,6 +81,7 @@ bool ToolWindowHost::open(ToolKind kind)
     }
     window->setWidget(view);
     window->setWindowTitle(view->windowTitle());
+    window->setWindowIcon(view->windowIcon());
     connect(view, &QWidget::windowTitleChanged, window, &QWidget::setWindowTitle);
     connect(view, &ToolView::closeRequested, this, [this, kind] { viewAgreedToClose(kind); });
     window->installEventFilter(this);
