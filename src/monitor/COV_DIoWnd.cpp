@@ -159,7 +159,7 @@ void COV_DIoWnd::connectControls()
 {
     connect(m_cardCombo, &QComboBox::activated, this, [this](int index) {
         checkUnsavedFilter();
-        m_model.setCard(m_context.state.active.family, index, 0);
+        m_card = index;
         setUp();
     });
     connect(m_inputTabs, &QTabBar::currentChanged, this, [this](int index) {
@@ -197,15 +197,15 @@ void COV_DIoWnd::fillCardCombo()
         m_cardCombo->addItem(QString::number(card));
     m_cardCombo->setCurrentIndex(state.active.card);
     m_cardCombo->setEnabled(cards != 1);
-    m_model.setCard(state.active.family, state.active.card, 0);
+    m_card = state.active.card;
 }
 
 void COV_DIoWnd::setUp()
 {
     const AppState& state = m_context.state;
-    const int card = m_model.card();
-    m_model.setCard(state.active.family, card, state.registry.ioCount(state.active.family, card));
-    setWindowTitle(QStringLiteral("Digital IO - %1(%2)").arg(state.modelName(card)).arg(card));
+    const BoardFamily family = state.active.family;
+    m_model.setCard(family, m_card, state.registry.ioCount(family, m_card));
+    setWindowTitle(QStringLiteral("Digital IO - %1(%2)").arg(state.modelName(m_card)).arg(m_card));
     m_filterEnable->setCurrentIndex(m_model.boardFilter());
     m_filterTime->setCurrentIndex(m_model.boardFilterTime());
     fillTabs(m_inputTabs, "DI_", m_model.inputPage());

@@ -57,6 +57,7 @@ private:
     ToolContext m_context;
     DigitalIoModel m_model;
     QTimer m_timer;
+    int m_card = 0;
     QString m_shownInputWord;
     bool m_closeConfirmed = false;
 

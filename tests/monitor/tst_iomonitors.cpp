@@ -179,7 +179,9 @@ private slots:
         QCOMPARE(rig.prompt.questions(),
                  QStringList{"Parameters are changed. Do you want to set parameter?"});
         QCOMPARE(rig.board().calls({"SetDiFilter", "SetDiFilterTime"}), writes);
-        QCOMPARE(rig.frame.sent.size(), answer ? 1 : 0);
+        using Sent = QList<QPair<int, int>>;
+        const Sent expected = answer ? Sent{{UM_PARAM_CHANGED, 0}} : Sent{};
+        QCOMPARE(rig.frame.sent, expected);
         QCOMPARE(closing.count(), 1);
     }
 };
