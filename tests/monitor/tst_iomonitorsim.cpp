@@ -105,7 +105,7 @@ private slots:
         QTest::addColumn<int>("page");
         QTest::addColumn<int>("position");
         QTest::newRow("16 points") << 0 << 0 << 5;
-        QTest::newRow("24 points, upper half") << 1 << 0 << 18;
+        QTest::newRow("24 points, beyond the first 24") << 1 << 0 << 28;
         QTest::newRow("64 points, point 35") << 2 << 1 << 3;
     }
     void outputClick_lightsLoopedBackInputWithinOneTick()
