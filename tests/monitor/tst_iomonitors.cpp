@@ -157,6 +157,29 @@ private slots:
         QCOMPARE(window.windowTitle(), QStringLiteral("Digital IO - NRX-RL424V(0)"));
     }
 
+    void controllerChange_setsOldFamilysFilterThenRetargets()
+    {
+        Rig rig(BoardFamily::RL, 4, 16);
+        rig.state.registry.setLoadResult(BoardFamily::RM, 1); // two cards
+        rig.state.registry.setCardInfo(BoardFamily::RM, 0, 8, 0, 64);
+        rig.state.registry.setCardInfo(BoardFamily::RM, 1, 8, 0, 64);
+        COV_DIoWnd dio(rig.context);
+        COV_SysIoWnd sysIo(rig.context);
+        rig.find<QComboBox>(dio, "filterEnable")->setCurrentIndex(1);
+        rig.prompt.queueAnswers({true});
+        rig.state.active.previousFamily = BoardFamily::RL;
+        rig.state.active.family = BoardFamily::RM;
+        rig.state.active.card = 1;
+        dio.handleUserMessage(UM_CONTROLLER_CHANGED, 0);
+        sysIo.handleUserMessage(UM_CONTROLLER_CHANGED, 0);
+        QCOMPARE(rig.boards.rl.calls({"SetDiFilter"}), QStringList{"SetDiFilter(0,1)"});
+        QCOMPARE(dio.windowTitle(), QStringLiteral("Digital IO - NRX-RM864V(1)"));
+        QCOMPARE(rig.find<QTabBar>(dio, "outputTabs")->tabText(1), QStringLiteral("DO_1"));
+        QCOMPARE(sysIo.windowTitle(), QStringLiteral("System IO - NRX-RM864V(1)"));
+        QVERIFY(sysIo.outputButton(7, SystemIoModel::ServoOn)->isEnabled());
+        QVERIFY(rig.find<QComboBox>(sysIo, "cardCombo")->isEnabled());
+    }
+
     void dio_unsavedFilter_asksOnceOnClose_data()
     {
         QTest::addColumn<bool>("answer");
