@@ -9,12 +9,16 @@
 #include "AppState.h"
 #include "BoardApi.h"
 #include "BoardLoader.h"
+#include "COV_DIoWnd.h"
 #include "COV_MainFrame.h"
-#include "COV_PrmSuWnd.h"
 #include "COV_SnMtnWnd.h"
+#include "COV_SysIoWnd.h"
 #include "MessageBoxPrompt.h"
 #include "ToolWindowFactory.h"
+#include "ToolWindowHost.h"
+#include "ToolWindowKinds.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
@@ -72,6 +76,19 @@ void jogActiveCard(AppState& state, BoardApi& board)
     }
 }
 
+// Counts the paint events of the widgets it watches.
+class PaintCount : public QObject
+{
+public:
+    int paints = 0;
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint)
+            ++paints;
+        return QObject::eventFilter(watched, event);
+    }
+};
+
 double percentile(std::vector<double> values, double share)
 {
     std::sort(values.begin(), values.end());
@@ -108,12 +125,7 @@ int main(int argc, char* argv[])
         board.setTable(family, loader.table(family));
     MessageBoxPrompt prompt;
     ToolWindowFactory factory;
-    factory.registerKind(ToolSingleAxis, [](const ToolContext& c, QWidget* p) -> ToolView* {
-        return new COV_SnMtnWnd(c, p);
-    });
-    factory.registerKind(ToolParameter, [](const ToolContext& c, QWidget* p) -> ToolView* {
-        return new COV_PrmSuWnd(c, p);
-    });
+    registerToolWindows(factory);
 
     COV_MainFrame frame(state, board, prompt, factory);
     if (!frame.create(loader.problems())) {
@@ -165,6 +177,40 @@ int main(int argc, char* argv[])
     std::printf("MonitorTick over %d ticks, every pane open:\n", ticks);
     report("  tick (board reads, widgets)", tickOnly);
     report("  tick and its repaints", withPaint);
+
+    // The two I/O monitors on the active card, their own 10 ms ticks timed apart. A tick that
+    // changed no lamp must leave every lamp and output button unpainted.
+    frame.sendToFrame(UM_OPEN_TOOL, ToolSystemIo);
+    frame.sendToFrame(UM_OPEN_TOOL, ToolDigitalIo);
+    auto* sysIo = static_cast<COV_SysIoWnd*>(frame.toolWindows().view(ToolSystemIo));
+    auto* dio = static_cast<COV_DIoWnd*>(frame.toolWindows().view(ToolDigitalIo));
+    sysIo->timer().stop();
+    dio->timer().stop();
+    QApplication::processEvents();
+    PaintCount lampPaints;
+    for (QWidget* view : {static_cast<QWidget*>(sysIo), static_cast<QWidget*>(dio)})
+        for (QAbstractButton* lamp : view->findChildren<QAbstractButton*>())
+            lamp->installEventFilter(&lampPaints);
+    std::vector<double> ioTicks;
+    int unchangedTicks = 0;
+    int unchangedPaints = 0;
+    for (int i = 0; i < ticks; ++i) {
+        clock.start();
+        const int changed = sysIo->tick() + dio->tick();
+        ioTicks.push_back(static_cast<double>(clock.nsecsElapsed()) / 1000.0);
+        lampPaints.paints = 0;
+        QApplication::processEvents();
+        if (changed == 0) {
+            ++unchangedTicks;
+            unchangedPaints += lampPaints.paints;
+        }
+        QThread::msleep(1);
+    }
+    std::printf("I/O monitors over %d ticks, %s card %d:\n", ticks,
+                familyDisplayName(state.active.family), state.active.card);
+    report("  System IO + Digital IO ticks", ioTicks);
+    std::printf("  lamp and button paints on the %d ticks that changed nothing: %d\n",
+                unchangedTicks, unchangedPaints);
 
     if (options.isSet("screenshot")) {
         frame.sendToFrame(UM_OPEN_TOOL, ToolSingleAxis);

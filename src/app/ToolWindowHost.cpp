@@ -89,6 +89,7 @@ bool ToolWindowHost::open(ToolKind kind)
     scroller->setWidget(view);
     window->setWidget(scroller);
     window->setWindowTitle(view->windowTitle());
+    window->setWindowIcon(view->windowIcon());
     connect(view, &QWidget::windowTitleChanged, window, &QWidget::setWindowTitle);
     connect(view, &ToolView::closeRequested, this, [this, kind] { viewAgreedToClose(kind); });
     window->installEventFilter(this);

@@ -1,6 +1,5 @@
-#include "COV_PrmSuWnd.h"
-#include "COV_SnMtnWnd.h"
 #include "COrvaneApp.h"
+#include "ToolWindowKinds.h"
 
 #include <QApplication>
 
@@ -8,14 +7,6 @@ int main(int argc, char* argv[])
 {
     QApplication qtApp(argc, argv);
     COrvaneApp app;
-    // Each tool window plugs in with one line.
-    app.toolWindows().registerKind(ToolSingleAxis,
-                                   [](const ToolContext& context, QWidget* parent) -> ToolView* {
-                                       return new COV_SnMtnWnd(context, parent);
-                                   });
-    app.toolWindows().registerKind(ToolParameter,
-                                   [](const ToolContext& context, QWidget* parent) -> ToolView* {
-                                       return new COV_PrmSuWnd(context, parent);
-                                   });
+    registerToolWindows(app.toolWindows());
     return app.run();
 }

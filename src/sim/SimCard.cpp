@@ -27,6 +27,13 @@ const SimAxis* SimCard::axis(int index) const
     return index >= 0 && index < axisCount() ? &axes_[static_cast<std::size_t>(index)] : nullptr;
 }
 
+bool SimCard::hasPoint(int bit) const
+{
+    if (setup_.io == 24)
+        return bit >= 0 && bit < 32 && (bit < 8 || bit >= 16);
+    return bit >= 0 && bit < setup_.io;
+}
+
 bool SimCard::input(int bit) const
 {
     const BoardSetup::Signal& s = setup_.inputs[static_cast<std::size_t>(bit)];

@@ -26,6 +26,9 @@ public:
     const SimAxis* axis(int index) const;
     SimAxis::Lines linesFor(int axis) const;
 
+    // Whether the card has a digital point: 0..7 and 16..31 on a 24-point card, as the real
+    // one is wired, else 0 .. io - 1.
+    bool hasPoint(int bit) const;
     bool output(int bit) const { return outputs_[static_cast<std::size_t>(bit)]; }
     void setOutput(int bit, bool on) { outputs_[static_cast<std::size_t>(bit)] = on; }
     bool input(int bit) const;

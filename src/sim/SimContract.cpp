@@ -474,19 +474,19 @@ nrx_u16 SimContract::GetSvCClrDO(nrx_u16 c, nrx_u16 a)
 nrx_u16 SimContract::GetDIBit(nrx_u16 c, nrx_u16 bit)
 {
     const SimCard* cd = card(c);
-    return cd && bit < cd->ioCount() && cd->input(bit) ? 1 : 0;
+    return cd && cd->hasPoint(bit) && cd->input(bit) ? 1 : 0;
 }
 
 nrx_u16 SimContract::GetDOBit(nrx_u16 c, nrx_u16 bit)
 {
     const SimCard* cd = card(c);
-    return cd && bit < cd->ioCount() && cd->output(bit) ? 1 : 0;
+    return cd && cd->hasPoint(bit) && cd->output(bit) ? 1 : 0;
 }
 
 nrx_i32 SimContract::PutDOBit(nrx_u16 c, nrx_u16 bit, nrx_u16 on)
 {
     SimCard* cd = card(c);
-    if (cd && bit < cd->ioCount())
+    if (cd && cd->hasPoint(bit))
         cd->setOutput(bit, on != 0);
     return 0;
 }

@@ -365,11 +365,14 @@ private slots:
         QCOMPARE(n.GetCardStatus(65535, 65535), 0);
         QCOMPARE(n.GetMainStatus(1, 2), 0);
         QCOMPARE(n.GetInputStatus(1, 7), 0);
-        n.PutDOBit(1, 24, 1);
-        QCOMPARE(n.GetDOBit(1, 24), 0);
-        QCOMPARE(n.GetDIBit(1, 24), 0);
-        n.PutDOBit(1, 23, 1);
-        QCOMPARE(n.GetDOBit(1, 23), 1);
+        // The 24 points are 0..7 and 16..31.
+        for (nrx_u16 bit : {8, 15, 32}) {
+            n.PutDOBit(1, bit, 1);
+            QCOMPARE(n.GetDOBit(1, bit), 0);
+            QCOMPARE(n.GetDIBit(1, bit), 0);
+        }
+        n.PutDOBit(1, 31, 1);
+        QCOMPARE(n.GetDOBit(1, 31), 1);
         // Null out-pointers are skipped, the others written.
         n.GetPosSpeed(0, 0, nullptr, &b, nullptr, nullptr);
         QCOMPARE(b, 10000);

@@ -1,0 +1,26 @@
+#include "ToolWindowKinds.h"
+
+#include "COV_DIoWnd.h"
+#include "COV_PrmSuWnd.h"
+#include "COV_SnMtnWnd.h"
+#include "COV_SysIoWnd.h"
+#include "ToolWindowFactory.h"
+
+namespace {
+
+template <typename View> ToolWindowFactory::Maker makerOf()
+{
+    return [](const ToolContext& context, QWidget* parent) -> ToolView* {
+        return new View(context, parent);
+    };
+}
+
+} // namespace
+
+void registerToolWindows(ToolWindowFactory& factory)
+{
+    factory.registerKind(ToolSingleAxis, makerOf<COV_SnMtnWnd>());
+    factory.registerKind(ToolParameter, makerOf<COV_PrmSuWnd>());
+    factory.registerKind(ToolSystemIo, makerOf<COV_SysIoWnd>());
+    factory.registerKind(ToolDigitalIo, makerOf<COV_DIoWnd>());
+}

@@ -1,0 +1,343 @@
+#include "COV_SysIoWnd.h"
+
+#include "AppState.h"
+#include "CLedButton.h"
+#include "LedFaces.h"
+#include "OutputButton.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QLabel>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+namespace {
+const QColor kLabelGrey(210, 210, 210);
+const QColor kLabelBlue(0, 0, 255);
+
+struct RowText
+{
+    const char* label;
+    const char* signal;
+};
+const std::array<RowText, SystemIoModel::kInputRows> kInputRows{{
+    {" Encoder Z", "encoder Z mark"},
+    {" Alarm", "servo alarm input"},
+    {" Inposition", "in-position input"},
+    {" +Limit", "plus limit switch"},
+    {" Origin", "origin switch"},
+    {" -Limit", "minus limit switch"},
+}};
+const std::array<RowText, SystemIoModel::kOutputRows> kOutputRows{{
+    {" Alm Rst", "alarm-reset output: red while on; click to switch it over"},
+    {" C. Clear", "counter-clear output: click to send one counter-clear pulse; red while the "
+                  "pulse lasts (RN boards cannot report it)"},
+    {" S-On", "servo-on output: red while on; click to switch it over"},
+}};
+
+QLabel* makeRowLabel(const char* text)
+{
+    auto* label = new QLabel(QLatin1String(text));
+    QPalette colours = label->palette();
+    colours.setColor(QPalette::WindowText, kLabelBlue);
+    colours.setColor(QPalette::Window, kLabelGrey);
+    label->setPalette(colours);
+    label->setAutoFillBackground(true);
+    label->setMinimumWidth(80);
+    return label;
+}
+
+QPushButton* makeButton(const QString& caption, const char* name, const QString& tip)
+{
+    auto* button = new QPushButton(caption);
+    button->setObjectName(QLatin1String(name));
+    button->setAutoDefault(false);
+    button->setToolTip(tip);
+    return button;
+}
+
+CLedButton* makeLamp()
+{
+    auto* lamp = new CLedButton;
+    lamp->setFocusPolicy(Qt::NoFocus);
+    lamp->setFixedSize(LedFaces::kSize, LedFaces::kSize);
+    return lamp;
+}
+
+OutputButton* makeOutput()
+{
+    auto* button = new OutputButton;
+    button->setFixedSize(40, 22);
+    return button;
+}
+
+// Two states on white: grey when off, green when on; flat in both for an absent signal.
+void setLampFaces(CLedButton* lamp, bool present)
+{
+    const QPixmap flat = LedFaces::face(LedLamp::Flat, LedGround::White);
+    lamp->SetStateCount(2, true);
+    lamp->SetStateIconHandle(0, present ? LedFaces::face(LedLamp::Grey, LedGround::White) : flat);
+    lamp->SetStateIconHandle(1, present ? LedFaces::face(LedLamp::Green, LedGround::White) : flat);
+    lamp->SetState(0);
+}
+
+void setOutputFaces(OutputButton* button, bool present)
+{
+    if (present)
+        button->setFaces(LedFaces::face(LedLamp::Grey, LedGround::White),
+                         LedFaces::face(LedLamp::Red, LedGround::White));
+    else
+        button->setFaces(LedFaces::face(LedLamp::Flat, LedGround::White),
+                         LedFaces::face(LedLamp::Flat, LedGround::White));
+    button->setEnabled(present);
+}
+} // namespace
+
+COV_SysIoWnd::COV_SysIoWnd(const ToolContext& context, QWidget* parent)
+    : ToolView(parent), m_context(context), m_model(context.board)
+{
+    setWindowIcon(QIcon(LedFaces::face(LedLamp::Green, LedGround::White)));
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(createCardRow());
+    layout->addWidget(createInputGroup());
+    layout->addWidget(createOutputGroup());
+    layout->addWidget(createButtonRow());
+    layout->addStretch();
+    connectControls();
+
+    fillCardCombo();
+    setUpLamps();
+    m_timer.setInterval(kTickMs);
+    connect(&m_timer, &QTimer::timeout, this, [this] { tick(); });
+    m_timer.start();
+}
+
+QWidget* COV_SysIoWnd::createCardRow()
+{
+    auto* row = new QWidget;
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    m_cardCombo = new QComboBox;
+    m_cardCombo->setObjectName(QStringLiteral("cardCombo"));
+    layout->addWidget(new QLabel(QStringLiteral("Card No. : ")));
+    layout->addWidget(m_cardCombo);
+    layout->addStretch();
+    return row;
+}
+
+void COV_SysIoWnd::addAxisTitles(QGridLayout* grid)
+{
+    for (int axis = 0; axis < kAxes; ++axis) {
+        auto* title = new QLabel(QStringLiteral("%1 Axis").arg(axis));
+        title->setAlignment(Qt::AlignCenter);
+        QPalette colours = title->palette();
+        colours.setColor(QPalette::Window, Qt::white);
+        title->setPalette(colours);
+        title->setAutoFillBackground(true);
+        title->setMinimumWidth(44);
+        grid->addWidget(title, 0, axis + 1);
+    }
+}
+
+QWidget* COV_SysIoWnd::createInputGroup()
+{
+    auto* page = new QWidget;
+    auto* grid = new QGridLayout(page);
+    grid->setHorizontalSpacing(4);
+    grid->setVerticalSpacing(3);
+    addAxisTitles(grid);
+    for (int row = 0; row < SystemIoModel::kInputRows; ++row) {
+        grid->addWidget(makeRowLabel(kInputRows[static_cast<std::size_t>(row)].label), row + 1, 0);
+        for (int axis = 0; axis < kAxes; ++axis) {
+            CLedButton* lamp = makeLamp();
+            lamp->setObjectName(QStringLiteral("input%1_%2").arg(axis).arg(row));
+            m_inputs[static_cast<std::size_t>(axis)][static_cast<std::size_t>(row)] = lamp;
+            grid->addWidget(lamp, row + 1, axis + 1, Qt::AlignCenter);
+        }
+    }
+    const int emergencyRow = SystemIoModel::kInputRows + 1;
+    grid->addWidget(makeRowLabel(" EMG"), emergencyRow, 0);
+    m_emergency = makeLamp();
+    m_emergency->setObjectName(QStringLiteral("emergencyLamp"));
+    m_emergency->setToolTip(
+        QStringLiteral("Emergency-stop input of the card: green while the EMG switch is active"));
+    grid->addWidget(m_emergency, emergencyRow, 1, Qt::AlignCenter);
+    auto* group = new QTabWidget;
+    group->addTab(page, QStringLiteral("Input"));
+    return group;
+}
+
+QWidget* COV_SysIoWnd::createOutputGroup()
+{
+    auto* page = new QWidget;
+    auto* grid = new QGridLayout(page);
+    grid->setHorizontalSpacing(4);
+    grid->setVerticalSpacing(3);
+    addAxisTitles(grid);
+    for (int row = 0; row < SystemIoModel::kOutputRows; ++row) {
+        grid->addWidget(makeRowLabel(kOutputRows[static_cast<std::size_t>(row)].label), row + 1, 0);
+        for (int axis = 0; axis < kAxes; ++axis) {
+            OutputButton* button = makeOutput();
+            button->setObjectName(QStringLiteral("output%1_%2").arg(axis).arg(row));
+            m_outputs[static_cast<std::size_t>(axis)][static_cast<std::size_t>(row)] = button;
+            grid->addWidget(button, row + 1, axis + 1, Qt::AlignCenter);
+        }
+    }
+    const int runLedRow = SystemIoModel::kOutputRows + 1;
+    grid->addWidget(makeRowLabel(" Run Led"), runLedRow, 0);
+    m_runLed = makeOutput();
+    m_runLed->setObjectName(QStringLiteral("runLedButton"));
+    m_runLed->setToolTip(
+        QStringLiteral("Run LED output of the card: red while on; click to switch it over"));
+    grid->addWidget(m_runLed, runLedRow, 1, Qt::AlignCenter);
+    auto* group = new QTabWidget;
+    group->addTab(page, QStringLiteral("Output"));
+    return group;
+}
+
+QWidget* COV_SysIoWnd::createButtonRow()
+{
+    auto* row = new QWidget;
+    auto* layout = new QGridLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    m_outputDisable = new QCheckBox(QStringLiteral(" Output Disable"));
+    m_outputDisable->setObjectName(QStringLiteral("outputDisable"));
+    m_outputDisable->setToolTip(QStringLiteral("Lock every output against clicks"));
+    m_allAlarmResetOn = makeButton(QStringLiteral("All Alm Rst On"), "allAlarmResetOn",
+                                   QStringLiteral("Alarm-reset output of every axis on"));
+    m_allAlarmResetOff = makeButton(QStringLiteral("All Alm Rst Off"), "allAlarmResetOff",
+                                    QStringLiteral("Alarm-reset output of every axis off"));
+    m_allServoOn = makeButton(QStringLiteral("All Servo On"), "allServoOn",
+                              QStringLiteral("Servo-on output of every axis on"));
+    m_allServoOff = makeButton(QStringLiteral("All Servo Off"), "allServoOff",
+                               QStringLiteral("Servo-on output of every axis off"));
+    m_close = makeButton(QStringLiteral("Close"), "closeButton", QString());
+    layout->addWidget(m_outputDisable, 0, 0);
+    layout->addWidget(m_allAlarmResetOn, 0, 1);
+    layout->addWidget(m_allAlarmResetOff, 0, 2);
+    layout->addWidget(m_allServoOn, 1, 1);
+    layout->addWidget(m_allServoOff, 1, 2);
+    layout->setColumnStretch(3, 1);
+    layout->addWidget(m_close, 1, 4);
+    return row;
+}
+
+void COV_SysIoWnd::connectControls()
+{
+    connect(m_cardCombo, &QComboBox::activated, this, [this](int index) {
+        const AppState& state = m_context.state;
+        m_model.setCard(state.active.family, index,
+                        state.registry.axisCount(state.active.family, index));
+        setUpLamps();
+    });
+    for (int axis = 0; axis < kAxes; ++axis) {
+        for (int row = 0; row < SystemIoModel::kOutputRows; ++row) {
+            connect(outputButton(axis, row), &OutputButton::clicked, this,
+                    [this, axis, row] { m_model.clickOutput(row, axis); });
+        }
+    }
+    connect(m_runLed, &OutputButton::clicked, this, [this] { m_model.clickRunLed(); });
+    connect(m_allAlarmResetOn, &QPushButton::clicked, this,
+            [this] { m_model.setAllAlarmReset(true); });
+    connect(m_allAlarmResetOff, &QPushButton::clicked, this,
+            [this] { m_model.setAllAlarmReset(false); });
+    connect(m_allServoOn, &QPushButton::clicked, this, [this] { m_model.setAllServo(true); });
+    connect(m_allServoOff, &QPushButton::clicked, this, [this] { m_model.setAllServo(false); });
+    connect(m_outputDisable, &QCheckBox::toggled, this, [this](bool on) { onLockToggled(on); });
+    connect(m_close, &QPushButton::clicked, this, [this] { requestClose(); });
+}
+
+CLedButton* COV_SysIoWnd::inputLamp(int axis, int row) const
+{
+    return m_inputs[static_cast<std::size_t>(axis)][static_cast<std::size_t>(row)];
+}
+
+OutputButton* COV_SysIoWnd::outputButton(int axis, int row) const
+{
+    return m_outputs[static_cast<std::size_t>(axis)][static_cast<std::size_t>(row)];
+}
+
+void COV_SysIoWnd::fillCardCombo()
+{
+    const AppState& state = m_context.state;
+    const int cards = state.activeCardCount();
+    m_cardCombo->clear();
+    for (int card = 0; card < cards; ++card)
+        m_cardCombo->addItem(QString::number(card));
+    m_cardCombo->setCurrentIndex(state.active.card);
+    m_cardCombo->setEnabled(cards != 1);
+    // The title names the card it was built for, until the next controller change.
+    setWindowTitle(QStringLiteral("System IO - %1(%2)")
+                       .arg(state.modelName(state.active.card))
+                       .arg(state.active.card));
+    m_model.setCard(state.active.family, state.active.card, state.activeAxisCount());
+}
+
+void COV_SysIoWnd::setUpLamps()
+{
+    setLampFaces(m_emergency, true);
+    for (int axis = 0; axis < kAxes; ++axis) {
+        const bool present = m_model.isPresent(axis);
+        for (int row = 0; row < SystemIoModel::kInputRows; ++row) {
+            CLedButton* lamp = inputLamp(axis, row);
+            setLampFaces(lamp, present);
+            const char* signal = kInputRows[static_cast<std::size_t>(row)].signal;
+            lamp->setToolTip(present ? QStringLiteral("Axis %1 %2: green while on, grey while off")
+                                           .arg(axis)
+                                           .arg(QLatin1String(signal))
+                                     : QStringLiteral("Axis %1: not on this card").arg(axis));
+        }
+        for (int row = 0; row < SystemIoModel::kOutputRows; ++row) {
+            OutputButton* button = outputButton(axis, row);
+            setOutputFaces(button, present);
+            button->setToolTip(
+                present ? QStringLiteral("Axis %1 %2")
+                              .arg(axis)
+                              .arg(QLatin1String(kOutputRows[static_cast<std::size_t>(row)].signal))
+                        : QStringLiteral("Axis %1: not on this card").arg(axis));
+        }
+    }
+    setOutputFaces(m_runLed, true);
+}
+
+int COV_SysIoWnd::tick()
+{
+    const std::vector<SystemIoModel::Change>& changes = m_model.refresh();
+    for (const SystemIoModel::Change& change : changes) {
+        switch (change.kind) {
+        case SystemIoModel::Change::Input:
+            inputLamp(change.axis, change.row)->SetState(change.on ? 1 : 0);
+            break;
+        case SystemIoModel::Change::Emergency:
+            m_emergency->SetState(change.on ? 1 : 0);
+            break;
+        case SystemIoModel::Change::Output:
+            outputButton(change.axis, change.row)->setOn(change.on);
+            break;
+        case SystemIoModel::Change::RunLed:
+            m_runLed->setOn(change.on);
+            break;
+        }
+    }
+    return static_cast<int>(changes.size());
+}
+
+void COV_SysIoWnd::onLockToggled(bool locked)
+{
+    m_model.setLocked(locked);
+    // The per-axis buttons stay enabled; the model ignores their clicks while locked.
+    for (QPushButton* button : {m_allAlarmResetOn, m_allAlarmResetOff, m_allServoOn, m_allServoOff})
+        button->setEnabled(!locked);
+}
+
+void COV_SysIoWnd::handleUserMessage(UserMessage message, int)
+{
+    if (message != UM_CONTROLLER_CHANGED)
+        return;
+    fillCardCombo();
+    setUpLamps();
+}
