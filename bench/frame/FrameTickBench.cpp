@@ -9,10 +9,13 @@
 #include "AppState.h"
 #include "BoardApi.h"
 #include "BoardLoader.h"
+#include "COV_AxStMonWnd.h"
 #include "COV_MainFrame.h"
 #include "COV_SnMtnWnd.h"
+#include "COV_SysDbgWnd.h"
 #include "MessageBoxPrompt.h"
 #include "ToolWindowFactory.h"
+#include "ToolWindowHost.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -20,6 +23,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QLibrary>
+#include <QMdiSubWindow>
 #include <QTemporaryDir>
 #include <QThread>
 
@@ -89,6 +93,7 @@ int main(int argc, char* argv[])
     options.addOption({"boards", "largest or default", "set", "largest"});
     options.addOption({"ticks", "ticks to time", "count", "2000"});
     options.addOption({"screenshot", "save the frame as a PNG", "file"});
+    options.addOption({"size", "the frame's size", "WxH", "1400x900"});
     options.process(qtApp);
 
     QTemporaryDir data;
@@ -109,6 +114,12 @@ int main(int argc, char* argv[])
     factory.registerKind(ToolSingleAxis, [](const ToolContext& c, QWidget* p) -> ToolView* {
         return new COV_SnMtnWnd(c, p);
     });
+    factory.registerKind(ToolAxisStatus, [](const ToolContext& c, QWidget* p) -> ToolView* {
+        return new COV_AxStMonWnd(c, p);
+    });
+    factory.registerKind(ToolSystemDiagnosis, [](const ToolContext& c, QWidget* p) -> ToolView* {
+        return new COV_SysDbgWnd(c, p);
+    });
 
     COV_MainFrame frame(state, board, prompt, factory);
     if (!frame.create(loader.problems())) {
@@ -116,10 +127,18 @@ int main(int argc, char* argv[])
         return 1;
     }
     frame.monitorTimer().stop();
-    frame.resize(1400, 900);
+    const QStringList size = options.value("size").split(QLatin1Char('x'));
+    frame.resize(size.value(0).toInt(), size.value(1).toInt());
     frame.show();
     if (!options.isSet("screenshot"))
         frame.sendToFrame(UM_OPEN_TOOL, ToolSingleAxis);
+    // The monitors' own 10 ms timers are timed below, one tick each per frame tick.
+    frame.sendToFrame(UM_OPEN_TOOL, ToolAxisStatus);
+    frame.sendToFrame(UM_OPEN_TOOL, ToolSystemDiagnosis);
+    auto* axisStatus = qobject_cast<COV_AxStMonWnd*>(frame.toolWindows().view(ToolAxisStatus));
+    auto* diagnosis = qobject_cast<COV_SysDbgWnd*>(frame.toolWindows().view(ToolSystemDiagnosis));
+    axisStatus->timer().stop();
+    diagnosis->timer().stop();
     QApplication::processEvents();
     jogActiveCard(state, board);
 
@@ -132,8 +151,12 @@ int main(int argc, char* argv[])
     const int ticks = options.value("ticks").toInt();
     std::vector<double> tickOnly;
     std::vector<double> withPaint;
-    tickOnly.reserve(static_cast<std::size_t>(ticks));
-    withPaint.reserve(static_cast<std::size_t>(ticks));
+    std::vector<double> axisStatusTicks;
+    std::vector<double> diagnosisTicks;
+    std::vector<double> monitorsWithPaint;
+    for (auto* values :
+         {&tickOnly, &withPaint, &axisStatusTicks, &diagnosisTicks, &monitorsWithPaint})
+        values->reserve(static_cast<std::size_t>(ticks));
     QElapsedTimer clock;
     for (int i = 0; i < ticks; ++i) {
         clock.start();
@@ -143,6 +166,15 @@ int main(int argc, char* argv[])
         const qint64 afterPaint = clock.nsecsElapsed();
         tickOnly.push_back(static_cast<double>(afterTick) / 1000.0);
         withPaint.push_back(static_cast<double>(afterPaint) / 1000.0);
+        clock.start();
+        axisStatus->tick();
+        const qint64 afterAxisStatus = clock.nsecsElapsed();
+        diagnosis->tick();
+        const qint64 afterDiagnosis = clock.nsecsElapsed();
+        QApplication::processEvents();
+        axisStatusTicks.push_back(static_cast<double>(afterAxisStatus) / 1000.0);
+        diagnosisTicks.push_back(static_cast<double>(afterDiagnosis - afterAxisStatus) / 1000.0);
+        monitorsWithPaint.push_back(static_cast<double>(clock.nsecsElapsed()) / 1000.0);
         // Let the simulated axes move on between ticks, so every tick shows new values.
         QThread::msleep(1);
     }
@@ -157,12 +189,24 @@ int main(int argc, char* argv[])
     std::printf("MonitorTick over %d ticks, every pane open:\n", ticks);
     report("  tick (board reads, widgets)", tickOnly);
     report("  tick and its repaints", withPaint);
+    std::printf("Tool-window monitor ticks:\n");
+    report("  axis status tick", axisStatusTicks);
+    report("  system diagnosis tick", diagnosisTicks);
+    report("  both ticks and their repaints", monitorsWithPaint);
 
     if (options.isSet("screenshot")) {
         frame.sendToFrame(UM_OPEN_TOOL, ToolSingleAxis);
         QThread::msleep(300);
         frame.MonitorTick();
+        axisStatus->tick();
+        diagnosis->tick();
         QApplication::processEvents();
+        const QString shot = options.value("screenshot");
+        for (ToolKind kind : {ToolAxisStatus, ToolSystemDiagnosis}) {
+            const QString name =
+                QString(shot).replace(QStringLiteral(".png"), QStringLiteral("-%1.png").arg(kind));
+            frame.toolWindows().window(kind)->grab().save(name);
+        }
         const bool saved = frame.grab().save(options.value("screenshot"));
         std::printf("screenshot %s %s\n", qPrintable(options.value("screenshot")),
                     saved ? "saved" : "NOT saved");

@@ -1,4 +1,6 @@
+#include "COV_AxStMonWnd.h"
 #include "COV_SnMtnWnd.h"
+#include "COV_SysDbgWnd.h"
 #include "COrvaneApp.h"
 
 #include <QApplication>
@@ -11,6 +13,14 @@ int main(int argc, char* argv[])
     app.toolWindows().registerKind(ToolSingleAxis,
                                    [](const ToolContext& context, QWidget* parent) -> ToolView* {
                                        return new COV_SnMtnWnd(context, parent);
+                                   });
+    app.toolWindows().registerKind(ToolAxisStatus,
+                                   [](const ToolContext& context, QWidget* parent) -> ToolView* {
+                                       return new COV_AxStMonWnd(context, parent);
+                                   });
+    app.toolWindows().registerKind(ToolSystemDiagnosis,
+                                   [](const ToolContext& context, QWidget* parent) -> ToolView* {
+                                       return new COV_SysDbgWnd(context, parent);
                                    });
     return app.run();
 }
