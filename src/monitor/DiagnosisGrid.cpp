@@ -1,42 +1,28 @@
 #include "DiagnosisGrid.h"
 
-#include <QHeaderView>
-
 DiagnosisGrid::DiagnosisGrid(std::vector<AxisValueGridModel::Row> rows, QWidget* parent)
-    : QTableView(parent), m_model(new AxisValueGridModel(std::move(rows), this))
+    : QScrollArea(parent), m_model(new AxisValueGridModel(std::move(rows), this))
 {
-    setModel(m_model);
-    setFont(QFont(QStringLiteral("Arial")));
-    setEditTriggers(QAbstractItemView::NoEditTriggers);
-    setSelectionMode(QAbstractItemView::NoSelection);
+    m_canvas = new AxisGridCanvas(*m_model, this);
+    m_canvas->setFont(QFont(QStringLiteral("Arial")));
+    setWidget(m_canvas);
+    setWidgetResizable(false);
     setFocusPolicy(Qt::NoFocus);
-    setCornerButtonEnabled(false);
-    setWordWrap(false);
-    for (QHeaderView* header : {horizontalHeader(), verticalHeader()}) {
-        header->setSectionsClickable(false);
-        header->setHighlightSections(false);
-        header->setSectionResizeMode(QHeaderView::Fixed);
-    }
-    horizontalHeader()->setMinimumSectionSize(kAxisWidth);
-    horizontalHeader()->setDefaultSectionSize(kAxisWidth);
-    horizontalHeader()->setFixedHeight(kRowHeight);
-    verticalHeader()->setMinimumSectionSize(kRowHeight);
-    verticalHeader()->setDefaultSectionSize(kRowHeight);
-    verticalHeader()->setFixedWidth(kTitleWidth);
-    setMinimumSize(kTitleWidth + kAxisWidth, 2 * kRowHeight);
+    setMinimumSize(AxisGridCanvas::kTitleWidth + AxisGridCanvas::kAxisWidth,
+                   2 * AxisGridCanvas::kRowHeight);
 }
 
 QSize DiagnosisGrid::sizeHint() const
 {
     const int frame = 2 * frameWidth();
-    return QSize(kTitleWidth + AxisValueGridModel::kAxes * kAxisWidth + frame,
-                 kRowHeight * (1 + m_model->rowCount()) + frame);
+    return m_canvas->sizeHint() + QSize(frame, frame);
 }
 
 bool DiagnosisGrid::isCellVisible(int row, int axis) const
 {
-    if (!isVisible())
+    if (!m_canvas->isVisible())
         return false;
-    const QRect cell = visualRect(m_model->index(row, axis));
-    return cell.isValid() && cell.intersects(viewport()->rect());
+    // The part of the canvas the viewport shows, in the canvas's coordinates.
+    const QRect shown(-m_canvas->pos(), viewport()->size());
+    return shown.intersects(m_canvas->cellRect(row, axis));
 }

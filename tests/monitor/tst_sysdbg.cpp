@@ -37,6 +37,7 @@ private:
             state.registry.setCardInfo(BoardFamily::RM, 0, 2, 0, 64);
             window = std::make_unique<COV_SysDbgWnd>(ToolContext{state, boards.api, prompt, frame});
             window->timer().stop();
+            window->resize(window->sizeHint());
             window->show();
         }
         QString cell(DiagnosisGrid* grid, int row, int axis, int role = Qt::DisplayRole) const
@@ -161,8 +162,9 @@ private slots:
         Rig rig;
         DiagnosisGrid* statuses = rig.window->statusGrid();
         // Room for the titles, the first two axes and the first two rows.
-        statuses->setFixedSize(DiagnosisGrid::kTitleWidth + 2 * DiagnosisGrid::kAxisWidth + 2,
-                               3 * DiagnosisGrid::kRowHeight + 2);
+        AxisGridCanvas* canvas = statuses->canvas();
+        const QPoint corner = canvas->cellRect(1, 1).bottomRight();
+        statuses->setFixedSize(corner.x() + 3, corner.y() + 3);
         QVERIFY(QTest::qWaitForWindowExposed(rig.window.get()));
         rig.window->tick();
         QCOMPARE(rig.boards.rl.count("GetCardStatus"), 2);
