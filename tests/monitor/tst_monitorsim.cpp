@@ -16,6 +16,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <array>
 #include <memory>
 
 // Both monitors on the simulated RL board with its manual clock: what they show is what the
@@ -105,19 +106,12 @@ private:
         }
         std::uint16_t boardWord(StatusWordKind word)
         {
-            switch (word) {
-            case StatusWordKind::Card:
-                return api.GetCardStatus(BoardFamily::RL, 0, kAxis);
-            case StatusWordKind::Drive:
-                return api.GetDrvStatus(BoardFamily::RL, 0, kAxis);
-            case StatusWordKind::Main:
-                return api.GetMainStatus(BoardFamily::RL, 0, kAxis);
-            case StatusWordKind::Error:
-                return api.GetErrStatus(BoardFamily::RL, 0, kAxis);
-            case StatusWordKind::Input:
-                return api.GetInputStatus(BoardFamily::RL, 0, kAxis);
-            }
-            return 0;
+            const BoardFamily rl = BoardFamily::RL;
+            const std::array<nrx_u16, COV_AxStMonWnd::kWords> words{
+                api.GetCardStatus(rl, 0, kAxis), api.GetDrvStatus(rl, 0, kAxis),
+                api.GetMainStatus(rl, 0, kAxis), api.GetErrStatus(rl, 0, kAxis),
+                api.GetInputStatus(rl, 0, kAxis)};
+            return words[static_cast<std::size_t>(word)];
         }
         // The word as the lamps show it.
         std::uint16_t lampWord(StatusWordKind word) const
