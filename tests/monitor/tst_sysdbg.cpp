@@ -1,10 +1,12 @@
 #include "AppState.h"
 #include "COV_SysDbgWnd.h"
 #include "DiagnosisGrid.h"
+#include "PaintCounter.h"
 #include "RecordingBoardSet.h"
 #include "RecordingFrame.h"
 #include "ScriptedPrompt.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QSignalSpy>
@@ -74,13 +76,22 @@ private slots:
         QCOMPARE(rig.cell(statuses, 4, 3), "ABCD");
         QCOMPARE(rig.cell(statuses, 1, 0), "0000");
 
-        // A tick that changes nothing signals nothing; a change signals its cell alone.
+        // A tick that changes nothing paints nothing; a change signals its cell alone.
         QSignalSpy changes(statuses->values(), &QAbstractItemModel::dataChanged);
+        PaintCounter paints;
+        statuses->canvas()->installEventFilter(&paints);
+        positions->canvas()->installEventFilter(&paints);
+        QApplication::processEvents();
+        paints.paints = 0;
         rig.window->tick();
+        QApplication::processEvents();
         QCOMPARE(changes.size(), 0);
+        QCOMPARE(paints.paints, 0);
         rig.boards.rl.setResultFor("GetMainStatus", 0, 6, 3);
         rig.window->tick();
+        QApplication::processEvents();
         QCOMPARE(changes.size(), 1);
+        QCOMPARE(paints.paints, 1);
         QCOMPARE(changes.first().first().value<QModelIndex>(), statuses->values()->index(2, 6));
     }
 
