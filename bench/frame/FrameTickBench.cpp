@@ -9,9 +9,11 @@
 #include "AppState.h"
 #include "BoardApi.h"
 #include "BoardLoader.h"
+#include "COV_AxStMonWnd.h"
 #include "COV_DIoWnd.h"
 #include "COV_MainFrame.h"
 #include "COV_SnMtnWnd.h"
+#include "COV_SysDbgWnd.h"
 #include "COV_SysIoWnd.h"
 #include "MessageBoxPrompt.h"
 #include "ToolWindowFactory.h"
@@ -25,6 +27,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QLibrary>
+#include <QMdiSubWindow>
 #include <QTemporaryDir>
 #include <QThread>
 
@@ -140,6 +143,13 @@ int main(int argc, char* argv[])
         frame.sendToFrame(UM_OPEN_TOOL, ToolParameter);
         frame.sendToFrame(UM_OPEN_TOOL, ToolSingleAxis);
     }
+    // The monitors' own 10 ms timers are timed below, one tick each per frame tick.
+    frame.sendToFrame(UM_OPEN_TOOL, ToolAxisStatus);
+    frame.sendToFrame(UM_OPEN_TOOL, ToolSystemDiagnosis);
+    auto* axisStatus = qobject_cast<COV_AxStMonWnd*>(frame.toolWindows().view(ToolAxisStatus));
+    auto* diagnosis = qobject_cast<COV_SysDbgWnd*>(frame.toolWindows().view(ToolSystemDiagnosis));
+    axisStatus->timer().stop();
+    diagnosis->timer().stop();
     QApplication::processEvents();
     jogActiveCard(state, board);
 
@@ -152,8 +162,12 @@ int main(int argc, char* argv[])
     const int ticks = options.value("ticks").toInt();
     std::vector<double> tickOnly;
     std::vector<double> withPaint;
-    tickOnly.reserve(static_cast<std::size_t>(ticks));
-    withPaint.reserve(static_cast<std::size_t>(ticks));
+    std::vector<double> axisStatusTicks;
+    std::vector<double> diagnosisTicks;
+    std::vector<double> monitorsWithPaint;
+    for (auto* values :
+         {&tickOnly, &withPaint, &axisStatusTicks, &diagnosisTicks, &monitorsWithPaint})
+        values->reserve(static_cast<std::size_t>(ticks));
     QElapsedTimer clock;
     for (int i = 0; i < ticks; ++i) {
         clock.start();
@@ -163,6 +177,15 @@ int main(int argc, char* argv[])
         const qint64 afterPaint = clock.nsecsElapsed();
         tickOnly.push_back(static_cast<double>(afterTick) / 1000.0);
         withPaint.push_back(static_cast<double>(afterPaint) / 1000.0);
+        clock.start();
+        axisStatus->tick();
+        const qint64 afterAxisStatus = clock.nsecsElapsed();
+        diagnosis->tick();
+        const qint64 afterDiagnosis = clock.nsecsElapsed();
+        QApplication::processEvents();
+        axisStatusTicks.push_back(static_cast<double>(afterAxisStatus) / 1000.0);
+        diagnosisTicks.push_back(static_cast<double>(afterDiagnosis - afterAxisStatus) / 1000.0);
+        monitorsWithPaint.push_back(static_cast<double>(clock.nsecsElapsed()) / 1000.0);
         // Let the simulated axes move on between ticks, so every tick shows new values.
         QThread::msleep(1);
     }
@@ -177,6 +200,10 @@ int main(int argc, char* argv[])
     std::printf("MonitorTick over %d ticks, every pane open:\n", ticks);
     report("  tick (board reads, widgets)", tickOnly);
     report("  tick and its repaints", withPaint);
+    std::printf("Tool-window monitor ticks:\n");
+    report("  axis status tick", axisStatusTicks);
+    report("  system diagnosis tick", diagnosisTicks);
+    report("  both ticks and their repaints", monitorsWithPaint);
 
     // The two I/O monitors on the active card, their own 10 ms ticks timed apart. A tick that
     // changed no lamp must leave every lamp and output button unpainted.
@@ -216,7 +243,15 @@ int main(int argc, char* argv[])
         frame.sendToFrame(UM_OPEN_TOOL, ToolSingleAxis);
         QThread::msleep(300);
         frame.MonitorTick();
+        axisStatus->tick();
+        diagnosis->tick();
         QApplication::processEvents();
+        const QString shot = options.value("screenshot");
+        for (ToolKind kind : {ToolAxisStatus, ToolSystemDiagnosis}) {
+            const QString name =
+                QString(shot).replace(QStringLiteral(".png"), QStringLiteral("-%1.png").arg(kind));
+            frame.toolWindows().window(kind)->grab().save(name);
+        }
         const bool saved = frame.grab().save(options.value("screenshot"));
         std::printf("screenshot %s %s\n", qPrintable(options.value("screenshot")),
                     saved ? "saved" : "NOT saved");

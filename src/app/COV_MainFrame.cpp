@@ -151,12 +151,12 @@ QMenu* COV_MainFrame::createStatusMenu()
     menu->addAction(QStringLiteral("Card"), this,
                     [this] { m_statusView->showPage(COV_StBaseWnd::CardPage); });
     // "Main", "Error" and "Input" are the axis status monitor's words; the docked view has
-    // no page for them.
-    menu->addAction(QStringLiteral("Main"));
+    // no page for them, so they bring up the monitor.
+    menu->addAction(QStringLiteral("Main"), this, [this] { openTool(ToolAxisStatus); });
     menu->addAction(QStringLiteral("Drv"), this,
                     [this] { m_statusView->showPage(COV_StBaseWnd::DrivePage); });
-    menu->addAction(QStringLiteral("Error"));
-    menu->addAction(QStringLiteral("Input"));
+    menu->addAction(QStringLiteral("Error"), this, [this] { openTool(ToolAxisStatus); });
+    menu->addAction(QStringLiteral("Input"), this, [this] { openTool(ToolAxisStatus); });
     return menu;
 }
 

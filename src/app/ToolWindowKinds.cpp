@@ -1,8 +1,10 @@
 #include "ToolWindowKinds.h"
 
+#include "COV_AxStMonWnd.h"
 #include "COV_DIoWnd.h"
 #include "COV_PrmSuWnd.h"
 #include "COV_SnMtnWnd.h"
+#include "COV_SysDbgWnd.h"
 #include "COV_SysIoWnd.h"
 #include "ToolWindowFactory.h"
 
@@ -23,4 +25,6 @@ void registerToolWindows(ToolWindowFactory& factory)
     factory.registerKind(ToolParameter, makerOf<COV_PrmSuWnd>());
     factory.registerKind(ToolSystemIo, makerOf<COV_SysIoWnd>());
     factory.registerKind(ToolDigitalIo, makerOf<COV_DIoWnd>());
+    factory.registerKind(ToolAxisStatus, makerOf<COV_AxStMonWnd>());
+    factory.registerKind(ToolSystemDiagnosis, makerOf<COV_SysDbgWnd>());
 }

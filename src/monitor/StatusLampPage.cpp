@@ -81,6 +81,9 @@ void StatusLampPage::loadImages()
             BitLampPainter::draw(StatusBitCaptions::caption(m_word, bit, family), false);
         m_litImages[index] =
             BitLampPainter::draw(StatusBitCaptions::litCaption(m_word, bit, family), true);
+        const QString tip = StatusBitCaptions::toolTip(m_word, bit, family);
+        for (int column = 0; column < kColumns; ++column)
+            lamp(column, bit)->setToolTip(tip);
     }
 }
 

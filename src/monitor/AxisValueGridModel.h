@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QColor>
+#include <QStringList>
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+// A grid of per-axis values, one named row per quantity and one column per axis (up to eight).
+// It keeps numbers, not texts, so a tick that changes nothing formats nothing; setting a value
+// already shown signals nothing, a new one signals its one cell.
+class AxisValueGridModel : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    enum class Format
+    {
+        Decimal,   // "%d"
+        HexWord16, // the low 16 bits, "%04X"
+    };
+    struct Row
+    {
+        QString title;
+        Format format;
+    };
+    static constexpr int kAxes = 8;
+    static QColor absentColor() { return QColor(222, 222, 222); }
+
+    explicit AxisValueGridModel(std::vector<Row> rows, QObject* parent = nullptr);
+
+    int rowCount(const QModelIndex& parent = QModelIndex()) const override;
+    int columnCount(const QModelIndex& parent = QModelIndex()) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+
+    // Shows a value; returns whether the cell changed.
+    bool setValue(int row, int axis, std::int32_t value);
+    // Axes from count on are blank and grey.
+    void setPresentAxes(int count);
+    int presentAxes() const { return m_presentAxes; }
+    bool isPresent(int axis) const { return axis >= 0 && axis < m_presentAxes; }
+
+    static QString format(Format format, std::int32_t value);
+
+private:
+    std::vector<Row> m_rows;
+    std::vector<std::array<std::optional<std::int32_t>, kAxes>> m_values;
+    int m_presentAxes = kAxes;
+};
