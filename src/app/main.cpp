@@ -1,3 +1,4 @@
+#include "COV_MnMtnWnd.h"
 #include "COV_SnMtnWnd.h"
 #include "COrvaneApp.h"
 
@@ -11,6 +12,10 @@ int main(int argc, char* argv[])
     app.toolWindows().registerKind(ToolSingleAxis,
                                    [](const ToolContext& context, QWidget* parent) -> ToolView* {
                                        return new COV_SnMtnWnd(context, parent);
+                                   });
+    app.toolWindows().registerKind(ToolMultiAxis,
+                                   [](const ToolContext& context, QWidget* parent) -> ToolView* {
+                                       return new COV_MnMtnWnd(context, parent);
                                    });
     return app.run();
 }
