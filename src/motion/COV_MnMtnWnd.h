@@ -1,23 +1,18 @@
 #pragma once
 
+#include "GantryWatch.h"
 #include "MotionPanel.h"
 #include "MotionSequencer.h"
+#include "MultiAxisForm.h"
 #include "MultiAxisSlots.h"
 #include "ToolContext.h"
 #include "ToolView.h"
 
-#include <QElapsedTimer>
 #include <QTimer>
 
 #include <memory>
 
 class JogReleaseGuard;
-class QCheckBox;
-class QComboBox;
-class QLabel;
-class QLineEdit;
-class QListWidget;
-class QPushButton;
 class QtClockwork;
 class SequencerClockwork;
 
@@ -30,7 +25,6 @@ class COV_MnMtnWnd : public ToolView, private MotionPanel
 
 public:
     static constexpr int kListWatchIntervalMs = 10;
-    static constexpr int kGantryIntervalMs = 1;
 
     explicit COV_MnMtnWnd(const ToolContext& context, QWidget* parent = nullptr);
     // Runs the sequences on the given timers and clock instead of its own.
@@ -46,12 +40,9 @@ public:
     MotionSequencer& sequencer() { return m_sequencer; }
     // Timer 5: "All Axes", the checked axes and the editing controls follow the list.
     void onListWatch();
-    // Timer 6: the gantry check.
-    void onGantryTick();
-    QTimer& gantryTimer() { return m_gantryTimer; }
-    // Mean and longest time between gantry checks since the check was ticked, in ms.
-    double gantryMeanPeriodMs() const;
-    double gantryLongestPeriodMs() const { return m_gantryLongestNs / 1e6; }
+    // Timer 6: one period of the gantry check.
+    void onGantryTick() { m_gantry.tick(); }
+    const GantryWatch& gantry() const { return m_gantry; }
     const std::vector<AxisNo>& checkedAxes() const { return m_checked; }
 
 protected:
@@ -63,12 +54,6 @@ private:
     COV_MnMtnWnd(const ToolContext& context, std::unique_ptr<QtClockwork> ownClockwork,
                  SequencerClockwork* clockwork, QWidget* parent);
 
-    QWidget* createAxisColumn();
-    QWidget* createProfileGroup();
-    QWidget* createRepeatGroup();
-    QWidget* createCounterGroup();
-    QWidget* createGantryGroup();
-    QWidget* createButtonColumn();
     void connectControls();
 
     BoardFamily family() const;
@@ -89,7 +74,7 @@ private:
     void onFocusChanged(int row);
     void onMotionTypeChanged(int index);
     void onServoClicked();
-    void onGantryBox(bool on);
+    void checkGantry();
     void onErrorLimitEdited(const QString& text);
     void forEachChecked(const std::function<void(AxisNo)>& act);
     bool closePrompted();
@@ -109,6 +94,7 @@ private:
     void clearCycleDisplay() override;
     void setSequenceLocked(bool locked) override;
 
+    MultiAxisForm m_form;
     ToolContext m_context;
     std::unique_ptr<QtClockwork> m_ownClockwork;
     MotionSequencer m_sequencer;
@@ -125,48 +111,7 @@ private:
     bool m_closeConfirmed = false;
 
     QTimer m_listWatch;
-    QTimer m_gantryTimer;
-    QElapsedTimer m_gantryClock;
-    qint64 m_gantryLastNs = -1;
-    qint64 m_gantryTicks = 0;
-    qint64 m_gantryFirstNs = 0;
-    qint64 m_gantryLongestNs = 0;
+    GantryWatch m_gantry;
 
-    QComboBox* m_cardCombo = nullptr;
-    QListWidget* m_axisList = nullptr;
-    QCheckBox* m_allAxes = nullptr;
-    QComboBox* m_motionTypeCombo = nullptr;
-    QLineEdit* m_drive = nullptr;
-    QLineEdit* m_initial = nullptr;
-    QLineEdit* m_accel = nullptr;
-    QLineEdit* m_decel = nullptr;
-    QLabel* m_accelLabel = nullptr;
-    QCheckBox* m_setAll = nullptr;
-    QPushButton* m_setPrm = nullptr;
-    QCheckBox* m_repeat = nullptr;
-    QCheckBox* m_infinite = nullptr;
-    QLineEdit* m_count = nullptr;
-    QLineEdit* m_delay = nullptr;
-    QLineEdit* m_position1 = nullptr;
-    QLineEdit* m_position2 = nullptr;
-    QLabel* m_position2Label = nullptr;
-    QCheckBox* m_applyAll = nullptr;
-    QPushButton* m_apply = nullptr;
-    QLineEdit* m_setCommand = nullptr;
-    QLineEdit* m_setActual = nullptr;
-    QLineEdit* m_repeatCount = nullptr;
-    QLineEdit* m_cycleTime = nullptr;
-    QCheckBox* m_gantryBox = nullptr;
-    QComboBox* m_gantrySource = nullptr;
-    QLineEdit* m_errorLimitEdit = nullptr;
-    QPushButton* m_eStop = nullptr;
-    QPushButton* m_sStop = nullptr;
-    QPushButton* m_servo = nullptr;
-    QPushButton* m_minus = nullptr;
-    QPushButton* m_plus = nullptr;
-    QPushButton* m_alarmReset = nullptr;
-    QPushButton* m_counterClear = nullptr;
-    QPushButton* m_parameterSetup = nullptr;
-    QPushButton* m_close = nullptr;
     JogReleaseGuard* m_jogGuard = nullptr;
 };
