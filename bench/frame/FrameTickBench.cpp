@@ -1,7 +1,9 @@
 // Measures the UI-thread cost of the main frame's 10 ms MonitorTick with every pane open on
-// the simulated boards, and can save a picture of the frame.
+// the simulated boards, and the period the multi-axis window's 1 ms gantry check really gets
+// while three axes jog; can save pictures of the frame and of the multi-axis window.
 //
 //   orvane_bench_frame [--boards largest|default] [--ticks N] [--screenshot file.png]
+//                      [--multi-screenshots prefix]
 //
 // "largest" is 3 families x 8 cards x 8 axes; "default" is the simulator's built-in set. The
 // simulator's files go to a temporary folder, so the build's own folder is left alone.
@@ -10,18 +12,26 @@
 #include "BoardApi.h"
 #include "BoardLoader.h"
 #include "COV_MainFrame.h"
+#include "COV_MnMtnWnd.h"
 #include "COV_SnMtnWnd.h"
 #include "MessageBoxPrompt.h"
 #include "ToolWindowFactory.h"
+#include "ToolWindowHost.h"
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QCommandLineParser>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QEventLoop>
 #include <QFile>
 #include <QLibrary>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QTemporaryDir>
 #include <QThread>
+#include <QTimer>
 
 #include <algorithm>
 #include <cstdio>
@@ -71,6 +81,64 @@ void jogActiveCard(AppState& state, BoardApi& board)
     }
 }
 
+void checkAxes(COV_MnMtnWnd& window, int count)
+{
+    auto* list = window.findChild<QListWidget*>(QStringLiteral("axisList"));
+    for (int row = 0; row < count && row < list->count(); ++row)
+        list->item(row)->setCheckState(Qt::Checked);
+    window.onListWatch();
+}
+
+void chooseMotionType(COV_MnMtnWnd& window, MotionType type)
+{
+    auto* combo = window.findChild<QComboBox*>(QStringLiteral("motionType"));
+    combo->setCurrentIndex(static_cast<int>(type));
+    emit combo->activated(static_cast<int>(type));
+}
+
+// Jogs three axes with the gantry check on (a limit no jog reaches) and lets the event loop
+// run the precise 1 ms timer for two seconds.
+void measureGantryPeriod(COV_MainFrame& frame)
+{
+    frame.sendToFrame(UM_OPEN_TOOL, ToolMultiAxis);
+    auto* window = static_cast<COV_MnMtnWnd*>(frame.toolWindows().view(ToolMultiAxis));
+    if (window == nullptr)
+        return;
+    checkAxes(*window, 3);
+    auto* limit = window->findChild<QLineEdit*>(QStringLiteral("errorLimit"));
+    limit->setText(QStringLiteral("100000000"));
+    emit limit->textEdited(limit->text());
+    window->findChild<QCheckBox*>(QStringLiteral("gantryCheck"))->setChecked(true);
+    window->sequencer().press(DirectionPlus);
+    QEventLoop loop;
+    QTimer::singleShot(2000, &loop, &QEventLoop::quit);
+    loop.exec();
+    window->sequencer().release();
+    std::printf("gantry check: %lld periods in 2 s, mean %.3f ms, longest %.3f ms\n",
+                static_cast<long long>(window->gantry().ticks()), window->gantry().meanPeriodMs(),
+                window->gantry().longestPeriodMs());
+    window->findChild<QCheckBox*>(QStringLiteral("gantryCheck"))->setChecked(false);
+}
+
+// The multi-axis window in the frame at 1366 x 768 with the panes: Jog, then Absolute with
+// Repeat.
+void saveMultiAxisScreenshots(COV_MainFrame& frame, const QString& prefix)
+{
+    frame.resize(1366, 768);
+    frame.sendToFrame(UM_OPEN_TOOL, ToolMultiAxis);
+    auto* window = static_cast<COV_MnMtnWnd*>(frame.toolWindows().view(ToolMultiAxis));
+    if (window == nullptr)
+        return;
+    checkAxes(*window, 3);
+    QApplication::processEvents();
+    const bool jog = frame.grab().save(prefix + QStringLiteral("-jog.png"));
+    chooseMotionType(*window, MotionType::Absolute);
+    window->findChild<QCheckBox*>(QStringLiteral("repeat"))->click();
+    QApplication::processEvents();
+    const bool absolute = frame.grab().save(prefix + QStringLiteral("-absolute-repeat.png"));
+    std::printf("multi-axis screenshots %s\n", jog && absolute ? "saved" : "NOT saved");
+}
+
 double percentile(std::vector<double> values, double share)
 {
     std::sort(values.begin(), values.end());
@@ -89,6 +157,7 @@ int main(int argc, char* argv[])
     options.addOption({"boards", "largest or default", "set", "largest"});
     options.addOption({"ticks", "ticks to time", "count", "2000"});
     options.addOption({"screenshot", "save the frame as a PNG", "file"});
+    options.addOption({"multi-screenshots", "save the multi-axis window as PNGs", "prefix"});
     options.process(qtApp);
 
     QTemporaryDir data;
@@ -109,6 +178,9 @@ int main(int argc, char* argv[])
     factory.registerKind(ToolSingleAxis, [](const ToolContext& c, QWidget* p) -> ToolView* {
         return new COV_SnMtnWnd(c, p);
     });
+    factory.registerKind(ToolMultiAxis, [](const ToolContext& c, QWidget* p) -> ToolView* {
+        return new COV_MnMtnWnd(c, p);
+    });
 
     COV_MainFrame frame(state, board, prompt, factory);
     if (!frame.create(loader.problems())) {
@@ -118,8 +190,14 @@ int main(int argc, char* argv[])
     frame.monitorTimer().stop();
     frame.resize(1400, 900);
     frame.show();
-    if (!options.isSet("screenshot"))
+    if (options.isSet("multi-screenshots")) {
+        saveMultiAxisScreenshots(frame, options.value("multi-screenshots"));
+        return 0;
+    }
+    if (!options.isSet("screenshot")) {
         frame.sendToFrame(UM_OPEN_TOOL, ToolSingleAxis);
+        frame.sendToFrame(UM_OPEN_TOOL, ToolMultiAxis);
+    }
     QApplication::processEvents();
     jogActiveCard(state, board);
 
@@ -157,6 +235,7 @@ int main(int argc, char* argv[])
     std::printf("MonitorTick over %d ticks, every pane open:\n", ticks);
     report("  tick (board reads, widgets)", tickOnly);
     report("  tick and its repaints", withPaint);
+    measureGantryPeriod(frame);
 
     if (options.isSet("screenshot")) {
         frame.sendToFrame(UM_OPEN_TOOL, ToolSingleAxis);

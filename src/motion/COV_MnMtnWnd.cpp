@@ -54,6 +54,9 @@ COV_MnMtnWnd::COV_MnMtnWnd(const ToolContext& context, std::unique_ptr<QtClockwo
     m_form.applyAll->setChecked(true);
     onMotionTypeChanged(0);
     setFieldNumber(m_form.errorLimitEdit, m_errorLimit);
+    for (QLineEdit* edit : {m_form.count, m_form.delay, m_form.setCommand, m_form.setActual})
+        setFieldNumber(edit, 0);
+    clearCycleDisplay();
     m_form.gantrySource->setCurrentIndex(0);
     fillCardCombo();
     reload();

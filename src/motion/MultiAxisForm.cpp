@@ -4,6 +4,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -31,22 +32,45 @@ QCheckBox* makeCheckBox(const QString& caption, const char* name)
     box->setObjectName(QLatin1String(name));
     return box;
 }
+// Narrows a field group: captions at their own width, short edits, and no button column
+// unless the group has buttons.
+void compact(QGroupBox* group, bool buttons)
+{
+    auto* grid = static_cast<QGridLayout*>(group->layout());
+    grid->setColumnMinimumWidth(0, 0);
+    if (!buttons)
+        grid->setColumnMinimumWidth(3, 0);
+    for (QLineEdit* edit : group->findChildren<QLineEdit*>())
+        edit->setMaximumWidth(90);
+}
+
+// A row across the whole group below its fields.
+void addSpanningRow(QGroupBox* group, QWidget* first, QWidget* second)
+{
+    auto* grid = static_cast<QGridLayout*>(group->layout());
+    auto* row = new QHBoxLayout;
+    row->addWidget(first);
+    row->addStretch();
+    row->addWidget(second);
+    grid->addLayout(row, grid->rowCount(), 0, 1, grid->columnCount());
+}
 } // namespace
 
 MultiAxisForm::MultiAxisForm(QWidget* window)
 {
+    // Three narrow columns, so the window fits beside the docked panes on a small screen.
     auto* layout = new QHBoxLayout(window);
-    layout->addWidget(createAxisColumn());
+    auto* left = new QVBoxLayout;
+    left->addWidget(createAxisColumn());
+    left->addWidget(createCounterGroup());
+    left->addWidget(createGantryGroup());
+    left->addStretch();
+    layout->addLayout(left);
     auto* middle = new QVBoxLayout;
     middle->addWidget(createProfileGroup());
     middle->addWidget(createRepeatGroup());
     middle->addStretch();
     layout->addLayout(middle);
-    auto* right = new QVBoxLayout;
-    right->addWidget(createCounterGroup());
-    right->addWidget(createGantryGroup());
-    right->addStretch();
-    layout->addLayout(right);
     layout->addWidget(createButtonColumn());
 }
 
@@ -66,8 +90,8 @@ QWidget* MultiAxisForm::createAxisColumn()
     axisList->setObjectName(QStringLiteral("axisList"));
     axisList->setToolTip(QStringLiteral("Tick the axes that move together; the highlighted "
                                         "axis is the one the fields show"));
-    axisList->setMaximumWidth(130);
-    layout->addWidget(axisList, 1);
+    axisList->setMaximumHeight(8 * 19 + 6);
+    layout->addWidget(axisList);
     allAxes = makeCheckBox(QStringLiteral(" All Axes"), "allAxes");
     layout->addWidget(allAxes);
     return column;
@@ -88,7 +112,8 @@ QWidget* MultiAxisForm::createProfileGroup()
     decel = grid.addField(QStringLiteral(" Decel Time"), kMsec, "decelTime");
     setAll = makeCheckBox(QStringLiteral(" Set All Selected Axes"), "setAll");
     setPrm = makeButton(QStringLiteral("Set Prm"), "setPrmButton");
-    grid.addRow(setAll, setPrm);
+    addSpanningRow(group, setAll, setPrm);
+    compact(group, false);
     return group;
 }
 
@@ -105,7 +130,8 @@ QWidget* MultiAxisForm::createRepeatGroup()
     position2 = grid.addField(QStringLiteral(" Position 2"), kPulse, "position2", &position2Label);
     applyAll = makeCheckBox(QStringLiteral(" Apply All Selected Axes"), "applyAll");
     apply = makeButton(QStringLiteral("Apply"), "applyButton");
-    grid.addRow(applyAll, apply);
+    addSpanningRow(group, applyAll, apply);
+    compact(group, false);
     return group;
 }
 
@@ -121,6 +147,7 @@ QWidget* MultiAxisForm::createCounterGroup()
     cycleTime = grid.addField(QStringLiteral(" Cycle Time"), kMsec, "cycleTime");
     for (QLineEdit* display : {repeatCount, cycleTime})
         display->setReadOnly(true);
+    compact(group, true);
     return group;
 }
 
@@ -138,6 +165,7 @@ QWidget* MultiAxisForm::createGantryGroup()
     gantrySource->addItems({QStringLiteral("0 : Command"), QStringLiteral("1 : Actual")});
     grid.addRow(QStringLiteral(" Position"), gantrySource);
     errorLimitEdit = grid.addField(QStringLiteral(" Error Limit "), kPulse, "errorLimit");
+    compact(group, false);
     return group;
 }
 
