@@ -1,7 +1,9 @@
 // Measures the UI-thread cost of the main frame's 10 ms MonitorTick with every pane open on
-// the simulated boards, and can save a picture of the frame.
+// the simulated boards, and the period the multi-axis window's 1 ms gantry check really gets
+// while three axes jog; can save pictures of the frame and of the multi-axis window.
 //
 //   orvane_bench_frame [--boards largest|default] [--ticks N] [--screenshot file.png]
+//                      [--multi-screenshots prefix]
 //
 // "largest" is 3 families x 8 cards x 8 axes; "default" is the simulator's built-in set. The
 // simulator's files go to a temporary folder, so the build's own folder is left alone.
@@ -12,6 +14,7 @@
 #include "COV_AxStMonWnd.h"
 #include "COV_DIoWnd.h"
 #include "COV_MainFrame.h"
+#include "COV_MnMtnWnd.h"
 #include "COV_SnMtnWnd.h"
 #include "COV_SysDbgWnd.h"
 #include "COV_SysIoWnd.h"
@@ -22,14 +25,20 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QCommandLineParser>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QEventLoop>
 #include <QFile>
 #include <QLibrary>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QMdiSubWindow>
 #include <QTemporaryDir>
 #include <QThread>
+#include <QTimer>
 
 #include <algorithm>
 #include <cstdio>
@@ -91,6 +100,63 @@ public:
         return QObject::eventFilter(watched, event);
     }
 };
+void checkAxes(COV_MnMtnWnd& window, int count)
+{
+    auto* list = window.findChild<QListWidget*>(QStringLiteral("axisList"));
+    for (int row = 0; row < count && row < list->count(); ++row)
+        list->item(row)->setCheckState(Qt::Checked);
+    window.onListWatch();
+}
+
+void chooseMotionType(COV_MnMtnWnd& window, MotionType type)
+{
+    auto* combo = window.findChild<QComboBox*>(QStringLiteral("motionType"));
+    combo->setCurrentIndex(static_cast<int>(type));
+    emit combo->activated(static_cast<int>(type));
+}
+
+// Jogs three axes with the gantry check on (a limit no jog reaches) and lets the event loop
+// run the precise 1 ms timer for two seconds.
+void measureGantryPeriod(COV_MainFrame& frame)
+{
+    frame.sendToFrame(UM_OPEN_TOOL, ToolMultiAxis);
+    auto* window = static_cast<COV_MnMtnWnd*>(frame.toolWindows().view(ToolMultiAxis));
+    if (window == nullptr)
+        return;
+    checkAxes(*window, 3);
+    auto* limit = window->findChild<QLineEdit*>(QStringLiteral("errorLimit"));
+    limit->setText(QStringLiteral("100000000"));
+    emit limit->textEdited(limit->text());
+    window->findChild<QCheckBox*>(QStringLiteral("gantryCheck"))->setChecked(true);
+    window->sequencer().press(DirectionPlus);
+    QEventLoop loop;
+    QTimer::singleShot(2000, &loop, &QEventLoop::quit);
+    loop.exec();
+    window->sequencer().release();
+    std::printf("gantry check: %lld periods in 2 s, mean %.3f ms, longest %.3f ms\n",
+                static_cast<long long>(window->gantry().ticks()), window->gantry().meanPeriodMs(),
+                window->gantry().longestPeriodMs());
+    window->findChild<QCheckBox*>(QStringLiteral("gantryCheck"))->setChecked(false);
+}
+
+// The multi-axis window in the frame at 1366 x 768 with the panes: Jog, then Absolute with
+// Repeat.
+void saveMultiAxisScreenshots(COV_MainFrame& frame, const QString& prefix)
+{
+    frame.resize(1366, 768);
+    frame.sendToFrame(UM_OPEN_TOOL, ToolMultiAxis);
+    auto* window = static_cast<COV_MnMtnWnd*>(frame.toolWindows().view(ToolMultiAxis));
+    if (window == nullptr)
+        return;
+    checkAxes(*window, 3);
+    QApplication::processEvents();
+    const bool jog = frame.grab().save(prefix + QStringLiteral("-jog.png"));
+    chooseMotionType(*window, MotionType::Absolute);
+    window->findChild<QCheckBox*>(QStringLiteral("repeat"))->click();
+    QApplication::processEvents();
+    const bool absolute = frame.grab().save(prefix + QStringLiteral("-absolute-repeat.png"));
+    std::printf("multi-axis screenshots %s\n", jog && absolute ? "saved" : "NOT saved");
+}
 
 double percentile(std::vector<double> values, double share)
 {
@@ -111,6 +177,7 @@ int main(int argc, char* argv[])
     options.addOption({"ticks", "ticks to time", "count", "2000"});
     options.addOption({"screenshot", "save the frame as a PNG", "file"});
     options.addOption({"size", "the frame's size", "WxH", "1400x900"});
+    options.addOption({"multi-screenshots", "save the multi-axis window as PNGs", "prefix"});
     options.process(qtApp);
 
     QTemporaryDir data;
@@ -139,9 +206,14 @@ int main(int argc, char* argv[])
     const QStringList size = options.value("size").split(QLatin1Char('x'));
     frame.resize(size.value(0).toInt(), size.value(1).toInt());
     frame.show();
+    if (options.isSet("multi-screenshots")) {
+        saveMultiAxisScreenshots(frame, options.value("multi-screenshots"));
+        return 0;
+    }
     if (!options.isSet("screenshot")) {
         frame.sendToFrame(UM_OPEN_TOOL, ToolParameter);
         frame.sendToFrame(UM_OPEN_TOOL, ToolSingleAxis);
+        frame.sendToFrame(UM_OPEN_TOOL, ToolMultiAxis);
     }
     // The monitors' own 10 ms timers are timed below, one tick each per frame tick.
     frame.sendToFrame(UM_OPEN_TOOL, ToolAxisStatus);
@@ -238,6 +310,7 @@ int main(int argc, char* argv[])
     report("  System IO + Digital IO ticks", ioTicks);
     std::printf("  lamp and button paints on the %d ticks that changed nothing: %d\n",
                 unchangedTicks, unchangedPaints);
+    measureGantryPeriod(frame);
 
     if (options.isSet("screenshot")) {
         frame.sendToFrame(UM_OPEN_TOOL, ToolSingleAxis);

@@ -13,6 +13,7 @@
 #include "ToolView.h"
 #include "ToolWindowHost.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
@@ -23,10 +24,14 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
+#include <QPainter>
+#include <QPixmap>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QStatusBar>
 #include <QToolBar>
+
+#include <cmath>
 
 namespace {
 const QString kLayoutOrganisation = QStringLiteral("Local AppWizard-Generated Applications");
@@ -46,6 +51,24 @@ void showEntries(QComboBox& combo, const QStringList& entries, int selection)
     }
     if (combo.currentIndex() != selection)
         combo.setCurrentIndex(selection);
+}
+// A red octagon with a white bar: the stop sign every operator knows.
+QIcon stopSignIcon()
+{
+    QPixmap picture(32, 32);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    QPolygonF octagon;
+    for (int corner = 0; corner < 8; ++corner) {
+        const double angle = (22.5 + 45.0 * corner) * 3.14159265358979 / 180.0;
+        octagon << QPointF(16.0 + 15.0 * std::cos(angle), 16.0 + 15.0 * std::sin(angle));
+    }
+    painter.setPen(QPen(Qt::white, 1.5));
+    painter.setBrush(QColor(200, 0, 0));
+    painter.drawPolygon(octagon);
+    painter.fillRect(QRectF(7, 13, 18, 6), Qt::white);
+    return QIcon(picture);
 }
 } // namespace
 
@@ -75,6 +98,7 @@ bool COV_MainFrame::create(const QStringList& libraryProblems)
     setCentralWidget(m_mdiArea);
     m_tools = new ToolWindowHost(*m_mdiArea, m_factory, m_context, this);
     createStatusBar();
+    createStopAllAction();
     createMenus();
     createToolBar();
     readSettings();
@@ -109,8 +133,11 @@ void COV_MainFrame::createMenus()
     setup->addAction(QStringLiteral("Actual Speed Calculator"), this,
                      [this] { runCommand(FrameCommand::ActualSpeedCalculator); });
     bar->addMenu(setup);
-    bar->addMenu(createToolMenu(QStringLiteral("Motion"),
-                                {{"Single Axis", ToolSingleAxis}, {"Multi Axis", ToolMultiAxis}}));
+    QMenu* motion = createToolMenu(
+        QStringLiteral("Motion"), {{"Single Axis", ToolSingleAxis}, {"Multi Axis", ToolMultiAxis}});
+    motion->addSeparator();
+    motion->addAction(m_stopAll);
+    bar->addMenu(motion);
     bar->addMenu(createStatusMenu());
     bar->addMenu(createWindowMenu());
     bar->addMenu(createHelpMenu());
@@ -199,10 +226,25 @@ QMenu* COV_MainFrame::createHelpMenu()
     return menu;
 }
 
+void COV_MainFrame::createStopAllAction()
+{
+    m_stopAll = new QAction(stopSignIcon(), QStringLiteral("Stop All Axes"), this);
+    m_stopAll->setObjectName(QStringLiteral("StopAllAxes"));
+    m_stopAll->setShortcut(QKeySequence(Qt::Key_F12));
+    // Reachable whatever window of the program has the focus.
+    m_stopAll->setShortcutContext(Qt::ApplicationShortcut);
+    m_stopAll->setToolTip(QStringLiteral("Stop All Axes (F12): stops every axis of every board "
+                                         "at once and ends every running motion sequence"));
+    connect(m_stopAll, &QAction::triggered, this, [this] { stopAllAxes(); });
+    addAction(m_stopAll);
+}
+
 void COV_MainFrame::createToolBar()
 {
     QToolBar* bar = addToolBar(QStringLiteral("Main"));
     bar->setObjectName(QStringLiteral("Main"));
+    bar->addAction(m_stopAll);
+    bar->addSeparator();
     m_familyCombo = new QComboBox(bar);
     m_familyCombo->setObjectName(QStringLiteral("FamilyCombo"));
     m_familyCombo->setMinimumContentsLength(10);
@@ -429,6 +471,20 @@ void COV_MainFrame::updatePaneTitles()
 void COV_MainFrame::closeAllTools()
 {
     m_tools->closeAll();
+}
+
+void COV_MainFrame::stopAllAxes()
+{
+    for (BoardFamily family : kAllFamilies) {
+        for (int card = 0; card < m_state.registry.cardCount(family); ++card) {
+            for (int axis = 0; axis < m_state.registry.axisCount(family, card); ++axis)
+                m_board.Sudden_Stop(family, static_cast<CardNo>(card), static_cast<AxisNo>(axis));
+        }
+    }
+    for (ToolView* view : m_tools->openViews())
+        view->endMotion();
+    m_state.active.axesMoving = {};
+    statusBar()->showMessage(QStringLiteral("All axes stopped"));
 }
 
 void COV_MainFrame::runCommand(FrameCommand command)

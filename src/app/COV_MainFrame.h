@@ -13,6 +13,7 @@ class COV_StBaseWnd;
 class COV_UtMtnStWnd;
 class COV_WsSysWnd;
 class PromptService;
+class QAction;
 class QComboBox;
 class QDockWidget;
 class QMdiArea;
@@ -51,6 +52,8 @@ public:
     void chooseFamily(int comboIndex);
     void chooseCard(int comboIndex);
     void closeAllTools();
+    // Sudden_Stop on every axis of every loaded card, and every motion window's sequence ended.
+    void stopAllAxes();
     void environmentSetup();
     void logLevelSetup();
     // What the log-level dialog's OK does: keeps the level and hands it to the active
@@ -67,6 +70,7 @@ public:
     QComboBox* cardCombo() const { return m_cardCombo; }
     ToolWindowHost& toolWindows() const { return *m_tools; }
     QTimer& monitorTimer() { return m_monitorTimer; }
+    QAction* stopAllAction() const { return m_stopAll; }
     const ToolContext& context() const { return m_context; }
 
 protected:
@@ -80,6 +84,7 @@ private:
     QMenu* createStatusMenu();
     QMenu* createWindowMenu();
     QMenu* createHelpMenu();
+    void createStopAllAction();
     void createToolBar();
     void createStatusBar();
     QDockWidget* createDock(const QString& objectName, const QString& title, QWidget* content,
@@ -114,6 +119,7 @@ private:
     QDockWidget* m_motionDock = nullptr;
     QComboBox* m_familyCombo = nullptr;
     QComboBox* m_cardCombo = nullptr;
+    QAction* m_stopAll = nullptr;
     QTimer m_monitorTimer;
     int m_showStatusWindow = 1;
     int m_statusFollowsOperation = 1;

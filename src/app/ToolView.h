@@ -19,6 +19,8 @@ public:
     virtual void handleUserMessage(UserMessage message, int wParam) = 0;
     // The frame (or "Close All") asks the view to close.
     virtual void requestClose() { emit closeRequested(); }
+    // The frame has stopped every axis: a window that runs motion sequences ends them.
+    virtual void endMotion() {}
 
 signals:
     void closeRequested();

@@ -2,6 +2,7 @@
 
 #include "COV_AxStMonWnd.h"
 #include "COV_DIoWnd.h"
+#include "COV_MnMtnWnd.h"
 #include "COV_PrmSuWnd.h"
 #include "COV_SnMtnWnd.h"
 #include "COV_SysDbgWnd.h"
@@ -22,6 +23,7 @@ template <typename View> ToolWindowFactory::Maker makerOf()
 void registerToolWindows(ToolWindowFactory& factory)
 {
     factory.registerKind(ToolSingleAxis, makerOf<COV_SnMtnWnd>());
+    factory.registerKind(ToolMultiAxis, makerOf<COV_MnMtnWnd>());
     factory.registerKind(ToolParameter, makerOf<COV_PrmSuWnd>());
     factory.registerKind(ToolSystemIo, makerOf<COV_SysIoWnd>());
     factory.registerKind(ToolDigitalIo, makerOf<COV_DIoWnd>());

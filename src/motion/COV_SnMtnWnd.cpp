@@ -64,6 +64,10 @@ COV_SnMtnWnd::COV_SnMtnWnd(const ToolContext& context, std::unique_ptr<QtClockwo
 
 COV_SnMtnWnd::~COV_SnMtnWnd()
 {
+    // Deleting the children moves the focus; the guard must not hear that once the sequencer
+    // is gone, so it goes first.
+    delete m_jogGuard;
+    m_jogGuard = nullptr;
     m_sequencer.endHeldJog();
     m_context.state.active.axis = 0;
     m_context.state.active.setAxesMoving(MovingOwner::SingleAxis, false);

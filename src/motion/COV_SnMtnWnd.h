@@ -33,6 +33,7 @@ public:
     ToolKind kind() const override { return ToolSingleAxis; }
     void handleUserMessage(UserMessage message, int wParam) override;
     void requestClose() override;
+    void endMotion() override { m_sequencer.endSequence(); }
 
     SingleAxisSequencer& sequencer() { return m_sequencer; }
 

@@ -34,3 +34,11 @@ struct RepeatFields
     std::int32_t position1 = 0;
     std::int32_t position2 = 0;
 };
+
+// Where one axis goes: its Distance for relative steps, its two positions for absolute moves.
+struct AxisPositions
+{
+    std::int32_t distance = 0;
+    std::int32_t position1 = 0;
+    std::int32_t position2 = 0;
+};

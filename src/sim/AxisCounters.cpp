@@ -15,11 +15,11 @@ int32_t ringed(int64_t raw, bool use, int32_t ring)
 
 } // namespace
 
-void AxisCounters::zeroAt(int64_t machine)
+void AxisCounters::zeroAt(int64_t machine, int64_t encoder)
 {
     commandOffset_ = -machine;
     actualBase_ = 0;
-    encoderRef_ = machine;
+    encoderRef_ = encoder;
 }
 
 int AxisCounters::encoderSign(const AxisParameters& p)

@@ -10,10 +10,11 @@ namespace nrxsim {
 class AxisCounters
 {
 public:
-    explicit AxisCounters(int64_t machine) { zeroAt(machine); }
+    explicit AxisCounters(int64_t machine) { zeroAt(machine, machine); }
 
-    // Both counters read 0 with the axis at `machine`.
-    void zeroAt(int64_t machine);
+    // Both counters read 0: the command with the axis at `machine`, the actual with its
+    // encoder at `encoder`.
+    void zeroAt(int64_t machine, int64_t encoder);
     int64_t command(int64_t machine) const { return machine + commandOffset_; }
     int64_t actual(int64_t machine, const AxisParameters& p) const;
     // The counter the comparators and soft limits watch.

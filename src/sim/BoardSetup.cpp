@@ -168,6 +168,8 @@ BoardSetup BoardSetup::read(int familyIndex, const IniFile* file)
             k.readSignal("Alarm", ax.alarm, cd.io);
             k.read("AlarmLevel", ax.alarmLevel, 0, 1);
             k.read("InposLevel", ax.inposLevel, 0, 1);
+            k.read("ServoLag", ax.servoLag, 0, 1000);
+            k.read("Slip", ax.slip, 0, 1000);
         }
         setup.cards.push_back(cd);
     }

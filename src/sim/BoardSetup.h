@@ -37,11 +37,13 @@ public:
         int64_t originWidth = 1000;
         int originLevel = 0;
         int64_t zPeriod = 4000; // one Z mark every zPeriod pulses
-        int64_t zOffset = 0;
+        int64_t zOffset = 2000; // off the start, so no axis begins on a mark
         int zLevel = 0;
         Signal alarm;
         int alarmLevel = 0;
         int inposLevel = 0;
+        int servoLag = 2; // ms the actual position trails the command while moving
+        int slip = 0;     // pulses the axis loses per 1000 commanded
     };
 
     struct Card

@@ -14,20 +14,21 @@ using Signal = HomeSearch::Signal;
 
 SimAxis::SimAxis(const BoardSetup::Axis& wiring, bool rn)
     : sensors_(wiring), rn_(rn), counters_(wiring.start), machine_(wiring.start),
-      exact_(static_cast<double>(wiring.start))
+      exact_(static_cast<double>(wiring.start)), servoLagMs_(wiring.servoLag),
+      slipPerMille_(wiring.slip)
 {}
 
 void SimAxis::setParameter(Id id, int32_t value)
 {
     // The actual counter keeps its value when the encoder is set up differently.
     if (id == Id::EncoderMode || id == Id::EncoderDir)
-        counters_.rebase(machine_, parameters_);
+        counters_.rebase(restingEncoder(), parameters_);
     parameters_.set(id, value);
 }
 
 void SimAxis::restoreDefaults()
 {
-    counters_.rebase(machine_, parameters_);
+    counters_.rebase(restingEncoder(), parameters_);
     parameters_.restoreDefaults();
 }
 
@@ -38,11 +39,10 @@ void SimAxis::reset()
     unitSpeed_ = 0.0;
     profileBits_ = 0;
     target_.reset();
-    group_ = 0;
     clearLatches();
     homeOk_ = false;
     exact_ = static_cast<double>(machine_);
-    counters_.zeroAt(machine_);
+    counters_.zeroAt(machine_, restingEncoder());
     servo_.switchOff();
 }
 
@@ -52,7 +52,6 @@ void SimAxis::clearLatches()
     stopBits_ = 0;
     errorBits_ = 0;
     homeStopBits_ = 0;
-    groupEvent_ = GroupEvent::None;
 }
 
 SpeedProfile SimAxis::speedFor(int32_t initial, int32_t drive, int32_t accel, int32_t decel) const
@@ -84,7 +83,7 @@ int32_t SimAxis::commandPosition() const
 
 int32_t SimAxis::actualPosition() const
 {
-    return counters_.actualReading(machine_, parameters_);
+    return counters_.actualReading(encoderPosition(), parameters_);
 }
 
 int32_t SimAxis::commandSpeed() const
@@ -154,7 +153,6 @@ bool SimAxis::moveBy(int64_t distance, const Lines& lines)
     if (isMoving())
         return false;
     clearLatches();
-    group_ = 0;
     if (distance == 0)
         return true;
     const int dir = distance > 0 ? 1 : -1;
@@ -179,7 +177,6 @@ bool SimAxis::jog(int direction, const Lines& lines)
     if (isMoving())
         return false;
     clearLatches();
-    group_ = 0;
     const int dir = direction != 0 ? 1 : -1;
     if (const int32_t code = startCode(dir, lines)) {
         finish(code);
@@ -191,30 +188,11 @@ bool SimAxis::jog(int direction, const Lines& lines)
     return true;
 }
 
-bool SimAxis::follow(const MotionProfile& profile, const SpeedProfile& speed, double ratio,
-                     int64_t distance, int group, const Lines& lines)
-{
-    if (isMoving())
-        return false;
-    clearLatches();
-    group_ = group;
-    if (distance != 0) {
-        if (const int32_t code = startCode(distance > 0 ? 1 : -1, lines)) {
-            finish(code);
-            return true;
-        }
-    }
-    begin(Activity::Move, profile, speed, ratio);
-    target_ = machine_ + distance;
-    return true;
-}
-
 bool SimAxis::home(const Lines& lines)
 {
     if (isMoving())
         return false;
     clearLatches();
-    group_ = 0;
     homeOk_ = false;
     activity_ = Activity::Home;
     if (lines.emergency || (p(Id::SvAlmUse) != 0 && alarmActive(lines))) {
@@ -285,7 +263,7 @@ void SimAxis::startLeg()
 
 void SimAxis::completeHome()
 {
-    counters_.zeroAt(machine_);
+    counters_.zeroAt(machine_, restingEncoder());
     homeOk_ = true;
     finish(StopCode::None, homeStopBits_);
 }
@@ -303,31 +281,11 @@ void SimAxis::suddenStop()
         finish(StopCode::None);
 }
 
-void SimAxis::abortFromGroup(bool ramp)
-{
-    if (!isMoving())
-        return;
-    if (ramp)
-        rampDown(AfterRamp::Finish, StopCode::Other, 0);
-    else
-        finish(StopCode::Other);
-    groupEvent_ = GroupEvent::None; // this stop answers the group; it raises no event
-}
-
-SimAxis::GroupEvent SimAxis::takeGroupEvent()
-{
-    const GroupEvent e = groupEvent_;
-    groupEvent_ = GroupEvent::None;
-    return e;
-}
-
 void SimAxis::rampDown(AfterRamp after, int32_t code, uint16_t stopBits)
 {
     afterRamp_ = after;
     pendingCode_ = code;
     pendingStopBits_ = stopBits;
-    if (group_ != 0 && code < 0)
-        groupEvent_ = GroupEvent::RampDown;
     profile_ = MotionProfile::rampDown(unitSpeed_, *speed_);
     origin_ = exact_;
     tick_ = 0;
@@ -342,8 +300,6 @@ void SimAxis::redirectRamp(int32_t code)
     afterRamp_ = AfterRamp::Finish;
     pendingCode_ = code;
     pendingStopBits_ = 0;
-    if (group_ != 0)
-        groupEvent_ = GroupEvent::RampDown;
 }
 
 void SimAxis::profileFinished()
@@ -380,18 +336,36 @@ void SimAxis::finish(int32_t code, uint16_t stopBits)
     profileBits_ = 0;
     target_.reset();
     exact_ = static_cast<double>(machine_);
+    lastStep_ = 0;
     errorCode_ = code;
     stopBits_ = stopBits | StatusWords::stopBitsFor(code, rn_);
     errorBits_ = StatusWords::errorBitsFor(code);
     if (code < 0 && wasHome)
         errorBits_ |= ErrorBit::DuringHome;
-    if (group_ != 0 && code < 0 && groupEvent_ == GroupEvent::None)
-        groupEvent_ = GroupEvent::Sudden;
 }
 
 // ---- stepping ---------------------------------------------------------------------------
 
 void SimAxis::step(const Lines& lines)
+{
+    const int64_t before = machine_;
+    advanceOneMs(lines);
+    followServo(before);
+}
+
+void SimAxis::followServo(int64_t before)
+{
+    const int64_t moved = machine_ - before;
+    lastStep_ = isMoving() ? moved : 0;
+    if (slipPerMille_ == 0 || moved == 0)
+        return;
+    slipRemainder_ += (moved < 0 ? -moved : moved) * slipPerMille_;
+    const int64_t lost = slipRemainder_ / 1000;
+    slipRemainder_ %= 1000;
+    slipOffset_ += moved < 0 ? lost : -lost;
+}
+
+void SimAxis::advanceOneMs(const Lines& lines)
 {
     if (!isMoving())
         return;

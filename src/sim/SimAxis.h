@@ -25,14 +25,6 @@ public:
         bool alarmLine = false; // the alarm line from the wiring (constant or an output)
     };
 
-    // What a stop of this axis asks of the other axes of its interpolation group.
-    enum class GroupEvent
-    {
-        None,
-        Sudden,
-        RampDown
-    };
-
     SimAxis(const BoardSetup::Axis& wiring, bool rn);
 
     const AxisParameters& parameters() const { return parameters_; }
@@ -47,22 +39,13 @@ public:
     bool moveTo(int32_t target, const Lines& lines);
     bool jog(int direction, const Lines& lines);
     bool home(const Lines& lines);
-    // Part of an interpolated move: runs `profile` scaled by `ratio` (signed), like its
-    // group's leading axis, and ends exactly `distance` pulses away.
-    bool follow(const MotionProfile& profile, const SpeedProfile& speed, double ratio,
-                int64_t distance, int group, const Lines& lines);
     void decelStop();
     void suddenStop();
-    // Another axis of the interpolation group stopped abnormally.
-    void abortFromGroup(bool rampDown);
 
     // One millisecond of motion.
     void step(const Lines& lines);
 
     bool isMoving() const { return activity_ != Activity::Idle; }
-    // The interpolation group of the last start (0: none), kept after the stop.
-    int group() const { return group_; }
-    GroupEvent takeGroupEvent();
     // Checks run before a start; 0 when the axis may move in `direction`.
     int32_t startCode(int direction, const Lines& lines) const;
     SpeedProfile positionSpeed() const;
@@ -70,9 +53,12 @@ public:
     int32_t commandPosition() const;
     int32_t actualPosition() const;
     void setCommandPosition(int32_t value) { counters_.setCommand(value, machine_); }
-    void setActualPosition(int32_t value) { counters_.setActual(value, machine_); }
+    void setActualPosition(int32_t value) { counters_.setActual(value, restingEncoder()); }
     int32_t commandSpeed() const;
     int64_t machinePosition() const { return machine_; }
+    // Where the encoder is: behind the command by the servo's following error while moving,
+    // and short of it by what the axis slipped.
+    int64_t encoderPosition() const { return restingEncoder() - lastStep_ * servoLagMs_; }
     int32_t errorCode() const { return errorCode_; }
     bool homed() const { return homeOk_; }
     bool isHoming() const { return activity_ == Activity::Home; }
@@ -137,6 +123,9 @@ private:
     void startLeg();
     void clearLatches();
     void completeHome();
+    void advanceOneMs(const Lines& lines);
+    void followServo(int64_t before);
+    int64_t restingEncoder() const { return machine_ + slipOffset_; }
 
     AxisSensors sensors_;
     bool rn_ = false;
@@ -157,13 +146,17 @@ private:
     std::optional<int64_t> target_;
     double unitSpeed_ = 0.0;
     uint16_t profileBits_ = 0;
-    int group_ = 0;
-    GroupEvent groupEvent_ = GroupEvent::None;
     HomeSearch homeSearch_;
     uint16_t homeStopBits_ = 0;
 
     int64_t machine_ = 0;
     double exact_ = 0.0;
+
+    int64_t servoLagMs_ = 0;
+    int64_t slipPerMille_ = 0;
+    int64_t lastStep_ = 0; // pulses of the last millisecond while moving
+    int64_t slipOffset_ = 0;
+    int64_t slipRemainder_ = 0;
 
     int32_t errorCode_ = 0;
     uint16_t stopBits_ = 0;

@@ -3,8 +3,6 @@
 #include "SimConstants.h"
 
 #include <algorithm>
-#include <cmath>
-#include <cstdlib>
 
 namespace nrxsim {
 
@@ -75,36 +73,15 @@ bool SimCard::multiMove(int n, const uint16_t* axes, const int32_t* values, bool
         if (axes_[axes[i]].isMoving())
             return false;
     }
-    std::vector<int64_t> distance(static_cast<std::size_t>(n));
-    int lead = -1;
-    double leadDuration = -1.0;
+    // Independent axes started in the same millisecond, each on its own speed profile.
     for (int i = 0; i < n; ++i) {
-        const SimAxis& a = axes_[axes[i]];
-        distance[i] = absolute ? static_cast<int64_t>(values[i]) - a.commandPosition() : values[i];
-        if (distance[i] == 0)
-            continue;
-        const double t =
-            MotionProfile::positioning(std::llabs(distance[i]), a.positionSpeed()).duration();
-        if (t > leadDuration) {
-            leadDuration = t;
-            lead = i;
-        }
+        SimAxis& a = axes_[axes[i]];
+        const SimAxis::Lines lines = linesFor(axes[i]);
+        if (absolute)
+            a.moveTo(values[i], lines);
+        else
+            a.moveBy(values[i], lines);
     }
-    if (lead < 0) {
-        for (int i = 0; i < n; ++i)
-            axes_[axes[i]].moveBy(0, linesFor(axes[i]));
-        return true;
-    }
-    // Every axis runs the leading axis's profile, scaled to its own share of the line.
-    const SpeedProfile speed = axes_[axes[lead]].positionSpeed();
-    const double leadDistance = std::fabs(static_cast<double>(distance[lead]));
-    const MotionProfile profile = MotionProfile::positioning(leadDistance, speed);
-    const int group = nextGroup_++;
-    for (int i = 0; i < n; ++i) {
-        const double ratio = static_cast<double>(distance[i]) / leadDistance;
-        axes_[axes[i]].follow(profile, speed, ratio, distance[i], group, linesFor(axes[i]));
-    }
-    propagateGroupStops();
     return true;
 }
 
@@ -129,30 +106,12 @@ bool SimCard::multiStop(int n, const uint16_t* axes, bool rampDown)
 void SimCard::stop(int index, bool rampDown)
 {
     SimAxis* a = axis(index);
-    if (!a || !a->isMoving())
+    if (!a)
         return;
-    const int group = a->group();
-    for (SimAxis& other : axes_) {
-        if (&other == a || (group != 0 && other.group() == group && other.isMoving())) {
-            if (rampDown)
-                other.decelStop();
-            else
-                other.suddenStop();
-        }
-    }
-}
-
-void SimCard::propagateGroupStops()
-{
-    for (SimAxis& a : axes_) {
-        const SimAxis::GroupEvent e = a.takeGroupEvent();
-        if (e == SimAxis::GroupEvent::None || a.group() == 0)
-            continue;
-        for (SimAxis& other : axes_) {
-            if (&other != &a && other.group() == a.group() && other.isMoving())
-                other.abortFromGroup(e == SimAxis::GroupEvent::RampDown);
-        }
-    }
+    if (rampDown)
+        a->decelStop();
+    else
+        a->suddenStop();
 }
 
 bool SimCard::step()
@@ -168,7 +127,6 @@ bool SimCard::step()
         else if (a.errorCode() < 0 && onAbnormalStop)
             onAbnormalStop(i, a.errorCode());
     }
-    propagateGroupStops();
     return moving || anyMoving();
 }
 

@@ -40,11 +40,10 @@ public:
     uint16_t diFilter = 0;
     uint16_t diFilterTime = 0;
 
-    // A move of several axes that starts and ends together along a straight line.
+    // Several axes started together, each on its own profile; each stops on its own.
     bool multiMove(int n, const uint16_t* axes, const int32_t* values, bool absolute);
     bool multiJog(int n, const uint16_t* axes, const uint16_t* directions);
     bool multiStop(int n, const uint16_t* axes, bool rampDown);
-    // Stops reach every axis of an interpolated move.
     void stop(int axis, bool rampDown);
 
     // One millisecond for every axis; true while any axis still moves.
@@ -57,14 +56,12 @@ public:
 
 private:
     bool validAxes(int n, const uint16_t* axes) const;
-    void propagateGroupStops();
 
     BoardSetup::Card setup_;
     int familyIndex_;
     std::vector<SimAxis> axes_;
     std::array<bool, MaxIoPoints> outputs_{};
     bool forcedEmergency_ = false;
-    int nextGroup_ = 1;
 };
 
 } // namespace nrxsim

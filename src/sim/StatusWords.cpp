@@ -25,7 +25,6 @@ uint16_t StatusWords::card(const SimCard& card, int index, int64_t nowMs)
     w |= a.errorCode() < 0 ? CardBit::Err : 0;
     w |= a.isHoming() ? CardBit::Home : 0;
     w |= a.homed() ? CardBit::HomeOk : 0;
-    w |= card.isRn() && a.isMoving() && a.group() != 0 ? CardBit::InterpolationRun : 0;
     w |= a.servo().counterClearOutput(nowMs) ? CardBit::CounterClear : 0;
     w |= a.servo().servoOn() ? CardBit::ServoOn : 0;
     w |= a.servo().alarmReset() ? CardBit::AlarmReset : 0;
@@ -57,7 +56,6 @@ uint16_t StatusWords::main(const SimCard& card, int index)
         }
         const SimAxis::Lines lines = card.linesFor(base + slot);
         w |= lines.emergency ? MainBit::RnEmergency : 0;
-        w |= a.isMoving() && a.group() != 0 ? MainBit::RnInterpolationRun : 0;
         w |= a.isHoming() ? MainBit::RnHoming : 0;
         w |= a.homed() ? MainBit::RnHomeOk : 0;
         w |= a.servo().servoOn() ? MainBit::RnServoOn : 0;

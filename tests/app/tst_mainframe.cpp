@@ -9,6 +9,7 @@
 #include "ToolView.h"
 #include "ToolWindowHost.h"
 
+#include <QAction>
 #include <QComboBox>
 #include <QContextMenuEvent>
 #include <QDockWidget>
@@ -16,6 +17,7 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QStandardPaths>
+#include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTreeWidgetItemIterator>
@@ -46,6 +48,7 @@ public:
         if (agreeToClose)
             emit closeRequested();
     }
+    void endMotion() override { m_log << QStringLiteral("%1:end").arg(m_kind); }
     std::function<void(UserMessage, int)> onMessage;
     bool agreeToClose = true;
     int closeRequests = 0;
@@ -204,6 +207,30 @@ private slots:
             QCOMPARE(rig.state.active.family, BoardFamily::RM);
             QCOMPARE(rig.boldItems(), (QStringList{"NRX-RMxxxV", "0 : NRX-RM416V"}));
         }
+    }
+
+    void stopAllAxes_everyAxisOfEveryFamilyAndEverySequence()
+    {
+        Rig rig(-1, 0, 1);
+        QVERIFY(rig.create());
+        rig.frame->openTool(ToolSingleAxis);
+        rig.state.active.setAxesMoving(MovingOwner::MultiAxis, true);
+        for (RecordingBoard* board : rig.all())
+            board->clearCalls();
+        rig.log.clear();
+        QAction* stop = rig.frame->stopAllAction();
+        // One press from anywhere in the program: toolbar, menu and an application-wide key.
+        QCOMPARE(stop->shortcutContext(), Qt::ApplicationShortcut);
+        QVERIFY(!stop->shortcut().isEmpty() && !stop->icon().isNull());
+        stop->trigger();
+        const QStringList four{"Sudden_Stop(0,0)", "Sudden_Stop(0,1)", "Sudden_Stop(0,2)",
+                               "Sudden_Stop(0,3)"};
+        QCOMPARE(rig.rm.calls({"Sudden_Stop"}), four);
+        QCOMPARE(rig.rn.calls({"Sudden_Stop"}).mid(0, 4), four);
+        QCOMPARE(rig.rn.count("Sudden_Stop"), 8);
+        QCOMPARE(rig.log, QStringList{"103:end"});
+        QVERIFY(!rig.state.active.anyAxesMoving());
+        QCOMPARE(rig.frame->statusBar()->currentMessage(), QStringLiteral("All axes stopped"));
     }
 
     void tree_contextMenuOnCardsDoubleClickUnderTheActiveCard()

@@ -1,11 +1,7 @@
-#include "BoardLoader.h"
 #include "COV_SnMtnPtpWnd.h"
+#include "SimRlBoard.h"
 #include "SnMtnWindowRig.h"
 
-#include <QDir>
-#include <QFile>
-#include <QLibrary>
-#include <QTemporaryDir>
 #include <QTest>
 
 // The single-axis window on the simulated RL board, with the board's clock and the window's
@@ -17,42 +13,20 @@ class TestSnMtnSim : public QObject
 private:
     struct Rig : SnMtnWindowRig
     {
-        QTemporaryDir folder;
-        BoardLoader loader{QStringLiteral(ORVANE_SIM_DIR)};
-        QLibrary extras{QDir(QStringLiteral(ORVANE_SIM_DIR))
-                            .filePath(BoardLoader::libraryFileName(BoardFamily::RL))};
+        SimRlBoard sim;
         nrx_i32 (*advanceClock)(nrx_i32) = nullptr;
 
-        // One RL card of 4 axes whose limit switches sit at +-6000 pulses, without Z marks.
-        bool start()
+        // RL cards of 4 axes whose limit switches sit at +-6000 pulses, without Z marks.
+        bool start(int cards = 1)
         {
-            QFile boards(folder.filePath(QStringLiteral("NrxSimBoards.ini")));
-            if (!boards.open(QIODevice::WriteOnly))
+            const QByteArray boards = "[RL]\nCards=" + QByteArray::number(cards) +
+                                      "\n[Axes]\nPlusLimit=6000\nMinusLimit=-6000\nZPeriod=0\n";
+            if (!sim.load(api, state, boards))
                 return false;
-            boards.write("[RL]\nCards=1\n[RL.Card0]\nAxes=4\nIO=16\n"
-                         "[Axes]\nPlusLimit=6000\nMinusLimit=-6000\nZPeriod=0\n");
-            boards.close();
-            loader.loadAll();
-            api.setTable(BoardFamily::RL, loader.table(BoardFamily::RL));
-            using Switch = nrx_i32 (*)(nrx_i32);
-            auto setManualClock =
-                reinterpret_cast<Switch>(extras.resolve("NRXSIM520L_SetManualClock"));
-            auto setDataFolder = reinterpret_cast<nrx_i32 (*)(const char*)>(
-                extras.resolve("NRXSIM520L_SetDataFolder"));
-            advanceClock = reinterpret_cast<Switch>(extras.resolve("NRXSIM520L_AdvanceClock"));
-            if (!api.hasLibrary(BoardFamily::RL) || !setManualClock || !setDataFolder ||
-                !advanceClock)
-                return false;
-            setManualClock(1);
-            setDataFolder(QFile::encodeName(folder.path()).constData());
-            const nrx_i32 result = api.LoadDevice(BoardFamily::RL);
-            state.registry.setLoadResult(BoardFamily::RL, result);
-            nrx_i32 reserved = 0, firmware = 0, axes = 0, info = 0, io = 0;
-            api.BoardInfo(BoardFamily::RL, 0, &reserved, &firmware, &axes, &info, &io);
-            state.registry.setCardInfo(BoardFamily::RL, 0, axes, info, io);
+            advanceClock = sim.advanceClock;
             state.active.axis = 1;
             open();
-            return result == 0 && axes == 4;
+            return state.registry.axisCount(BoardFamily::RL, 0) == 4;
         }
         ~Rig()
         {
@@ -80,6 +54,10 @@ private:
         bool runToEnd()
         {
             return runToEnd([] {});
+        }
+        void run(int ms)
+        {
+            clockwork.run(ms, [&] { advanceClock(1); });
         }
     };
 
@@ -164,6 +142,71 @@ private slots:
         QVERIFY(rig.runToEnd());
         QCOMPARE(rig.errorCode(), -620);
         QVERIFY(rig.prompt.messages().isEmpty());
+    }
+
+    void heldJog_stopsAtReleaseWhateverChangedMeanwhile_data()
+    {
+        QTest::addColumn<int>("change");
+        QTest::newRow("motion type") << 0;
+        QTest::newRow("tab") << 1;
+        QTest::newRow("axis") << 2;
+        QTest::newRow("window closed") << 3;
+    }
+    void heldJog_stopsAtReleaseWhateverChangedMeanwhile()
+    {
+        QFETCH(int, change);
+        Rig rig;
+        QVERIFY(rig.start());
+        rig.pointToPoint(MotionType::Jog);
+        rig.window->show();
+        QTest::mousePress(rig.button("plusButton"), Qt::LeftButton);
+        rig.run(50);
+        QVERIFY(rig.commandPosition() > 0);
+        // What a keyboard user can do while the button is held.
+        if (change == 0)
+            rig.choose("motionType", int(MotionType::Relative));
+        else if (change == 1)
+            rig.selectTab(MotionTab::Home);
+        else if (change == 2)
+            rig.choose("axisCombo", 2);
+        if (change == 3) {
+            rig.find<QComboBox>("axisCombo")->setFocus();
+            rig.window.reset();
+        } else {
+            QTest::mouseRelease(rig.button("plusButton"), Qt::LeftButton);
+        }
+        for (int ms = 0; ms < 2000 && rig.api.Done(BoardFamily::RL, 0, 1) != 0; ++ms)
+            rig.advanceClock(1);
+        QCOMPARE(rig.api.Done(BoardFamily::RL, 0, 1), 0);
+    }
+
+    void limitStop_reportedAfterTheActiveCardChanged()
+    {
+        Rig rig;
+        QVERIFY(rig.start(2));
+        rig.pointToPoint(MotionType::Relative);
+        rig.setText("position2", "50000");
+        rig.click("plusButton");
+        rig.run(20);
+        // The user makes card 1 active from the tree while axis 1 of card 0 runs.
+        rig.state.active.card = 1;
+        rig.window->handleUserMessage(UM_CONTROLLER_CHANGED, 0);
+        rig.click("sStopButton"); // stops card 1's axis and the running one of card 0
+        QVERIFY(rig.runToEnd());
+        QCOMPARE(rig.api.GetMotionErrCod(BoardFamily::RL, 0, 1), 0);
+        QVERIFY(rig.commandPosition() < 6000);
+
+        rig.state.active.card = 0;
+        rig.window->handleUserMessage(UM_CONTROLLER_CHANGED, 0);
+        rig.setText("position2", "50000");
+        rig.click("plusButton");
+        rig.run(20);
+        rig.state.active.card = 1;
+        rig.window->handleUserMessage(UM_CONTROLLER_CHANGED, 0);
+        QVERIFY(rig.runToEnd());
+        QCOMPARE(rig.errorCode(), -620);
+        QCOMPARE(rig.prompt.messages(),
+                 QStringList{"Abnormally stopped by positive hardware limit"});
     }
 };
 

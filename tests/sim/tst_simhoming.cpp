@@ -138,6 +138,18 @@ private slots:
         QCOMPARE(nrx_->GetDrvStatus(0, axis) & 0xFE00, stopBit);
     }
 
+    void builtInBoards_homeInEveryMode()
+    {
+        QTemporaryDir empty; // no boards file: the built-in set
+        for (int mode = 0; mode < 10; ++mode) {
+            QCOMPARE(lib_->loadIn(empty.path()), 1); // two RL cards
+            QVERIFY(!(nrx_->GetCardStatus(0, 1) & CardBit::Ez));
+            home(1, mode, Minus);
+            QVERIFY2(nrx_->GetMotionErrCod(0, 1) == 0, qPrintable(QString::number(mode)));
+            QVERIFY(nrx_->GetCardStatus(0, 1) & CardBit::HomeOk);
+        }
+    }
+
     void highSpeedModes_useTheHighSpeed()
     {
         const int low = home(0, 0, Minus);

@@ -33,6 +33,9 @@ ZPeriod=0
 [RL.Card0.Axis2]
 PlusLimit=20000
 MinusLimit=-20000
+[RL.Card0.Axis3]
+Slip=10
+ServoLag=0
 )";
 
 } // namespace
@@ -130,7 +133,9 @@ private slots:
         const int midway = rl_->GetCommandPos(0, 0);
         QVERIFY(qAbs(midway) > 0 && qAbs(midway) < qAbs(distance));
         QVERIFY((midway > 0) == (distance > 0));
-        QCOMPARE(rl_->GetActualPos(0, 0), midway);
+        // The servo trails the command by its following error: 2 ms at the drive speed.
+        const int trail = (midway - rl_->GetActualPos(0, 0)) * (distance > 0 ? 1 : -1);
+        QVERIFY2(qAbs(trail - 2 * actualDrive / 1000) <= 2, qPrintable(QString::number(trail)));
         QVERIFY(rl_->GetCardStatus(0, 0) & CardBit::Run);
         QVERIFY(rl_->GetDrvStatus(0, 0) & DriveBit::Constant);
 
@@ -333,58 +338,65 @@ private slots:
         QVERIFY(rl_->GetCardStatus(0, 2) & CardBit::Emg);
     }
 
-    void multiMove_startsAndEndsTogether()
+    void multiMove_axesRunOnTheirOwnProfiles()
     {
         rl_->SetPosSpeed(0, 0, 100, 10000, 100, 100);
         rl_->SetPosSpeed(0, 1, 100, 40000, 300, 300);
-        rl_->SetPosSpeed(0, 3, 500, 5000, 50, 50);
-        const nrx_u16 axes[] = {0, 1, 3};
-        const nrx_i32 distances[] = {30000, -15000, 7500};
+        rl_->SetPosSpeed(0, 2, 500, 5000, 50, 50);
+        const nrx_u16 axes[] = {0, 1, 2};
+        const nrx_i32 distances[] = {30000, -15000, 30000};
         rl_->Multi_Inc_Move(0, 3, axes, distances);
-        advance(1000);
-        // On one line: every axis has covered the same share of its distance.
-        const double share = rl_->GetCommandPos(0, 0) / 30000.0;
-        QVERIFY(share > 0.1 && share < 0.9);
-        QVERIFY(qAbs(rl_->GetCommandPos(0, 1) / -15000.0 - share) < 0.001);
-        QVERIFY(qAbs(rl_->GetCommandPos(0, 3) / 7500.0 - share) < 0.001);
-        int ms = 0;
-        while (rl_->Multi_Done(0, 3, axes) && ms < 20000) {
-            for (const int a : axes)
-                QVERIFY(rl_->Done(0, a)); // no axis ends before the others
+        advance(1);
+        // Same distance, own speeds: axis 0 runs at 10000 pps while axis 2 runs at 5000.
+        advance(999);
+        QVERIFY(rl_->GetCommandPos(0, 0) > rl_->GetCommandPos(0, 2) + 3000);
+        int endOf[3] = {0, 0, 0};
+        for (int ms = 1000; rl_->Multi_Done(0, 3, axes) && ms < 20000; ++ms) {
+            for (int i = 0; i < 3; ++i) {
+                if (endOf[i] == 0 && rl_->Done(0, axes[i]) == 0)
+                    endOf[i] = ms;
+            }
             advance(1);
-            ++ms;
         }
-        for (int i = 0; i < 3; ++i) {
-            QCOMPARE(rl_->GetCommandPos(0, axes[i]), distances[i]);
-            QCOMPARE(rl_->GetMotionErrCod(0, axes[i]), 0);
-        }
-
-        // Absolute targets; one axis hitting its limit stops the whole line.
-        const nrx_u16 pair[] = {0, 2};
-        const nrx_i32 targets[] = {0, 30000};
-        rl_->Multi_Abs_Move(0, 2, pair, targets);
-        runUntilDone(0, 2);
-        QCOMPARE(rl_->Done(0, 0), 0);
+        // Axis 1 is quickest; axis 2 meets its + limit and stops alone with its own code.
+        QVERIFY(endOf[1] < endOf[0]);
+        QCOMPARE(rl_->GetCommandPos(0, 0), 30000);
+        QCOMPARE(rl_->GetCommandPos(0, 1), -15000);
+        QCOMPARE(rl_->GetMotionErrCod(0, 0), 0);
+        QCOMPARE(rl_->GetMotionErrCod(0, 1), 0);
         QCOMPARE(rl_->GetMotionErrCod(0, 2), -620);
-        QCOMPARE(rl_->GetMotionErrCod(0, 0), -9999);
-        QVERIFY(rl_->GetCommandPos(0, 0) > 0 && rl_->GetCommandPos(0, 0) < 30000);
+        QVERIFY(rl_->GetCommandPos(0, 2) < 30000);
+        // At rest command and actual agree again.
+        QCOMPARE(rl_->GetActualPos(0, 0), 30000);
     }
 
-    void multiStop_rampsEveryAxisDown()
+    void multiStop_stopsEachListedAxisOnly()
     {
         const nrx_u16 axes[] = {0, 1};
         const nrx_i32 distances[] = {1000000, 500000};
         rl_->Multi_Inc_Move(0, 2, axes, distances);
-        advance(2000);
+        advance(500);
+        rl_->Sudden_Stop(0, 1);
+        QCOMPARE(rl_->Done(0, 1), 0);
+        QVERIFY(rl_->Done(0, 0));
         rl_->Multi_Decel_Stop(0, 2, axes);
         QVERIFY(rl_->Multi_Done(0, 2, axes));
         advance(200);
         QCOMPARE(rl_->Multi_Done(0, 2, axes), 0);
-        QVERIFY(qAbs(rl_->GetCommandPos(0, 0) - 2 * rl_->GetCommandPos(0, 1)) <= 2);
-        rl_->Multi_Inc_Move(0, 2, axes, distances);
-        advance(500);
-        rl_->Sudden_Stop(0, 1); // one axis of the line stops them all
-        QCOMPARE(rl_->Multi_Done(0, 2, axes), 0);
+        QCOMPARE(rl_->GetMotionErrCod(0, 0), 0);
+    }
+
+    void slippingAxis_losesActualPulses()
+    {
+        rl_->SetPosSpeed(0, 3, 100, 10000, 100, 100);
+        rl_->Inc_Move(0, 3, 20000);
+        runUntilDone(0, 3);
+        QCOMPARE(rl_->GetCommandPos(0, 3), 20000);
+        QCOMPARE(rl_->GetActualPos(0, 3), 20000 - 200); // 10 per 1000
+        rl_->SetActualPos(0, 3, 0);
+        rl_->Inc_Move(0, 3, -1000);
+        runUntilDone(0, 3);
+        QCOMPARE(rl_->GetActualPos(0, 3), -990);
     }
 
     void counters_ringAndEncoder()
@@ -439,9 +451,8 @@ private slots:
         const nrx_u16 w = rn.GetMainStatus(0, 3);
         QCOMPARE(w & 0xFF, 0x03);
         QVERIFY(w & MainBit::RnServoOn);
-        QVERIFY(w & MainBit::RnInterpolationRun);
-        QVERIFY(rn.GetCardStatus(0, 0) & CardBit::InterpolationRun);
-        QVERIFY(!(rl_->GetCardStatus(0, 0) & CardBit::InterpolationRun));
+        // Multi-axis moves run independent axes, never an interpolation.
+        QVERIFY(!(w & MainBit::RnInterpolationRun));
     }
 
     void statusWords_inputWordAndOutputs()

@@ -1,0 +1,117 @@
+#pragma once
+
+#include "GantryWatch.h"
+#include "MotionPanel.h"
+#include "MotionSequencer.h"
+#include "MultiAxisForm.h"
+#include "MultiAxisSlots.h"
+#include "ToolContext.h"
+#include "ToolView.h"
+
+#include <QTimer>
+
+#include <memory>
+
+class JogReleaseGuard;
+class QtClockwork;
+class SequencerClockwork;
+
+// The multi-axis motion tool window: moves the checked axes of one card together by jog,
+// relative and absolute steps with repeat, with a gantry check that stops them all when two
+// neighbouring axes drift apart.
+class COV_MnMtnWnd : public ToolView, private MotionPanel
+{
+    Q_OBJECT
+
+public:
+    static constexpr int kListWatchIntervalMs = 10;
+
+    explicit COV_MnMtnWnd(const ToolContext& context, QWidget* parent = nullptr);
+    // Runs the sequences on the given timers and clock instead of its own.
+    COV_MnMtnWnd(const ToolContext& context, SequencerClockwork& clockwork,
+                 QWidget* parent = nullptr);
+    ~COV_MnMtnWnd() override;
+
+    ToolKind kind() const override { return ToolMultiAxis; }
+    void handleUserMessage(UserMessage message, int wParam) override;
+    void requestClose() override;
+    void endMotion() override { m_sequencer.endSequence(); }
+
+    MotionSequencer& sequencer() { return m_sequencer; }
+    // Timer 5: "All Axes", the checked axes and the editing controls follow the list.
+    void onListWatch();
+    // Timer 6: one period of the gantry check.
+    void onGantryTick() { m_gantry.tick(); }
+    const GantryWatch& gantry() const { return m_gantry; }
+    const std::vector<AxisNo>& checkedAxes() const { return m_checked; }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    COV_MnMtnWnd(const ToolContext& context, std::unique_ptr<QtClockwork> ownClockwork,
+                 SequencerClockwork* clockwork, QWidget* parent);
+
+    void connectControls();
+
+    BoardFamily family() const;
+    void fillCardCombo();
+    void reload();
+    void loadProfilesFromBoard();
+    void showFocusedFields();
+    PtpSpeeds profileFields() const;
+    void writeProfiles(const std::vector<AxisNo>& axes, MotionType type);
+    void setParameters();
+    void applyPositions();
+    bool profileChanged(BoardFamily family) const;
+    void promptIfChanged(BoardFamily family);
+    bool focusedChecked(bool tell);
+    void updateServoCaption();
+    void layoutMotionButtons();
+    void pressMotion(MotionDirection direction);
+    void onFocusChanged(int row);
+    void onMotionTypeChanged(int index);
+    void onServoClicked();
+    void checkGantry();
+    void onErrorLimitEdited(const QString& text);
+    void forEachChecked(const std::function<void(AxisNo)>& act);
+    bool closePrompted();
+
+    // MotionPanel
+    MotionTab currentTab() const override { return MotionTab::PointToPoint; }
+    MotionType motionType() const override;
+    bool repeatTicked() const override;
+    bool infiniteTicked() const override;
+    MotionAxes selectedAxes() const override;
+    RepeatFields takeRepeatFields() override;
+    std::vector<AxisPositions> takePositions(const MotionAxes& target,
+                                             const RepeatFields& fields) override;
+    void writeSpeeds(const MotionAxes& target, MotionType type) override;
+    void writeHomeSettings(const MotionAxes&) override {}
+    void showCycle(int elapsedMs, int cycleCount) override;
+    void clearCycleDisplay() override;
+    void setSequenceLocked(bool locked) override;
+
+    MultiAxisForm m_form;
+    ToolContext m_context;
+    std::unique_ptr<QtClockwork> m_ownClockwork;
+    MotionSequencer m_sequencer;
+    MultiAxisSlots m_slots;
+
+    CardNo m_card = 0;
+    int m_axisCount = 0;
+    int m_focused = 0;
+    std::vector<AxisNo> m_checked;
+    bool m_listChanged = true;
+    int m_editingState = -1; // what the list watch last gave the editing controls
+    std::int32_t m_errorLimit = 100;
+    QString m_lastValidLimit = QStringLiteral("100");
+    bool m_closeConfirmed = false;
+
+    QTimer m_listWatch;
+    GantryWatch m_gantry;
+
+    JogReleaseGuard* m_jogGuard = nullptr;
+};

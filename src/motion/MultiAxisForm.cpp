@@ -1,0 +1,205 @@
+#include "MultiAxisForm.h"
+
+#include "PageFieldGrid.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace {
+const QString kPps = QStringLiteral("[pps]");
+const QString kMsec = QStringLiteral("[msec]");
+const QString kPulse = QStringLiteral("[pulse]");
+
+QPushButton* makeButton(const QString& caption, const char* name)
+{
+    auto* button = new QPushButton(caption);
+    button->setObjectName(QLatin1String(name));
+    button->setAutoDefault(false);
+    return button;
+}
+
+QCheckBox* makeCheckBox(const QString& caption, const char* name)
+{
+    auto* box = new QCheckBox(caption);
+    box->setObjectName(QLatin1String(name));
+    return box;
+}
+// Narrows a field group: captions at their own width, short edits, and no button column
+// unless the group has buttons.
+void compact(QGroupBox* group, bool buttons)
+{
+    auto* grid = static_cast<QGridLayout*>(group->layout());
+    grid->setColumnMinimumWidth(0, 0);
+    if (!buttons)
+        grid->setColumnMinimumWidth(3, 0);
+    for (QLineEdit* edit : group->findChildren<QLineEdit*>())
+        edit->setMaximumWidth(90);
+}
+
+// A row across the whole group below its fields.
+void addSpanningRow(QGroupBox* group, QWidget* first, QWidget* second)
+{
+    auto* grid = static_cast<QGridLayout*>(group->layout());
+    auto* row = new QHBoxLayout;
+    row->addWidget(first);
+    row->addStretch();
+    row->addWidget(second);
+    grid->addLayout(row, grid->rowCount(), 0, 1, grid->columnCount());
+}
+} // namespace
+
+MultiAxisForm::MultiAxisForm(QWidget* window)
+{
+    // Three narrow columns, so the window fits beside the docked panes on a small screen.
+    auto* layout = new QHBoxLayout(window);
+    auto* left = new QVBoxLayout;
+    left->addWidget(createAxisColumn());
+    left->addWidget(createCounterGroup());
+    left->addWidget(createGantryGroup());
+    left->addStretch();
+    layout->addLayout(left);
+    auto* middle = new QVBoxLayout;
+    middle->addWidget(createProfileGroup());
+    middle->addWidget(createRepeatGroup());
+    middle->addStretch();
+    layout->addLayout(middle);
+    layout->addWidget(createButtonColumn());
+}
+
+QWidget* MultiAxisForm::createAxisColumn()
+{
+    auto* column = new QWidget;
+    auto* layout = new QVBoxLayout(column);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto* cardRow = new QHBoxLayout;
+    cardCombo = new QComboBox;
+    cardCombo->setObjectName(QStringLiteral("cardCombo"));
+    cardRow->addWidget(new QLabel(QStringLiteral("Card No. : ")));
+    cardRow->addWidget(cardCombo, 1);
+    layout->addLayout(cardRow);
+    layout->addWidget(new QLabel(QStringLiteral("Select Axis")));
+    axisList = new QListWidget;
+    axisList->setObjectName(QStringLiteral("axisList"));
+    axisList->setToolTip(QStringLiteral("Tick the axes that move together; the highlighted "
+                                        "axis is the one the fields show"));
+    axisList->setMaximumHeight(8 * 19 + 6);
+    layout->addWidget(axisList);
+    allAxes = makeCheckBox(QStringLiteral(" All Axes"), "allAxes");
+    layout->addWidget(allAxes);
+    return column;
+}
+
+QWidget* MultiAxisForm::createProfileGroup()
+{
+    auto* group = new QGroupBox;
+    PageFieldGrid grid(group);
+    motionTypeCombo = new QComboBox;
+    motionTypeCombo->setObjectName(QStringLiteral("motionType"));
+    motionTypeCombo->addItems({QStringLiteral("0 : Jog"), QStringLiteral("1 : Relative"),
+                               QStringLiteral("2 : Absolute")});
+    grid.addRow(QStringLiteral(" Motion Type"), motionTypeCombo);
+    drive = grid.addField(QStringLiteral(" Drive Speed"), kPps, "driveSpeed");
+    initial = grid.addField(QStringLiteral(" Initial Speed"), kPps, "initialSpeed");
+    accel = grid.addField(QStringLiteral(" Accel Time"), kMsec, "accelTime", &accelLabel);
+    decel = grid.addField(QStringLiteral(" Decel Time"), kMsec, "decelTime");
+    setAll = makeCheckBox(QStringLiteral(" Set All Selected Axes"), "setAll");
+    setPrm = makeButton(QStringLiteral("Set Prm"), "setPrmButton");
+    addSpanningRow(group, setAll, setPrm);
+    compact(group, false);
+    return group;
+}
+
+QWidget* MultiAxisForm::createRepeatGroup()
+{
+    auto* group = new QGroupBox;
+    PageFieldGrid grid(group);
+    repeat = makeCheckBox(QStringLiteral(" Repeat"), "repeat");
+    infinite = makeCheckBox(QStringLiteral("Infinite"), "infinite");
+    grid.addRow(repeat, infinite);
+    count = grid.addField(QStringLiteral(" Count"), QString(), "count");
+    delay = grid.addField(QStringLiteral(" Delay Time"), kMsec, "delayTime");
+    position1 = grid.addField(QStringLiteral(" Position 1"), kPulse, "position1");
+    position2 = grid.addField(QStringLiteral(" Position 2"), kPulse, "position2", &position2Label);
+    applyAll = makeCheckBox(QStringLiteral(" Apply All Selected Axes"), "applyAll");
+    apply = makeButton(QStringLiteral("Apply"), "applyButton");
+    addSpanningRow(group, applyAll, apply);
+    compact(group, false);
+    return group;
+}
+
+QWidget* MultiAxisForm::createCounterGroup()
+{
+    auto* group = new QGroupBox;
+    PageFieldGrid grid(group);
+    setCommand = grid.addField(QStringLiteral(" Set Command"), kPulse, "setCommand");
+    commandButton = grid.addButton(QStringLiteral("Command"), "commandButton");
+    setActual = grid.addField(QStringLiteral(" Set Actual"), kPulse, "setActual");
+    actualButton = grid.addButton(QStringLiteral("Actual"), "actualButton");
+    repeatCount = grid.addField(QStringLiteral(" Repeat Count"), QString(), "repeatCount");
+    cycleTime = grid.addField(QStringLiteral(" Cycle Time"), kMsec, "cycleTime");
+    for (QLineEdit* display : {repeatCount, cycleTime})
+        display->setReadOnly(true);
+    compact(group, true);
+    return group;
+}
+
+QWidget* MultiAxisForm::createGantryGroup()
+{
+    auto* group = new QGroupBox;
+    PageFieldGrid grid(group);
+    gantryBox = makeCheckBox(QStringLiteral(" Gantry Error Check"), "gantryCheck");
+    gantryBox->setToolTip(QStringLiteral("Every millisecond while the axes move, compare "
+                                         "each checked axis with the next; stop them all "
+                                         "when two differ by more than the error limit"));
+    grid.addRow(gantryBox, new QWidget);
+    gantrySource = new QComboBox;
+    gantrySource->setObjectName(QStringLiteral("gantrySource"));
+    gantrySource->addItems({QStringLiteral("0 : Command"), QStringLiteral("1 : Actual")});
+    grid.addRow(QStringLiteral(" Position"), gantrySource);
+    errorLimitEdit = grid.addField(QStringLiteral(" Error Limit "), kPulse, "errorLimit");
+    compact(group, false);
+    return group;
+}
+
+QWidget* MultiAxisForm::createButtonColumn()
+{
+    auto* column = new QWidget;
+    auto* layout = new QVBoxLayout(column);
+    layout->setContentsMargins(0, 0, 0, 0);
+    eStop = makeButton(QStringLiteral("E-Stop"), "eStopButton");
+    sStop = makeButton(QStringLiteral("S-Stop"), "sStopButton");
+    eStop->setToolTip(QStringLiteral("Stop the checked axes at once"));
+    sStop->setToolTip(QStringLiteral("Stop the checked axes with their deceleration"));
+    servo = makeButton(QStringLiteral("Servo On"), "servoButton");
+    minus = makeButton(QStringLiteral("-Jog"), "minusButton");
+    plus = makeButton(QStringLiteral("+Jog"), "plusButton");
+    alarmReset = makeButton(QStringLiteral("Alarm Reset"), "alarmResetButton");
+    counterClear = makeButton(QStringLiteral("Counter Clear"), "counterClearButton");
+    parameterSetup = makeButton(QStringLiteral("Parameter Setup"), "parameterSetupButton");
+    close = makeButton(QStringLiteral("Close"), "closeButton");
+    for (QPushButton* big : {eStop, sStop})
+        big->setMinimumHeight(40);
+    for (QPushButton* big : {minus, plus})
+        big->setMinimumHeight(48);
+    for (QPushButton* button : {eStop, sStop, servo})
+        layout->addWidget(button);
+    layout->addSpacing(12);
+    auto* motionRow = new QHBoxLayout;
+    motionRow->addWidget(minus, 1);
+    motionRow->addWidget(plus, 1);
+    layout->addLayout(motionRow);
+    layout->addSpacing(12);
+    for (QPushButton* button : {alarmReset, counterClear, parameterSetup})
+        layout->addWidget(button);
+    layout->addStretch();
+    layout->addWidget(close);
+    return column;
+}

@@ -1,0 +1,190 @@
+#include "AppState.h"
+#include "COV_MnMtnWnd.h"
+#include "ManualClockwork.h"
+#include "RecordingFrame.h"
+#include "ScriptedPrompt.h"
+#include "SimRlBoard.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTest>
+
+#include <memory>
+
+// The multi-axis window on a simulated RL card of four axes, whose axis 3 slips 20 pulses in
+// every 1000; board, window timers and the gantry check move on together a millisecond at a
+// time.
+class TestMnMtnSim : public QObject
+{
+    Q_OBJECT
+
+private:
+    struct Rig
+    {
+        BoardApi api;
+        AppState state;
+        ScriptedPrompt prompt;
+        RecordingFrame frame;
+        ManualClockwork clockwork;
+        ToolContext context{state, api, prompt, frame};
+        SimRlBoard sim;
+        std::unique_ptr<COV_MnMtnWnd> window;
+
+        bool start()
+        {
+            if (!sim.load(api, state,
+                          "[RL]\nCards=1\n[Axes]\nPlusLimit=900000\nMinusLimit=-900000\n"
+                          "[RL.Card0.Axis3]\nSlip=20\n"))
+                return false;
+            window = std::make_unique<COV_MnMtnWnd>(context, clockwork);
+            return true;
+        }
+        ~Rig()
+        {
+            window.reset();
+            api.UnloadDevice(BoardFamily::RL);
+        }
+        template <typename T> T* find(const char* name) const
+        {
+            return window->findChild<T*>(QLatin1String(name));
+        }
+        void setText(const char* name, const QString& text) const
+        {
+            find<QLineEdit>(name)->setText(text);
+        }
+        void check(std::initializer_list<int> rows) const
+        {
+            for (int row : rows)
+                find<QListWidget>("axisList")->item(row)->setCheckState(Qt::Checked);
+        }
+        void focus(int row) const { find<QListWidget>("axisList")->setCurrentRow(row); }
+        void choose(const char* name, int index) const
+        {
+            auto* combo = find<QComboBox>(name);
+            combo->setCurrentIndex(index);
+            emit combo->activated(index);
+        }
+        // The focused axis's profile, written to it alone.
+        void setSpeed(int row, int drive)
+        {
+            focus(row);
+            setText("driveSpeed", QString::number(drive));
+            setText("initialSpeed", "100");
+            setText("accelTime", "100");
+            setText("decelTime", "100");
+            find<QPushButton>("setPrmButton")->click();
+        }
+        // Runs until the sequence is over (at most a minute).
+        bool runToEnd()
+        {
+            for (int ms = 0; ms < 60000; ++ms) {
+                if (!window->sequencer().isMoving() && !clockwork.anyActive())
+                    return true;
+                clockwork.run(1, [&] {
+                    sim.advanceClock(1);
+                    window->onGantryTick();
+                });
+            }
+            return false;
+        }
+        std::int32_t position(int axis)
+        {
+            return api.GetCommandPos(BoardFamily::RL, 0, static_cast<AxisNo>(axis));
+        }
+    };
+
+private slots:
+    void relativeRepeat_gantryCheck_data()
+    {
+        QTest::addColumn<int>("axis2Drive"); // the others run at 10000 pps
+        QTest::addColumn<bool>("withSlipping");
+        QTest::addColumn<int>("source");
+        QTest::addColumn<int>("axis1Start");
+        QTest::addColumn<int>("limit");
+        QTest::addColumn<bool>("trips");
+        QTest::newRow("equal profiles") << 10000 << false << 0 << 0 << 0 << false;
+        QTest::newRow("other drive speed") << 20000 << false << 0 << 0 << 50 << true;
+        QTest::newRow("slip, command") << 10000 << true << 0 << 0 << 50 << false;
+        QTest::newRow("slip, actual") << 10000 << true << 1 << 0 << 50 << true;
+        QTest::newRow("deviation at the limit") << 10000 << false << 0 << 40 << 40 << false;
+        QTest::newRow("deviation over it") << 10000 << false << 0 << 41 << 40 << true;
+    }
+    void relativeRepeat_gantryCheck()
+    {
+        QFETCH(int, axis2Drive);
+        QFETCH(bool, withSlipping);
+        QFETCH(int, source);
+        QFETCH(int, axis1Start);
+        QFETCH(int, limit);
+        QFETCH(bool, trips);
+        Rig rig;
+        QVERIFY(rig.start());
+        const QList<int> axes = {0, 1, withSlipping ? 3 : 2};
+        rig.choose("motionType", int(MotionType::Relative));
+        rig.check({axes[0], axes[1], axes[2]});
+        rig.find<QCheckBox>("setAll")->setChecked(false);
+        rig.api.SetCommandPos(BoardFamily::RL, 0, 1, axis1Start);
+        rig.setSpeed(axes[2], axis2Drive);
+        rig.setSpeed(axes[1], 10000);
+        rig.setSpeed(axes[0], 10000);
+        rig.find<QCheckBox>("repeat")->click();
+        rig.setText("count", "3");
+        rig.setText("delayTime", "50");
+        rig.setText("position2", "20000");
+        rig.find<QPushButton>("applyButton")->click();
+        rig.choose("gantrySource", source);
+        rig.setText("errorLimit", QString::number(limit));
+        emit rig.find<QLineEdit>("errorLimit")->textEdited(QString::number(limit));
+        rig.find<QCheckBox>("gantryCheck")->setChecked(true);
+        QTest::mouseClick(rig.find<QPushButton>("plusButton"), Qt::LeftButton);
+        QVERIFY(rig.state.active.axesMoving[1] != 0);
+        QVERIFY(rig.runToEnd());
+        QVERIFY(rig.state.active.axesMoving[1] == 0);
+        if (trips) {
+            QCOMPARE(rig.prompt.messages(), QStringList{"Gantry Limit Error !"});
+            for (int axis : axes)
+                QVERIFY(rig.position(axis) < 20000 + axis1Start);
+        } else {
+            QVERIFY(rig.prompt.messages().isEmpty());
+            QCOMPARE(rig.position(axes[0]), 60000);
+            QCOMPARE(rig.position(axes[2]), 60000);
+        }
+    }
+
+    void preconditions_andAHeldJogStopsAtRelease()
+    {
+        Rig rig;
+        QVERIFY(rig.start());
+        auto* plus = rig.find<QPushButton>("plusButton");
+        rig.check({1});
+        QTest::mouseClick(plus, Qt::LeftButton); // the focused row 0 is not checked
+        rig.find<QPushButton>("eStopButton")->click();
+        rig.focus(1);
+        QTest::mouseClick(plus, Qt::LeftButton);
+        const QString notChecked =
+            QStringLiteral("Selected axis in not checked !\n Please check selected axis !");
+        QCOMPARE(rig.prompt.messages(),
+                 (QStringList{notChecked, notChecked, "Please Select at least 2 axes !"}));
+
+        // Jog two axes; the user unchecks one and changes the motion type before letting go.
+        rig.check({2});
+        QTest::mousePress(plus, Qt::LeftButton);
+        rig.clockwork.run(100, [&] { rig.sim.advanceClock(1); });
+        QVERIFY(rig.position(1) > 0 && rig.position(2) > 0);
+        rig.find<QListWidget>("axisList")->item(2)->setCheckState(Qt::Unchecked);
+        rig.window->onListWatch();
+        QVERIFY(!rig.find<QCheckBox>("allAxes")->isChecked());
+        rig.choose("motionType", int(MotionType::Absolute));
+        QTest::mouseRelease(plus, Qt::LeftButton);
+        QVERIFY(rig.runToEnd());
+        QCOMPARE(rig.api.Done(BoardFamily::RL, 0, 1), 0);
+        QCOMPARE(rig.api.Done(BoardFamily::RL, 0, 2), 0);
+        QCOMPARE(rig.prompt.messages().size(), 3);
+    }
+};
+
+QTEST_MAIN(TestMnMtnSim)
+#include "tst_mnmtnsim.moc"
