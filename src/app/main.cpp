@@ -1,3 +1,4 @@
+#include "COV_ActSpdCalDlg.h"
 #include "COV_SnMtnWnd.h"
 #include "COrvaneApp.h"
 
@@ -12,5 +13,10 @@ int main(int argc, char* argv[])
                                    [](const ToolContext& context, QWidget* parent) -> ToolView* {
                                        return new COV_SnMtnWnd(context, parent);
                                    });
+    app.toolWindows().registerCommand(FrameCommand::ActualSpeedCalculator,
+                                      [](const ToolContext& context, QWidget* parent) {
+                                          COV_ActSpdCalDlg dialog(context, parent);
+                                          dialog.exec();
+                                      });
     return app.run();
 }
