@@ -1,5 +1,7 @@
 #include "COV_ActSpdCalDlg.h"
+#include "COV_SavePrmDlg.h"
 #include "COV_SnMtnWnd.h"
+#include "COV_SysRstDlg.h"
 #include "COrvaneApp.h"
 
 #include <QApplication>
@@ -16,6 +18,16 @@ int main(int argc, char* argv[])
     app.toolWindows().registerCommand(FrameCommand::ActualSpeedCalculator,
                                       [](const ToolContext& context, QWidget* parent) {
                                           COV_ActSpdCalDlg dialog(context, parent);
+                                          dialog.exec();
+                                      });
+    app.toolWindows().registerCommand(FrameCommand::SaveParameter,
+                                      [](const ToolContext& context, QWidget* parent) {
+                                          COV_SavePrmDlg dialog(context, parent);
+                                          dialog.exec();
+                                      });
+    app.toolWindows().registerCommand(FrameCommand::SystemReset,
+                                      [](const ToolContext& context, QWidget* parent) {
+                                          COV_SysRstDlg dialog(context, parent);
                                           dialog.exec();
                                       });
     return app.run();
