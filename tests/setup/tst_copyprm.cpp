@@ -1,0 +1,281 @@
+#include "AppState.h"
+#include "BoardApi.h"
+#include "COV_CopyPrmDlg.h"
+#include "CardTypeSelector.h"
+#include "RecordingFrame.h"
+#include "ScriptedPrompt.h"
+#include "SimLibrary.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QTableWidget>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <functional>
+#include <memory>
+
+// Copying a page of parameters on the simulated boards: the values land on the ticked axes
+// of the target card, also across families, with the RN stop-filter rule and the card's EMG
+// level; and the dialog's lists.
+class TestCopyPrm : public QObject
+{
+    Q_OBJECT
+
+private:
+    // RL: one card of 4 axes; RM: one card of 8; RN: two cards of 4.
+    struct Rig
+    {
+        QTemporaryDir folder;
+        std::unique_ptr<SimLibrary> libs[kFamilyCount];
+        AppState state;
+        BoardApi api;
+        ScriptedPrompt prompt;
+        RecordingFrame frame;
+        ToolContext context{state, api, prompt, frame};
+
+        bool start()
+        {
+            if (!SimLibrary::writeBoards(folder.path(), "[RL]\nCards=1\n[RL.Card0]\nAxes=4\n"
+                                                        "[RM]\nCards=1\n[RM.Card0]\nAxes=8\n"
+                                                        "[RN]\nCards=2\n[RN.Card0]\nAxes=4\n"
+                                                        "[RN.Card1]\nAxes=4\n"))
+                return false;
+            for (BoardFamily family : kAllFamilies) {
+                auto& lib = libs[familyIndex(family)];
+                lib = std::make_unique<SimLibrary>(familyIndex(family));
+                const int result = lib->loadIn(folder.path());
+                state.registry.setLoadResult(family, result);
+                for (int card = 0; card <= result; ++card) {
+                    nrx_i32 reserved = 0, firmware = 0, axes = 0, info = 0, io = 0;
+                    lib->nrx.BoardInfo(card, &reserved, &firmware, &axes, &info, &io);
+                    state.registry.setCardInfo(family, CardNo(card), axes, info, io);
+                }
+                api.setTable(family, &lib->nrx);
+            }
+            return state.registry.cardCount(BoardFamily::RN) == 2;
+        }
+        NrxFunctionTable& board(BoardFamily family) { return libs[familyIndex(family)]->nrx; }
+
+        // A page's values of one axis as the board holds them (the stop filter apart).
+        QList<int> page(int page, BoardFamily family, int card, int axis)
+        {
+            NrxFunctionTable& b = board(family);
+            const nrx_u16 c = nrx_u16(card), a = nrx_u16(axis);
+            nrx_u16 u[6] = {};
+            nrx_i32 v[4] = {};
+            switch (page) {
+            case 0:
+                b.GetSvAlm(c, a, &u[0], &u[1]);
+                b.GetSvInpos(c, a, &u[2], &u[3]);
+                b.GetHlmt(c, a, &u[4], &u[5]);
+                {
+                    nrx_u16 clearUse = 0, clearLevel = 0;
+                    b.GetSvCClr(c, a, &clearUse, &clearLevel);
+                    return {u[0],
+                            u[1],
+                            u[2],
+                            u[3],
+                            u[4],
+                            u[5],
+                            b.GetOrg(c, a),
+                            b.GetEncoderZ(c, a),
+                            clearUse,
+                            clearLevel,
+                            b.GetSvCClrTime(c, a)};
+                }
+            case 1:
+                b.GetSlmt(c, a, &v[0], &v[1], &u[0]);
+                b.GetCounterRing(c, a, &v[2], &v[3], &u[1]);
+                return {b.GetRangeMode(c, a),
+                        b.GetFixedRange(c, a),
+                        b.GetSpeedMode(c, a),
+                        b.GetPulseMode(c, a),
+                        b.GetEncoderDir(c, a),
+                        b.GetEncoderMode(c, a),
+                        b.GetHomeDir(c, a),
+                        b.GetCompCountMode(c, a),
+                        v[0],
+                        v[1],
+                        u[0],
+                        v[2],
+                        v[3],
+                        u[1]};
+            default:
+                return {b.GetFilterTime(c, a), b.GetFilterSensor(c, a), b.GetFilterSvIF(c, a),
+                        b.GetFilterEncoderZ(c, a), b.GetFilterExt(c, a)};
+            }
+        }
+        // Values unlike any default, different per seed.
+        void setPage(int page, BoardFamily family, int card, int axis, int seed)
+        {
+            NrxFunctionTable& b = board(family);
+            const nrx_u16 c = nrx_u16(card), a = nrx_u16(axis);
+            const auto s = [seed](int k) { return nrx_u16(seed + k); };
+            switch (page) {
+            case 0:
+                b.SetSvAlm(c, a, s(1), s(2));
+                b.SetSvInpos(c, a, s(3), s(4));
+                b.SetHlmt(c, a, s(5), s(6));
+                b.SetOrg(c, a, s(7));
+                b.SetEncoderZ(c, a, s(8));
+                b.SetSvCClr(c, a, s(9), s(10));
+                b.SetSvCClrTime(c, a, s(11));
+                break;
+            case 1:
+                b.SetRangeMode(c, a, s(1));
+                b.SetFixedRange(c, a, s(2));
+                b.SetSpeedMode(c, a, s(3));
+                b.SetPulseMode(c, a, s(4));
+                b.SetEncoderDir(c, a, s(5));
+                b.SetEncoderMode(c, a, s(6));
+                b.SetHomeDir(c, a, s(7));
+                b.SetCompCountMode(c, a, s(8));
+                b.SetSlmt(c, a, 1000 * seed, -2000 * seed, s(9));
+                b.SetCounterRing(c, a, 3000 * seed, 4000 * seed, s(10));
+                break;
+            default:
+                b.SetFilterTime(c, a, s(1));
+                b.SetFilterSensor(c, a, s(2));
+                b.SetFilterSvIF(c, a, s(3));
+                b.SetFilterEncoderZ(c, a, s(4));
+                b.SetFilterExt(c, a, s(5));
+                if (family == BoardFamily::RN)
+                    b.SetFilterStop(c, a, s(6));
+                break;
+            }
+        }
+    };
+
+    static void choose(QComboBox* list, int index)
+    {
+        list->setCurrentIndex(index);
+        emit list->activated(index);
+    }
+
+private slots:
+    void copy_landsThePageOnTheTickedTargetAxes_data()
+    {
+        QTest::addColumn<int>("page");
+        QTest::addColumn<BoardFamily>("from");
+        QTest::addColumn<int>("fromCard");
+        QTest::addColumn<int>("fromAxis");
+        QTest::addColumn<BoardFamily>("to");
+        QTest::addColumn<int>("toCard");
+        QTest::addColumn<QList<int>>("ticked");
+        QTest::addColumn<bool>("toAll");
+        using F = BoardFamily;
+        QTest::newRow("system io RL to RM")
+            << 0 << F::RL << 0 << 2 << F::RM << 0 << QList<int>{1, 6} << false;
+        QTest::newRow("system io, no row ticked")
+            << 0 << F::RN << 1 << 3 << F::RL << 0 << QList<int>{} << false;
+        QTest::newRow("motion RM to RL, to all")
+            << 1 << F::RM << 0 << 7 << F::RL << 0 << QList<int>{0, 1, 2, 3} << true;
+        QTest::newRow("motion RN onto itself")
+            << 1 << F::RN << 1 << 2 << F::RN << 1 << QList<int>{2, 3} << false;
+        QTest::newRow("filter RN to RN")
+            << 2 << F::RN << 0 << 1 << F::RN << 1 << QList<int>{0, 3} << false;
+        QTest::newRow("filter RL to RN")
+            << 2 << F::RL << 0 << 3 << F::RN << 1 << QList<int>{0, 1, 2} << false;
+        QTest::newRow("filter RN to RM")
+            << 2 << F::RN << 1 << 0 << F::RM << 0 << QList<int>{5} << false;
+    }
+    void copy_landsThePageOnTheTickedTargetAxes()
+    {
+        QFETCH(int, page);
+        QFETCH(BoardFamily, from);
+        QFETCH(int, fromCard);
+        QFETCH(int, fromAxis);
+        QFETCH(BoardFamily, to);
+        QFETCH(int, toCard);
+        QFETCH(QList<int>, ticked);
+        QFETCH(bool, toAll);
+        Rig rig;
+        QVERIFY(rig.start());
+        // The RN stop filters that a copy from another family reads: RN card fromCard.
+        for (int axis = 0; axis < 4; ++axis)
+            rig.board(BoardFamily::RN)
+                .SetFilterStop(nrx_u16(fromCard), nrx_u16(axis), nrx_u16(50 + axis));
+        rig.setPage(page, from, fromCard, fromAxis, 20);
+        rig.board(from).SetEmergency(nrx_u16(fromCard), 1);
+        const QList<int> source = rig.page(page, from, fromCard, fromAxis);
+        const int toAxes = rig.state.registry.axisCount(to, toCard);
+        QList<QList<int>> before;
+        for (int axis = 0; axis < toAxes; ++axis)
+            before << rig.page(page, to, toCard, axis);
+
+        rig.state.active.family = from;
+        COV_CopyPrmDlg dialog(rig.context, CardNo(fromCard), AxisNo(fromAxis), page);
+        QCOMPARE(dialog.sourceAxisList()->currentIndex(), fromAxis);
+        choose(dialog.targetSelector()->typeList(),
+               dialog.targetSelector()->typeList()->findText(familyDisplayName(to)));
+        choose(dialog.targetSelector()->cardList(), toCard);
+        // A new target card refills the source axis list, so the source is chosen last.
+        choose(dialog.sourceSelector()->cardList(), fromCard);
+        dialog.sourceAxisList()->setCurrentIndex(fromAxis);
+        QCOMPARE(dialog.axisRows()->rowCount(), toAxes);
+        if (toAll)
+            dialog.toAllBox()->click();
+        for (int row : ticked)
+            dialog.setRowTicked(row, true);
+        dialog.syncToAll();
+        QCOMPARE(dialog.toAllBox()->isChecked(), ticked.size() == toAxes);
+        dialog.copyAndClose();
+
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+        QCOMPARE(rig.frame.sent, (QList<QPair<int, int>>{{UM_VIEW_COMMAND, 102}}));
+        for (int axis = 0; axis < toAxes; ++axis) {
+            const bool copied = ticked.contains(axis);
+            QCOMPARE(rig.page(page, to, toCard, axis), copied ? source : before[axis]);
+            if (page == 2 && to == BoardFamily::RN && copied) {
+                const int stop = from == BoardFamily::RN ? 26 : 50 + axis;
+                QCOMPARE(int(rig.board(to).GetFilterStop(nrx_u16(toCard), nrx_u16(axis))), stop);
+            }
+        }
+        if (page == 0)
+            QCOMPARE(int(rig.board(to).GetEmergency(nrx_u16(toCard))), 1);
+    }
+
+    void lists_followTheirOddRules()
+    {
+        Rig rig;
+        QVERIFY(rig.start());
+        rig.state.active.family = BoardFamily::RN;
+        COV_CopyPrmDlg dialog(rig.context, 1, 2, 0);
+        CardTypeSelector* from = dialog.sourceSelector();
+        CardTypeSelector* to = dialog.targetSelector();
+        QCOMPARE(from->typeList()->count(), 3);
+        QCOMPARE(from->card(), 1);
+
+        // Another target family: card 0, that card's rows, none ticked.
+        choose(to->typeList(), 1);
+        QCOMPARE(to->card(), 0);
+        QCOMPARE(dialog.axisRows()->rowCount(), 8);
+        QCOMPARE(dialog.axisRows()->item(7, 0)->text(), QStringLiteral("7 Axis"));
+        QCOMPARE(dialog.axisRows()->item(7, 0)->checkState(), Qt::Unchecked);
+
+        // Another target card: the source card list decides, the source axes are refilled for
+        // that card of the target family, the rows stay.
+        choose(to->typeList(), 2);
+        dialog.setRowTicked(1, true);
+        choose(to->cardList(), 0);
+        QCOMPARE(dialog.targetAxisCount(), 4);
+        QCOMPARE(dialog.sourceAxisList()->count(), 4);
+        QCOMPARE(dialog.sourceAxisList()->currentIndex(), 0);
+        QCOMPARE(dialog.axisRows()->item(1, 0)->checkState(), Qt::Checked);
+
+        // " To All" ticks and unticks every row; the timer follows the rows.
+        dialog.toAllBox()->click();
+        dialog.syncToAll();
+        QVERIFY(dialog.toAllBox()->isChecked());
+        dialog.setRowTicked(3, false);
+        dialog.syncToAll();
+        QVERIFY(!dialog.toAllBox()->isChecked());
+        dialog.toAllBox()->click();
+        dialog.toAllBox()->click();
+        QCOMPARE(dialog.axisRows()->item(0, 0)->checkState(), Qt::Unchecked);
+    }
+};
+
+QTEST_MAIN(TestCopyPrm)
+#include "tst_copyprm.moc"
