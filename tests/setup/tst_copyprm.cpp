@@ -2,6 +2,8 @@
 #include "BoardApi.h"
 #include "COV_CopyPrmDlg.h"
 #include "CardTypeSelector.h"
+#include "ParameterCopy.h"
+#include "RecordingBoardSet.h"
 #include "RecordingFrame.h"
 #include "ScriptedPrompt.h"
 #include "SimLibrary.h"
@@ -234,6 +236,58 @@ private slots:
         }
         if (page == 0)
             QCOMPARE(int(rig.board(to).GetEmergency(nrx_u16(toCard))), 1);
+    }
+
+    void copy_callsTheBoardsInOrder_data()
+    {
+        QTest::addColumn<int>("page");
+        QTest::addColumn<QStringList>("sourceCalls");
+        QTest::addColumn<QStringList>("targetCalls");
+        const QStringList systemIoWrites = {
+            "SetSvAlm(1,%1,0,0)",  "SetSvInpos(1,%1,0,0)", "SetHlmt(1,%1,0,0)",    "SetOrg(1,%1,0)",
+            "SetEncoderZ(1,%1,0)", "SetSvCClr(1,%1,0,0)",  "SetSvCClrTime(1,%1,0)"};
+        const QStringList motionWrites = {"SetRangeMode(1,%1,0)",  "SetFixedRange(1,%1,0)",
+                                          "SetSpeedMode(1,%1,0)",  "SetPulseMode(1,%1,0)",
+                                          "SetEncoderDir(1,%1,0)", "SetEncoderMode(1,%1,0)",
+                                          "SetHomeDir(1,%1,0)",    "SetCompCountMode(1,%1,0)",
+                                          "SetSlmt(1,%1,0,0,0)",   "SetCounterRing(1,%1,0,0,0)"};
+        const QStringList filterWrites = {"SetFilterTime(1,%1,0)", "SetFilterSensor(1,%1,0)",
+                                          "SetFilterSvIF(1,%1,0)", "SetFilterEncoderZ(1,%1,0)",
+                                          "SetFilterExt(1,%1,0)",  "GetFilterStop(0,%1)",
+                                          "SetFilterStop(1,%1,0)"};
+        const auto forAxes = [](const QStringList& calls) {
+            QStringList all;
+            for (int axis : {0, 2})
+                for (const QString& call : calls)
+                    all << call.arg(axis);
+            return all;
+        };
+        QTest::newRow("system io")
+            << 0 << QStringList{"GetSvAlm(0,1,&,&)",  "GetSvInpos(0,1,&,&)", "GetHlmt(0,1,&,&)",
+                                "GetOrg(0,1)",        "GetEncoderZ(0,1)",    "GetSvCClr(0,1,&,&)",
+                                "GetSvCClrTime(0,1)", "GetEmergency(0)"}
+            << forAxes(systemIoWrites) + QStringList{"SetEmergency(1,0)"};
+        QTest::newRow("motion") << 1
+                                << QStringList{"GetRangeMode(0,1)",  "GetFixedRange(0,1)",
+                                               "GetSpeedMode(0,1)",  "GetPulseMode(0,1)",
+                                               "GetEncoderDir(0,1)", "GetEncoderMode(0,1)",
+                                               "GetHomeDir(0,1)",    "GetCompCountMode(0,1)",
+                                               "GetSlmt(0,1,&,&,&)", "GetCounterRing(0,1,&,&,&)"}
+                                << forAxes(motionWrites);
+        QTest::newRow("filter") << 2
+                                << QStringList{"GetFilterTime(0,1)", "GetFilterSensor(0,1)",
+                                               "GetFilterSvIF(0,1)", "GetFilterEncoderZ(0,1)",
+                                               "GetFilterExt(0,1)"}
+                                << forAxes(filterWrites);
+    }
+    void copy_callsTheBoardsInOrder()
+    {
+        QFETCH(int, page);
+        RecordingBoardSet boards;
+        ParameterCopy(boards.api).copy(page, {BoardFamily::RL, 0, 1}, {BoardFamily::RN, 1, {0, 2}});
+        QTEST(boards.rl.calls(), "sourceCalls");
+        QTEST(boards.rn.calls(), "targetCalls");
+        QVERIFY(boards.rm.calls().isEmpty());
     }
 
     void lists_followTheirOddRules()
