@@ -59,93 +59,31 @@ private:
         }
         NrxFunctionTable& board(BoardFamily family) { return libs[familyIndex(family)]->nrx; }
 
-        // A page's values of one axis as the board holds them (the stop filter apart).
-        QList<int> page(int page, BoardFamily family, int card, int axis)
+        // One setting of each page, read back as the board holds it.
+        QList<int> probe(int page, BoardFamily family, int card, int axis)
         {
             NrxFunctionTable& b = board(family);
             const nrx_u16 c = nrx_u16(card), a = nrx_u16(axis);
-            nrx_u16 u[6] = {};
-            nrx_i32 v[4] = {};
-            switch (page) {
-            case 0:
-                b.GetSvAlm(c, a, &u[0], &u[1]);
-                b.GetSvInpos(c, a, &u[2], &u[3]);
-                b.GetHlmt(c, a, &u[4], &u[5]);
-                {
-                    nrx_u16 clearUse = 0, clearLevel = 0;
-                    b.GetSvCClr(c, a, &clearUse, &clearLevel);
-                    return {u[0],
-                            u[1],
-                            u[2],
-                            u[3],
-                            u[4],
-                            u[5],
-                            b.GetOrg(c, a),
-                            b.GetEncoderZ(c, a),
-                            clearUse,
-                            clearLevel,
-                            b.GetSvCClrTime(c, a)};
-                }
-            case 1:
-                b.GetSlmt(c, a, &v[0], &v[1], &u[0]);
-                b.GetCounterRing(c, a, &v[2], &v[3], &u[1]);
-                return {b.GetRangeMode(c, a),
-                        b.GetFixedRange(c, a),
-                        b.GetSpeedMode(c, a),
-                        b.GetPulseMode(c, a),
-                        b.GetEncoderDir(c, a),
-                        b.GetEncoderMode(c, a),
-                        b.GetHomeDir(c, a),
-                        b.GetCompCountMode(c, a),
-                        v[0],
-                        v[1],
-                        u[0],
-                        v[2],
-                        v[3],
-                        u[1]};
-            default:
-                return {b.GetFilterTime(c, a), b.GetFilterSensor(c, a), b.GetFilterSvIF(c, a),
-                        b.GetFilterEncoderZ(c, a), b.GetFilterExt(c, a)};
-            }
+            nrx_u16 use = 0, level = 0;
+            nrx_i32 plus = 0, minus = 0;
+            if (page == 0)
+                b.GetSvAlm(c, a, &use, &level);
+            else if (page == 1)
+                b.GetSlmt(c, a, &plus, &minus, &use);
+            else
+                use = b.GetFilterTime(c, a);
+            return {use, level, plus, minus};
         }
-        // Values unlike any default, different per seed.
-        void setPage(int page, BoardFamily family, int card, int axis, int seed)
+        void setProbe(int page, BoardFamily family, int card, int axis)
         {
             NrxFunctionTable& b = board(family);
             const nrx_u16 c = nrx_u16(card), a = nrx_u16(axis);
-            const auto s = [seed](int k) { return nrx_u16(seed + k); };
-            switch (page) {
-            case 0:
-                b.SetSvAlm(c, a, s(1), s(2));
-                b.SetSvInpos(c, a, s(3), s(4));
-                b.SetHlmt(c, a, s(5), s(6));
-                b.SetOrg(c, a, s(7));
-                b.SetEncoderZ(c, a, s(8));
-                b.SetSvCClr(c, a, s(9), s(10));
-                b.SetSvCClrTime(c, a, s(11));
-                break;
-            case 1:
-                b.SetRangeMode(c, a, s(1));
-                b.SetFixedRange(c, a, s(2));
-                b.SetSpeedMode(c, a, s(3));
-                b.SetPulseMode(c, a, s(4));
-                b.SetEncoderDir(c, a, s(5));
-                b.SetEncoderMode(c, a, s(6));
-                b.SetHomeDir(c, a, s(7));
-                b.SetCompCountMode(c, a, s(8));
-                b.SetSlmt(c, a, 1000 * seed, -2000 * seed, s(9));
-                b.SetCounterRing(c, a, 3000 * seed, 4000 * seed, s(10));
-                break;
-            default:
-                b.SetFilterTime(c, a, s(1));
-                b.SetFilterSensor(c, a, s(2));
-                b.SetFilterSvIF(c, a, s(3));
-                b.SetFilterEncoderZ(c, a, s(4));
-                b.SetFilterExt(c, a, s(5));
-                if (family == BoardFamily::RN)
-                    b.SetFilterStop(c, a, s(6));
-                break;
-            }
+            if (page == 0)
+                b.SetSvAlm(c, a, 7, 1);
+            else if (page == 1)
+                b.SetSlmt(c, a, 12345, -678, 1);
+            else
+                b.SetFilterTime(c, a, 9);
         }
     };
 
@@ -198,13 +136,15 @@ private slots:
         for (int axis = 0; axis < 4; ++axis)
             rig.board(BoardFamily::RN)
                 .SetFilterStop(nrx_u16(fromCard), nrx_u16(axis), nrx_u16(50 + axis));
-        rig.setPage(page, from, fromCard, fromAxis, 20);
+        rig.setProbe(page, from, fromCard, fromAxis);
+        if (from == BoardFamily::RN)
+            rig.board(from).SetFilterStop(nrx_u16(fromCard), nrx_u16(fromAxis), 26);
         rig.board(from).SetEmergency(nrx_u16(fromCard), 1);
-        const QList<int> source = rig.page(page, from, fromCard, fromAxis);
+        const QList<int> source = rig.probe(page, from, fromCard, fromAxis);
         const int toAxes = rig.state.registry.axisCount(to, toCard);
         QList<QList<int>> before;
         for (int axis = 0; axis < toAxes; ++axis)
-            before << rig.page(page, to, toCard, axis);
+            before << rig.probe(page, to, toCard, axis);
 
         rig.state.active.family = from;
         COV_CopyPrmDlg dialog(rig.context, CardNo(fromCard), AxisNo(fromAxis), page);
@@ -228,7 +168,7 @@ private slots:
         QCOMPARE(rig.frame.sent, (QList<QPair<int, int>>{{UM_VIEW_COMMAND, 102}}));
         for (int axis = 0; axis < toAxes; ++axis) {
             const bool copied = ticked.contains(axis);
-            QCOMPARE(rig.page(page, to, toCard, axis), copied ? source : before[axis]);
+            QCOMPARE(rig.probe(page, to, toCard, axis), copied ? source : before[axis]);
             if (page == 2 && to == BoardFamily::RN && copied) {
                 const int stop = from == BoardFamily::RN ? 26 : 50 + axis;
                 QCOMPARE(int(rig.board(to).GetFilterStop(nrx_u16(toCard), nrx_u16(axis))), stop);
