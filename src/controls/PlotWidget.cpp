@@ -46,7 +46,7 @@ void PlotWidget::setSeries(int index, QVector<QPointF> points, const QColor& col
     series.points = std::move(points);
     series.colour = colour;
     series.name = name;
-    extendBounds(series, series.points, 0);
+    indexPoints(series, 0);
     update();
 }
 
@@ -57,12 +57,13 @@ void PlotWidget::appendPoints(int index, const QVector<QPointF>& points)
     Series& series = m_series[static_cast<size_t>(index)];
     const int from = series.points.size();
     series.points += points;
-    extendBounds(series, series.points, from);
+    indexPoints(series, from);
     update();
 }
 
-void PlotWidget::extendBounds(Series& series, const QVector<QPointF>& points, int from)
+void PlotWidget::indexPoints(Series& series, int from)
 {
+    const QVector<QPointF>& points = series.points;
     if (from == 0) {
         constexpr double inf = std::numeric_limits<double>::infinity();
         series.minX = series.minY = inf;
@@ -74,6 +75,20 @@ void PlotWidget::extendBounds(Series& series, const QVector<QPointF>& points, in
         series.maxX = std::max(series.maxX, p.x());
         series.minY = std::min(series.minY, p.y());
         series.maxY = std::max(series.maxY, p.y());
+    }
+    // The run holding `from` may have been partial: it is summed again.
+    const int firstBlock = from / kBlock;
+    series.blocks.resize(static_cast<size_t>((points.size() + kBlock - 1) / kBlock));
+    for (size_t block = static_cast<size_t>(firstBlock); block < series.blocks.size(); ++block) {
+        const int begin = static_cast<int>(block) * kBlock;
+        const int end = std::min<int>(begin + kBlock, points.size());
+        double low = points[begin].y();
+        double high = low;
+        for (int i = begin + 1; i < end; ++i) {
+            low = std::min(low, points[i].y());
+            high = std::max(high, points[i].y());
+        }
+        series.blocks[block] = {low, high};
     }
 }
 
@@ -336,21 +351,36 @@ void PlotWidget::drawSeries(QPainter& painter, const Series& series) const
     }
     // Dense: each pixel column becomes its first, lowest, highest and last value, which keeps
     // every spike and costs the same to draw for 10^3 or 10^6 points. The inner loop compares
-    // raw times with the column's end and maps only the four kept values.
+    // raw times with the column's end, takes whole runs of points from their summary, and maps
+    // only the four kept values.
     painter.setRenderHint(QPainter::Antialiasing, false);
     m_line.reserve(static_cast<int>(m_area.width()) * 4 + 8);
-    auto p = first;
-    while (p != last) {
-        const double column = std::floor(ox + p->x() * sx);
+    const QPointF* raw = points.constData();
+    int i = static_cast<int>(first - points.begin());
+    const int end = static_cast<int>(last - points.begin());
+    while (i < end) {
+        const double column = std::floor(ox + raw[i].x() * sx);
         const double columnEnd = (column + 1.0 - ox) / sx;
-        const double enter = p->y();
+        const double enter = raw[i].y();
         double lowest = enter;
         double highest = enter;
         double leave = enter;
-        for (++p; p != last && p->x() < columnEnd; ++p) {
-            leave = p->y();
+        for (++i; i < end;) {
+            const int runEnd = i + kBlock;
+            if ((i & (kBlock - 1)) == 0 && runEnd <= end && raw[runEnd - 1].x() < columnEnd) {
+                const std::pair<double, double>& run = series.blocks[size_t(i / kBlock)];
+                lowest = std::min(lowest, run.first);
+                highest = std::max(highest, run.second);
+                leave = raw[runEnd - 1].y();
+                i = runEnd;
+                continue;
+            }
+            if (!(raw[i].x() < columnEnd))
+                break;
+            leave = raw[i].y();
             lowest = leave < lowest ? leave : lowest;
             highest = leave > highest ? leave : highest;
+            ++i;
         }
         const double x = column + 0.5;
         m_line.append(QPointF(x, oy + enter * sy));

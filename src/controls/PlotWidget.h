@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <utility>
 #include <vector>
 
 // A line plot of (time, value) series on QPainter: autoscale, round grid, labelled axes, and
@@ -71,6 +72,9 @@ private:
     struct Series
     {
         QVector<QPointF> points;
+        // Lowest and highest value of each run of kBlock points, so a pixel column that
+        // spans whole runs reads two numbers per run instead of every point.
+        std::vector<std::pair<double, double>> blocks;
         QColor colour;
         QString name;
         double minX = 0.0, maxX = 0.0, minY = 0.0, maxY = 0.0;
@@ -80,7 +84,9 @@ private:
     };
 
     Series& at(int index);
-    void extendBounds(Series& series, const QVector<QPointF>& points, int from);
+    static constexpr int kBlock = 32; // a power of two
+    // Bounds and value runs of a series' points from index `from` on.
+    static void indexPoints(Series& series, int from);
     void layoutArea(const QRect& target, const QFontMetrics& metrics) const;
     void drawGrid(QPainter& painter, const QFontMetrics& metrics, const QRect& target) const;
     void drawSeries(QPainter& painter, const Series& series) const;

@@ -65,12 +65,14 @@ private slots:
         PlotWidget plot;
         QVector<QPointF> points;
         for (int i = 0; i < 100000; ++i)
-            points.append(QPointF(i, i == 50001 ? 100.0 : i == 70003 ? -100.0 : 0.0));
-        plot.setSeries(0, points, Qt::red, QString());
+            points.append(QPointF(i, i == 50100 ? 100.0 : i == 70003 ? -100.0 : 0.0));
+        // Appended in two parts, the first ending inside a run of summarised points.
+        plot.setSeries(0, points.mid(0, 50090), Qt::red, QString());
+        plot.appendPoints(0, points.mid(50090));
         plot.setYRange(-120, 120);
         const QImage image = draw(plot);
         const QRgb red = QColor(Qt::red).rgb();
-        QVERIFY(colourNear(image, plot.xToPixel(50001), plot.yToPixel(0, 100), red, 1));
+        QVERIFY(colourNear(image, plot.xToPixel(50100), plot.yToPixel(0, 100), red, 1));
         QVERIFY(colourNear(image, plot.xToPixel(70003), plot.yToPixel(0, -100), red, 1));
         QVERIFY(!colourNear(image, plot.xToPixel(30000), plot.yToPixel(0, 100), red, 2));
     }
