@@ -1,12 +1,15 @@
 #include "ToolWindowKinds.h"
 
+#include "COV_ActSpdCalDlg.h"
 #include "COV_AxStMonWnd.h"
 #include "COV_DIoWnd.h"
 #include "COV_MnMtnWnd.h"
 #include "COV_PrmSuWnd.h"
+#include "COV_SavePrmDlg.h"
 #include "COV_SnMtnWnd.h"
 #include "COV_SysDbgWnd.h"
 #include "COV_SysIoWnd.h"
+#include "COV_SysRstDlg.h"
 #include "ToolWindowFactory.h"
 
 namespace {
@@ -15,6 +18,14 @@ template <typename View> ToolWindowFactory::Maker makerOf()
 {
     return [](const ToolContext& context, QWidget* parent) -> ToolView* {
         return new View(context, parent);
+    };
+}
+
+template <typename Dialog> ToolWindowFactory::Command dialogOf()
+{
+    return [](const ToolContext& context, QWidget* parent) {
+        Dialog dialog(context, parent);
+        dialog.exec();
     };
 }
 
@@ -29,4 +40,7 @@ void registerToolWindows(ToolWindowFactory& factory)
     factory.registerKind(ToolDigitalIo, makerOf<COV_DIoWnd>());
     factory.registerKind(ToolAxisStatus, makerOf<COV_AxStMonWnd>());
     factory.registerKind(ToolSystemDiagnosis, makerOf<COV_SysDbgWnd>());
+    factory.registerCommand(FrameCommand::SaveParameter, dialogOf<COV_SavePrmDlg>());
+    factory.registerCommand(FrameCommand::SystemReset, dialogOf<COV_SysRstDlg>());
+    factory.registerCommand(FrameCommand::ActualSpeedCalculator, dialogOf<COV_ActSpdCalDlg>());
 }

@@ -2,6 +2,7 @@
 
 #include "AppState.h"
 #include "BoardApi.h"
+#include "COV_CopyPrmDlg.h"
 #include "COV_FilterSetWnd.h"
 #include "COV_MtnPrmWnd.h"
 #include "COV_SysIOSetWnd.h"
@@ -235,7 +236,11 @@ void COV_PrmSuWnd::onCopyClicked()
 
 void COV_PrmSuWnd::openCopyDialog()
 {
-    // INTEGRATION: replace with COV_CopyPrmDlg(m_context, m_card, m_axis, m_page, this).exec();
+    // Window-modal without a nested event loop, so the window's own timers and a test driving
+    // it carry on while the dialog is up.
+    auto* dialog = new COV_CopyPrmDlg(m_context, m_card, m_axis, m_page, this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
 }
 
 void COV_PrmSuWnd::handleUserMessage(UserMessage message, int wParam)

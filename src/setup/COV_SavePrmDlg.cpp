@@ -1,0 +1,64 @@
+#include "COV_SavePrmDlg.h"
+
+#include "AppState.h"
+#include "BoardApi.h"
+#include "CardTypeSelector.h"
+#include "PromptService.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+COV_SavePrmDlg::COV_SavePrmDlg(const ToolContext& context, QWidget* parent)
+    : QDialog(parent), m_context(context)
+{
+    setWindowTitle(QStringLiteral("Save Parameter"));
+    const ActiveController& active = context.state.active;
+    m_selector = new CardTypeSelector(context.state.registry, active.family, active.card, this);
+    m_allCards = new QCheckBox(QStringLiteral(" All Cards"), this);
+    auto* form = new QFormLayout;
+    form->addRow(QStringLiteral("Card Type"), m_selector->typeList());
+    form->addRow(QStringLiteral("Card No."), m_selector->cardList());
+    form->addRow(QString(), m_allCards);
+
+    auto* saveButton = new QPushButton(QStringLiteral("Save"), this);
+    auto* closeButton = new QPushButton(QStringLiteral("Close"), this);
+    saveButton->setToolTip(QStringLiteral("Write the board parameter file of the chosen card, or "
+                                          "of every card when \"All Cards\" is ticked"));
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch(1);
+    buttons->addWidget(saveButton);
+    buttons->addWidget(closeButton);
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(form);
+    layout->addLayout(buttons);
+
+    connect(m_allCards, &QCheckBox::toggled, this,
+            [this](bool all) { m_selector->enableLists(!all); });
+    connect(saveButton, &QPushButton::clicked, this, [this] { save(); });
+    connect(closeButton, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+void COV_SavePrmDlg::save()
+{
+    if (!m_allCards->isChecked()) {
+        saveCard(m_selector->family(), m_selector->card());
+        return;
+    }
+    if (!m_context.prompt.askYesNo(
+            QStringLiteral("Are you sure you want to save the parameter files of all the cards?")))
+        return;
+    for (BoardFamily family : kAllFamilies) {
+        for (int card = 0; card < m_context.state.registry.cardCount(family); ++card)
+            saveCard(family, card);
+    }
+}
+
+void COV_SavePrmDlg::saveCard(BoardFamily family, int card)
+{
+    m_context.board.SaveFile(family, static_cast<CardNo>(card));
+    m_context.state.registry.setParametersChanged(family, card, false);
+}

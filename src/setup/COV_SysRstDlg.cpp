@@ -1,0 +1,48 @@
+#include "COV_SysRstDlg.h"
+
+#include "AppState.h"
+#include "BoardApi.h"
+#include "CardTypeSelector.h"
+#include "FrameRelay.h"
+#include "PromptService.h"
+
+#include <QComboBox>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+COV_SysRstDlg::COV_SysRstDlg(const ToolContext& context, QWidget* parent)
+    : QDialog(parent), m_context(context)
+{
+    setWindowTitle(QStringLiteral("System Reset"));
+    const ActiveController& active = context.state.active;
+    m_selector = new CardTypeSelector(context.state.registry, active.family, active.card, this);
+    auto* form = new QFormLayout;
+    form->addRow(QStringLiteral("Card Type"), m_selector->typeList());
+    form->addRow(QStringLiteral("Card No."), m_selector->cardList());
+
+    auto* resetButton = new QPushButton(QStringLiteral("Reset"), this);
+    auto* closeButton = new QPushButton(QStringLiteral("Close"), this);
+    resetButton->setToolTip(QStringLiteral("Reset the chosen card; open tool windows reload"));
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch(1);
+    buttons->addWidget(resetButton);
+    buttons->addWidget(closeButton);
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(form);
+    layout->addLayout(buttons);
+
+    connect(resetButton, &QPushButton::clicked, this, [this] { reset(); });
+    connect(closeButton, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+void COV_SysRstDlg::reset()
+{
+    if (!m_context.prompt.askYesNo(QStringLiteral("Do you want system reset?")))
+        return;
+    m_context.board.Reset(m_selector->family(), static_cast<CardNo>(m_selector->card()));
+    // Parameter setup first, then the motion windows, then the I/O monitor.
+    for (int kind : {ToolParameter, ToolSingleAxis, ToolMultiAxis, ToolDigitalIo})
+        m_context.frame.sendToFrame(UM_VIEW_COMMAND, kind);
+}
