@@ -53,7 +53,10 @@ COV_ComparePrmDlg::COV_ComparePrmDlg(const ToolContext& context, QWidget* parent
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->verticalHeader()->setVisible(false);
-    m_table->horizontalHeader()->setStretchLastSection(true);
+    m_table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+    for (int column = 0; column < 3; ++column)
+        m_table->horizontalHeader()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
+    m_table->horizontalHeader()->setSectionResizeMode(3, QHeaderView::Stretch);
     layout->addWidget(m_table, 1);
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
@@ -114,5 +117,4 @@ void COV_ComparePrmDlg::showRows()
             m_table->setItem(at, column, item);
         }
     }
-    m_table->resizeColumnsToContents();
 }

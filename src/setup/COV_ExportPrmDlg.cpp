@@ -19,6 +19,7 @@ COV_ExportPrmDlg::COV_ExportPrmDlg(const ToolContext& context, QWidget* parent)
     : QDialog(parent), m_context(context)
 {
     setWindowTitle(QStringLiteral("Export Parameters"));
+    setMinimumWidth(460);
     auto* layout = new QVBoxLayout(this);
     m_source = new ParameterSourceBox(QStringLiteral(" Cards "),
                                       {ParameterSourceBox::Card, ParameterSourceBox::EveryCard},

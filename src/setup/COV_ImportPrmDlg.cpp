@@ -50,7 +50,10 @@ COV_ImportPrmDlg::COV_ImportPrmDlg(const ToolContext& context, QWidget* parent)
     m_changes->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_changes->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_changes->verticalHeader()->setVisible(false);
-    m_changes->horizontalHeader()->setStretchLastSection(true);
+    m_changes->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+    for (int column = 0; column < 3; ++column)
+        m_changes->horizontalHeader()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
+    m_changes->horizontalHeader()->setSectionResizeMode(3, QHeaderView::Stretch);
     layout->addWidget(m_changes, 1);
 
     auto* buttons = new QDialogButtonBox(this);
@@ -109,7 +112,6 @@ void COV_ImportPrmDlg::showChanges()
         for (int column = 0; column < cells.size(); ++column)
             m_changes->setItem(row, column, new QTableWidgetItem(cells[column]));
     }
-    m_changes->resizeColumnsToContents();
     QString summary = changes.empty()
                           ? QStringLiteral("The boards already hold every value of the file.")
                           : QStringLiteral("%1 parameter(s) would change:").arg(changes.size());

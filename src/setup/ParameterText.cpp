@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <map>
+#include <set>
 
 namespace {
 
@@ -182,6 +183,8 @@ private:
             return readHeaderValue(lineNo, key, value);
 
         ParameterSection& section = m_set.sections[*m_current.section];
+        // A key given with a bad value has its own fault; it is not missing as well.
+        m_named[*m_current.section].insert(key);
         if (section.axis < 0 && kCardKeys.contains(key)) {
             CardDescription& card = m_set.cards.back();
             if (key == QLatin1String("Axes")) {
@@ -263,23 +266,24 @@ private:
                                      .arg(card.axes)
                                      .arg(held));
         }
-        for (ParameterSection& section : m_set.sections) {
+        for (std::size_t i = 0; i < m_set.sections.size(); ++i) {
+            ParameterSection& section = m_set.sections[i];
             if (section.axis >= 0 && !m_set.section(section.family, section.card, -1))
                 fault(section.line, QStringLiteral("[%1] has no card section")
                                         .arg(QString::fromStdString(section.name())));
-            reportMissing(section);
+            reportMissing(section, m_named[i]);
             sortByCatalogue(section);
         }
     }
 
     // A file cut short or trimmed by hand must not import half an axis.
-    void reportMissing(const ParameterSection& section)
+    void reportMissing(const ParameterSection& section, const std::set<QString>& named)
     {
         QStringList missing;
         for (const ParameterInfo& info : ParameterCatalog::all()) {
             const bool cardLevel = info.level == ParameterLevel::Card;
             if (info.existsIn(section.family) && cardLevel == (section.axis < 0) &&
-                !section.find(&info))
+                named.count(QLatin1String(info.name)) == 0)
                 missing << QLatin1String(info.name);
         }
         if (missing.isEmpty())
@@ -314,6 +318,7 @@ private:
     ParameterSet m_set;
     Current m_current;
     std::map<QString, int> m_sectionLines;
+    std::map<std::size_t, std::set<QString>> m_named;
     int m_headerLine = 0;
     int m_cards = -1;
     int m_cardsLine = 0;
