@@ -4,6 +4,7 @@
 #include "ParameterImport.h"
 #include "ParameterSourceBox.h"
 #include "ParameterText.h"
+#include "RecordingBoard.h"
 #include "RecordingFrame.h"
 #include "ScriptedPrompt.h"
 #include "SimBoardsRig.h"
@@ -13,6 +14,7 @@
 #include <QCheckBox>
 #include <QPlainTextEdit>
 #include <QRandomGenerator>
+#include <QRegularExpression>
 #include <QTableWidget>
 #include <QTest>
 #include <QTextStream>
@@ -109,6 +111,31 @@ private slots:
         QVERIFY(flatten(ParameterSet::fromBoards(rig.api, rig.state.registry)) == flatten(before));
         QVERIFY(ParameterImport(file, rig.api, rig.state.registry).changes().empty());
         QCOMPARE(ParameterText::write(file, kCreated), ParameterText::write(before, kCreated));
+    }
+
+    void import_writesOnlyChangedCallsOnce()
+    {
+        RecordingBoard rl(BoardFamily::RL);
+        BoardApi api;
+        rl.installInto(api);
+        CardRegistry registry;
+        registry.setLoadResult(BoardFamily::RL, 0);
+        registry.setCardInfo(BoardFamily::RL, 0, 4, 0, 16);
+        rl.setOutValues("GetSlmt", {700, -700, 1});
+        ParameterSet file;
+        file.sections.push_back(
+            {BoardFamily::RL, 0, 1, 9, ParameterSet::readSection(api, BoardFamily::RL, 0, 1)});
+        for (ParameterValue& v : file.sections[0].values) {
+            if (v.info->name == std::string("SoftLimitPlus") ||
+                v.info->name == std::string("PulseMode"))
+                v.value = 5;
+        }
+        ParameterImport import(file, api, registry);
+        QCOMPARE(import.changes().size(), 2u);
+        rl.clearCalls();
+        import.apply();
+        const QStringList writes = rl.calls().filter(QRegularExpression("^Set"));
+        QCOMPARE(writes, (QStringList{"SetPulseMode(0,1,5)", "SetSlmt(0,1,5,-700,1)"}));
     }
 
     void damagedFile_reportsLineAndWritesNothing_data()
