@@ -151,6 +151,13 @@ QMenu* COV_MainFrame::createSystemMenu()
     menu->addAction(QStringLiteral("System Reset"), this,
                     [this] { runCommand(FrameCommand::SystemReset); });
     menu->addSeparator();
+    menu->addAction(QStringLiteral("Export Parameters..."), this,
+                    [this] { runCommand(FrameCommand::ExportParameters); });
+    menu->addAction(QStringLiteral("Import Parameters..."), this,
+                    [this] { runCommand(FrameCommand::ImportParameters); });
+    menu->addAction(QStringLiteral("Compare Parameters..."), this,
+                    [this] { runCommand(FrameCommand::CompareParameters); });
+    menu->addSeparator();
     menu->addAction(QStringLiteral("Environment Setup"), this, [this] { environmentSetup(); });
     menu->addAction(QStringLiteral("Log Level"), this, [this] { logLevelSetup(); });
     menu->addSeparator();

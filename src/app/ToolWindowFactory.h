@@ -14,7 +14,10 @@ enum class FrameCommand
 {
     SaveParameter,
     SystemReset,
-    ActualSpeedCalculator
+    ActualSpeedCalculator,
+    ExportParameters,
+    ImportParameters,
+    CompareParameters
 };
 
 // What the frame can open: a maker per tool-window kind and a handler per dialog command,

@@ -2,7 +2,10 @@
 
 #include "COV_ActSpdCalDlg.h"
 #include "COV_AxStMonWnd.h"
+#include "COV_ComparePrmDlg.h"
 #include "COV_DIoWnd.h"
+#include "COV_ExportPrmDlg.h"
+#include "COV_ImportPrmDlg.h"
 #include "COV_MnMtnWnd.h"
 #include "COV_PrmSuWnd.h"
 #include "COV_SavePrmDlg.h"
@@ -11,6 +14,8 @@
 #include "COV_SysIoWnd.h"
 #include "COV_SysRstDlg.h"
 #include "ToolWindowFactory.h"
+
+#include <QFileDialog>
 
 namespace {
 
@@ -43,4 +48,17 @@ void registerToolWindows(ToolWindowFactory& factory)
     factory.registerCommand(FrameCommand::SaveParameter, dialogOf<COV_SavePrmDlg>());
     factory.registerCommand(FrameCommand::SystemReset, dialogOf<COV_SysRstDlg>());
     factory.registerCommand(FrameCommand::ActualSpeedCalculator, dialogOf<COV_ActSpdCalDlg>());
+    factory.registerCommand(FrameCommand::ExportParameters, dialogOf<COV_ExportPrmDlg>());
+    factory.registerCommand(FrameCommand::CompareParameters, dialogOf<COV_ComparePrmDlg>());
+    factory.registerCommand(FrameCommand::ImportParameters,
+                            [](const ToolContext& context, QWidget* parent) {
+                                const QString path = QFileDialog::getOpenFileName(
+                                    parent, QStringLiteral("Import Parameters"), QString(),
+                                    QStringLiteral("Parameter files (*.ini *.txt);;All files (*)"));
+                                if (path.isEmpty())
+                                    return;
+                                COV_ImportPrmDlg dialog(context, parent);
+                                dialog.load(path);
+                                dialog.exec();
+                            });
 }

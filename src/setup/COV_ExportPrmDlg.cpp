@@ -1,0 +1,84 @@
+#include "COV_ExportPrmDlg.h"
+
+#include "AppState.h"
+#include "ParameterSourceBox.h"
+#include "ParameterText.h"
+#include "PromptService.h"
+#include "ToolContext.h"
+
+#include <QDateTime>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+COV_ExportPrmDlg::COV_ExportPrmDlg(const ToolContext& context, QWidget* parent)
+    : QDialog(parent), m_context(context)
+{
+    setWindowTitle(QStringLiteral("Export Parameters"));
+    setMinimumWidth(460);
+    auto* layout = new QVBoxLayout(this);
+    m_source = new ParameterSourceBox(QStringLiteral(" Cards "),
+                                      {ParameterSourceBox::Card, ParameterSourceBox::EveryCard},
+                                      context.state.registry, this);
+    m_source->setScope(context.state.active.family, context.state.active.card, 0);
+    layout->addWidget(m_source);
+
+    auto* fileRow = new QHBoxLayout;
+    m_file = new QLineEdit(this);
+    m_file->setPlaceholderText(QStringLiteral("file to write"));
+    auto* browse = new QPushButton(QStringLiteral("Browse..."), this);
+    browse->setToolTip(QStringLiteral("Choose the file to write"));
+    fileRow->addWidget(new QLabel(QStringLiteral("File"), this));
+    fileRow->addWidget(m_file, 1);
+    fileRow->addWidget(browse);
+    layout->addLayout(fileRow);
+
+    auto* buttons = new QDialogButtonBox(this);
+    QPushButton* exportButton =
+        buttons->addButton(QStringLiteral("Export"), QDialogButtonBox::AcceptRole);
+    buttons->addButton(QStringLiteral("Close"), QDialogButtonBox::RejectRole);
+    layout->addWidget(buttons);
+
+    connect(browse, &QPushButton::clicked, this, [this] {
+        const QString path =
+            QFileDialog::getSaveFileName(this, QStringLiteral("Export Parameters"), m_file->text(),
+                                         QStringLiteral("Parameter files (*.ini);;All files (*)"));
+        if (!path.isEmpty())
+            m_file->setText(path);
+    });
+    connect(exportButton, &QPushButton::clicked, this, [this] {
+        if (exportFile())
+            accept();
+    });
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+}
+
+void COV_ExportPrmDlg::setFilePath(const QString& path)
+{
+    m_file->setText(path);
+}
+
+bool COV_ExportPrmDlg::exportFile()
+{
+    const QString path = m_file->text().trimmed();
+    if (path.isEmpty()) {
+        m_context.prompt.inform(QStringLiteral("Choose the file to export to."));
+        return false;
+    }
+    const ParameterSet set =
+        ParameterSet::fromBoards(m_context.board, m_context.state.registry, m_source->scope());
+    const QString error = ParameterText::writeFile(path, set, QDateTime::currentDateTime());
+    if (!error.isEmpty()) {
+        m_context.prompt.inform(
+            QStringLiteral("The parameters could not be exported to %1:\n%2").arg(path, error));
+        return false;
+    }
+    m_context.prompt.inform(QStringLiteral("The parameters of %1 card(s) were exported to %2.")
+                                .arg(set.cards.size())
+                                .arg(path));
+    return true;
+}

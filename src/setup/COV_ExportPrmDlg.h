@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QDialog>
+
+class ParameterSourceBox;
+class QLineEdit;
+struct ToolContext;
+
+// "Export Parameters": writes the parameters of one card or of every card to a text file.
+class COV_ExportPrmDlg : public QDialog
+{
+    Q_OBJECT
+
+public:
+    COV_ExportPrmDlg(const ToolContext& context, QWidget* parent = nullptr);
+
+    ParameterSourceBox& source() { return *m_source; }
+    void setFilePath(const QString& path);
+    // Writes the file; false (after saying why) when it could not.
+    bool exportFile();
+
+private:
+    const ToolContext& m_context;
+    ParameterSourceBox* m_source = nullptr;
+    QLineEdit* m_file = nullptr;
+};

@@ -1,0 +1,148 @@
+#include "COV_ImportPrmDlg.h"
+
+#include "AppState.h"
+#include "FrameRelay.h"
+#include "ParameterComparison.h"
+#include "ParameterImport.h"
+#include "ParameterText.h"
+#include "PromptService.h"
+#include "ToolContext.h"
+
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+COV_ImportPrmDlg::COV_ImportPrmDlg(const ToolContext& context, QWidget* parent)
+    : QDialog(parent), m_context(context)
+{
+    setWindowTitle(QStringLiteral("Import Parameters"));
+    resize(720, 520);
+    auto* layout = new QVBoxLayout(this);
+
+    auto* fileRow = new QHBoxLayout;
+    m_file = new QLineEdit(this);
+    m_file->setReadOnly(true);
+    auto* browse = new QPushButton(QStringLiteral("Browse..."), this);
+    browse->setToolTip(QStringLiteral("Choose the parameter file to import"));
+    fileRow->addWidget(new QLabel(QStringLiteral("File"), this));
+    fileRow->addWidget(m_file, 1);
+    fileRow->addWidget(browse);
+    layout->addLayout(fileRow);
+
+    m_summary = new QLabel(this);
+    m_summary->setWordWrap(true);
+    layout->addWidget(m_summary);
+    m_faults = new QPlainTextEdit(this);
+    m_faults->setReadOnly(true);
+    m_faults->setVisible(false);
+    layout->addWidget(m_faults, 1);
+    m_changes = new QTableWidget(0, 4, this);
+    m_changes->setHorizontalHeaderLabels({QStringLiteral("Section"), QStringLiteral("Parameter"),
+                                          QStringLiteral("Board value"),
+                                          QStringLiteral("File value")});
+    m_changes->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_changes->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_changes->verticalHeader()->setVisible(false);
+    m_changes->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+    for (int column = 0; column < 3; ++column)
+        m_changes->horizontalHeader()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
+    m_changes->horizontalHeader()->setSectionResizeMode(3, QHeaderView::Stretch);
+    layout->addWidget(m_changes, 1);
+
+    auto* buttons = new QDialogButtonBox(this);
+    m_write = buttons->addButton(QStringLiteral("Write to Boards"), QDialogButtonBox::ActionRole);
+    m_write->setToolTip(QStringLiteral("Write the file values listed above to the boards"));
+    m_write->setEnabled(false);
+    buttons->addButton(QStringLiteral("Close"), QDialogButtonBox::RejectRole);
+    layout->addWidget(buttons);
+
+    connect(browse, &QPushButton::clicked, this, [this] {
+        const QString path = QFileDialog::getOpenFileName(
+            this, QStringLiteral("Import Parameters"), m_file->text(),
+            QStringLiteral("Parameter files (*.ini *.txt);;All files (*)"));
+        if (!path.isEmpty())
+            load(path);
+    });
+    connect(m_write, &QPushButton::clicked, this, [this] { writeToBoards(); });
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+}
+
+COV_ImportPrmDlg::~COV_ImportPrmDlg() = default;
+
+void COV_ImportPrmDlg::load(const QString& path)
+{
+    m_file->setText(path);
+    std::vector<ParameterFault> faults;
+    const ParameterSet file = ParameterText::readFile(path, faults);
+    m_import = std::make_unique<ParameterImport>(file, m_context.board, m_context.state.registry);
+    // One list of everything wrong: the text's faults and what the PC lacks.
+    ParameterText::merge(faults, m_import->faults());
+    m_faults->setVisible(!faults.empty());
+    m_changes->setVisible(faults.empty());
+    if (!faults.empty()) {
+        m_import.reset();
+        m_summary->setText(QStringLiteral("The file cannot be imported; nothing will be written:"));
+        m_faults->setPlainText(ParameterText::faultList(faults));
+        m_write->setEnabled(false);
+        return;
+    }
+    showChanges();
+}
+
+void COV_ImportPrmDlg::showChanges()
+{
+    const auto& changes = m_import->changes();
+    m_changes->setRowCount(static_cast<int>(changes.size()));
+    for (int row = 0; row < m_changes->rowCount(); ++row) {
+        const ParameterChange& c = changes[static_cast<std::size_t>(row)];
+        ParameterSection at;
+        at.family = c.family;
+        at.card = c.card;
+        at.axis = c.axis;
+        const QStringList cells{QString::fromStdString(at.name()), QLatin1String(c.info->name),
+                                ParameterComparison::valueText(*c.info, c.boardValue),
+                                ParameterComparison::valueText(*c.info, c.fileValue)};
+        for (int column = 0; column < cells.size(); ++column)
+            m_changes->setItem(row, column, new QTableWidgetItem(cells[column]));
+    }
+    QString summary = changes.empty()
+                          ? QStringLiteral("The boards already hold every value of the file.")
+                          : QStringLiteral("%1 parameter(s) would change:").arg(changes.size());
+    for (const QString& skipped : m_import->skipped())
+        summary += QStringLiteral("\nSkipped %1.").arg(skipped);
+    m_summary->setText(summary);
+    m_write->setEnabled(!changes.empty());
+}
+
+bool COV_ImportPrmDlg::writeToBoards()
+{
+    if (!m_import || m_import->changes().empty())
+        return false;
+    // New limits or pulse settings under a moving axis could run it anywhere.
+    if (m_context.state.active.anyAxesMoving()) {
+        m_context.prompt.inform(QStringLiteral("Axes are moving !\nCan not import parameters !"));
+        return false;
+    }
+    if (!m_context.prompt.askYesNo(QStringLiteral("Write %1 changed parameter(s) to the boards?")
+                                       .arg(m_import->changes().size())))
+        return false;
+    AppState& state = m_context.state;
+    for (const auto& [family, card] : m_import->apply()) {
+        // The frame marks the active family's cards; the others are marked here the same way.
+        if (family == state.active.family)
+            m_context.frame.sendToFrame(UM_PARAM_CHANGED, card);
+        else
+            state.registry.setParametersChanged(family, card, true);
+    }
+    for (ToolKind kind : {ToolParameter, ToolSingleAxis, ToolMultiAxis, ToolDigitalIo})
+        m_context.frame.sendToFrame(UM_VIEW_COMMAND, kind);
+    load(m_file->text());
+    return true;
+}

@@ -1,0 +1,301 @@
+#include "ParameterCommandLine.h"
+
+#include "BoardApi.h"
+#include "BoardLoader.h"
+#include "BoardStartup.h"
+#include "CardRegistry.h"
+#include "ParameterComparison.h"
+#include "ParameterImport.h"
+#include "ParameterText.h"
+#include "PromptService.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
+#include <QTextStream>
+
+#include <cstring>
+#include <map>
+
+namespace {
+
+// Start-up messages of the board loading go to the terminal; nobody is there to answer.
+class ConsolePrompt : public PromptService
+{
+public:
+    explicit ConsolePrompt(QTextStream& err) : m_err(err) {}
+    bool askYesNo(const QString& text) override
+    {
+        m_err << text << Qt::endl;
+        return false;
+    }
+    PromptAnswer askYesNoCancel(const QString& text) override
+    {
+        m_err << text << Qt::endl;
+        return PromptAnswer::No;
+    }
+    void inform(const QString& text) override { m_err << text << Qt::endl; }
+
+private:
+    QTextStream& m_err;
+};
+
+// Splits arguments into the positional ones and the options; false on an unknown option.
+bool splitArguments(const QStringList& arguments, const QStringList& flags,
+                    const QStringList& valued, QStringList& positional,
+                    std::map<QString, QString>& options, QTextStream& err)
+{
+    for (int i = 0; i < arguments.size(); ++i) {
+        const QString& a = arguments[i];
+        if (!a.startsWith(QLatin1String("--"))) {
+            positional << a;
+        } else if (flags.contains(a)) {
+            options[a] = QString();
+        } else if (valued.contains(a) && i + 1 < arguments.size()) {
+            options[a] = arguments[++i];
+        } else {
+            err << "orvane params: unknown option or missing value: " << a << Qt::endl;
+            return false;
+        }
+    }
+    return true;
+}
+
+QString where(const ParameterChange& c)
+{
+    ParameterSection section;
+    section.family = c.family;
+    section.card = c.card;
+    section.axis = c.axis;
+    return QString::fromStdString(section.name());
+}
+
+} // namespace
+
+ParameterCommandLine::ParameterCommandLine(BoardApi& board, const CardRegistry& registry,
+                                           QTextStream& out, QTextStream& err)
+    : m_board(board), m_registry(registry), m_out(out), m_err(err)
+{}
+
+QString ParameterCommandLine::usage()
+{
+    return QStringLiteral(
+        "Usage: orvane params COMMAND ...\n"
+        "Board parameters as readable text, without a window.\n"
+        "\n"
+        "  export FILE [--family RL|RM|RN [--card N]]\n"
+        "      Write the parameters of every card (or of one family or card) to FILE.\n"
+        "  import FILE [--yes] [--save]\n"
+        "      Check FILE and list what it would change on the boards. Only with --yes\n"
+        "      are the changes written; --save then saves the parameter file of every\n"
+        "      card written to, so the boards keep the values after power-off.\n"
+        "  diff A B\n"
+        "      Compare two sources, each a FILE or a board as RL:0 (a card) or RL:0:1\n"
+        "      (an axis), and list the parameters that differ.\n"
+        "\n"
+        "Exit codes: 0 success (diff: no difference), 1 diff found differences,\n"
+        "2 bad input (a wrong argument, a damaged file, a board the PC lacks).\n");
+}
+
+bool ParameterCommandLine::isCommand(int argc, char** argv)
+{
+    return argc >= 2 && std::strcmp(argv[1], "params") == 0;
+}
+
+int ParameterCommandLine::main(int argc, char** argv)
+{
+    QCoreApplication app(argc, argv);
+    QTextStream out(stdout);
+    QTextStream err(stderr);
+    const QStringList arguments = QCoreApplication::arguments().mid(2);
+    if (arguments.isEmpty() || arguments.contains(QLatin1String("--help")) ||
+        arguments.contains(QLatin1String("-h"))) {
+        (arguments.isEmpty() ? err : out) << usage();
+        return arguments.isEmpty() ? BadInput : Success;
+    }
+
+    // The libraries come from the program's own folder only, as for the window.
+    BoardLoader loader(QDir(QCoreApplication::applicationDirPath()).absolutePath() +
+                       QLatin1Char('/'));
+    loader.loadAll();
+    BoardApi board;
+    for (BoardFamily family : kAllFamilies)
+        board.setTable(family, loader.table(family));
+    CardRegistry registry;
+    ConsolePrompt prompt(err);
+    BoardStartup startup(board, registry, prompt);
+    if (!startup.loadDevices(loader.problems()))
+        return BadInput;
+    for (BoardFamily family : kAllFamilies) {
+        for (int card = 0; card < registry.cardCount(family); ++card)
+            startup.readCardInfo(family, static_cast<CardNo>(card));
+    }
+    const int result = ParameterCommandLine(board, registry, out, err).run(arguments);
+    startup.unloadDevices();
+    return result;
+}
+
+int ParameterCommandLine::run(const QStringList& arguments)
+{
+    const QString command = arguments.value(0);
+    const QStringList rest = arguments.mid(1);
+    if (command == QLatin1String("export"))
+        return exportFile(rest);
+    if (command == QLatin1String("import"))
+        return importFile(rest);
+    if (command == QLatin1String("diff"))
+        return diff(rest);
+    m_err << "orvane params: unknown command \"" << command << "\"\n" << usage();
+    m_err.flush();
+    return BadInput;
+}
+
+int ParameterCommandLine::exportFile(const QStringList& arguments)
+{
+    QStringList positional;
+    std::map<QString, QString> options;
+    if (!splitArguments(arguments, {}, {QStringLiteral("--family"), QStringLiteral("--card")},
+                        positional, options, m_err))
+        return BadInput;
+    if (positional.size() != 1) {
+        m_err << "orvane params export: give one FILE" << Qt::endl;
+        return BadInput;
+    }
+    ParameterScope scope;
+    if (options.count(QStringLiteral("--family"))) {
+        QString text = options[QStringLiteral("--family")];
+        if (options.count(QStringLiteral("--card")))
+            text += QLatin1Char(':') + options[QStringLiteral("--card")];
+        const auto parsed = ParameterScope::parse(text);
+        if (!parsed || parsed->axis >= 0) {
+            m_err << "orvane params export: no such family or card: " << text << Qt::endl;
+            return BadInput;
+        }
+        scope = *parsed;
+    } else if (options.count(QStringLiteral("--card"))) {
+        m_err << "orvane params export: --card needs --family" << Qt::endl;
+        return BadInput;
+    }
+    if (scope.family && (!m_registry.hasBoards(*scope.family) ||
+                         scope.card >= m_registry.cardCount(*scope.family))) {
+        m_err << "orvane params export: this PC has no such board" << Qt::endl;
+        return BadInput;
+    }
+    const ParameterSet set = ParameterSet::fromBoards(m_board, m_registry, scope);
+    const QString error =
+        ParameterText::writeFile(positional[0], set, QDateTime::currentDateTime());
+    if (!error.isEmpty()) {
+        m_err << "orvane params export: " << positional[0] << ": " << error << Qt::endl;
+        return BadInput;
+    }
+    m_err << "Exported " << set.cards.size() << (set.cards.size() == 1 ? " card" : " cards")
+          << " to " << positional[0] << Qt::endl;
+    return Success;
+}
+
+int ParameterCommandLine::importFile(const QStringList& arguments)
+{
+    QStringList positional;
+    std::map<QString, QString> options;
+    if (!splitArguments(arguments, {QStringLiteral("--yes"), QStringLiteral("--save")}, {},
+                        positional, options, m_err))
+        return BadInput;
+    if (positional.size() != 1) {
+        m_err << "orvane params import: give one FILE" << Qt::endl;
+        return BadInput;
+    }
+    std::vector<ParameterFault> faults;
+    const ParameterSet file = ParameterText::readFile(positional[0], faults);
+    ParameterImport import(file, m_board, m_registry);
+    // One list of everything wrong: the text's faults and what the PC lacks.
+    ParameterText::merge(faults, import.faults());
+    if (!faults.empty()) {
+        m_err << positional[0] << ": nothing written, the file has faults:\n"
+              << ParameterText::faultList(faults) << Qt::endl;
+        return BadInput;
+    }
+    for (const QString& skipped : import.skipped())
+        m_err << "Skipped " << skipped << Qt::endl;
+    for (const ParameterChange& c : import.changes()) {
+        m_out << where(c) << ' ' << c.info->name << ": "
+              << ParameterComparison::valueText(*c.info, c.boardValue) << " -> "
+              << ParameterComparison::valueText(*c.info, c.fileValue) << '\n';
+    }
+    m_out.flush();
+    const auto count = import.changes().size();
+    if (count == 0) {
+        m_err << "The boards already hold every value of " << positional[0] << Qt::endl;
+        return Success;
+    }
+    if (!options.count(QStringLiteral("--yes"))) {
+        m_err << count << " change(s); nothing written. Run again with --yes to write them."
+              << Qt::endl;
+        return Success;
+    }
+    const auto touched = import.apply();
+    m_err << "Wrote " << count << " change(s)." << Qt::endl;
+    if (options.count(QStringLiteral("--save"))) {
+        for (const auto& [family, card] : touched) {
+            m_board.SaveFile(family, static_cast<CardNo>(card));
+            m_err << "Saved the parameter file of " << familyDisplayName(family) << '(' << card
+                  << ')' << Qt::endl;
+        }
+    } else {
+        m_err << "Not saved: the boards forget these values at power-off unless saved "
+                 "(--save)."
+              << Qt::endl;
+    }
+    return Success;
+}
+
+bool ParameterCommandLine::source(const QString& text, ParameterSet& set)
+{
+    const auto scope = ParameterScope::parse(text);
+    if (!scope || QFileInfo::exists(text)) {
+        std::vector<ParameterFault> faults;
+        set = ParameterText::readFile(text, faults);
+        if (faults.empty())
+            return true;
+        m_err << text << ":\n" << ParameterText::faultList(faults) << Qt::endl;
+        return false;
+    }
+    const BoardFamily family = *scope->family;
+    const bool known = m_registry.hasBoards(family) && scope->card >= 0 &&
+                       scope->card < m_registry.cardCount(family) &&
+                       scope->axis < m_registry.axisCount(family, scope->card);
+    if (!known) {
+        m_err << "orvane params diff: this PC has no board " << text
+              << " (give a card, e.g. RL:0, or an axis, e.g. RL:0:1)" << Qt::endl;
+        return false;
+    }
+    set = ParameterSet::fromBoards(m_board, m_registry, *scope);
+    return true;
+}
+
+int ParameterCommandLine::diff(const QStringList& arguments)
+{
+    if (arguments.size() != 2) {
+        m_err << "orvane params diff: give two sources, A and B" << Qt::endl;
+        return BadInput;
+    }
+    ParameterSet first;
+    ParameterSet second;
+    if (!source(arguments[0], first) || !source(arguments[1], second))
+        return BadInput;
+    const auto rows = ParameterComparison::compare(first, second);
+    for (const ComparisonRow& row : rows) {
+        if (!row.differs())
+            continue;
+        auto shown = [&](std::optional<std::int32_t> v) {
+            return v ? ParameterComparison::valueText(*row.info, v) : QStringLiteral("(none)");
+        };
+        m_out << row.section << ' ' << row.info->name << ": " << shown(row.first) << " | "
+              << shown(row.second) << '\n';
+    }
+    m_out.flush();
+    const int count = ParameterComparison::differenceCount(rows);
+    m_err << count << (count == 1 ? " difference" : " differences") << " in " << rows.size()
+          << " parameters" << Qt::endl;
+    return count == 0 ? Success : Differences;
+}

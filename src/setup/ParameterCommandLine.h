@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QStringList>
+
+class BoardApi;
+class CardRegistry;
+class QTextStream;
+class ParameterSet;
+
+// "orvane params ...": export, import and compare parameters from a shell, with no window.
+// Results go to out, messages to err; the exit code says how it went.
+class ParameterCommandLine
+{
+public:
+    enum Exit
+    {
+        Success = 0,
+        Differences = 1, // diff found some
+        BadInput = 2,
+    };
+
+    ParameterCommandLine(BoardApi& board, const CardRegistry& registry, QTextStream& out,
+                         QTextStream& err);
+
+    // The arguments after "params".
+    int run(const QStringList& arguments);
+
+    // True when the program was started as "orvane params ...".
+    static bool isCommand(int argc, char** argv);
+    // The whole run without a display: loads the boards from the program's folder as the
+    // program does, runs, unloads. Call instead of creating a QApplication.
+    static int main(int argc, char** argv);
+    static QString usage();
+
+private:
+    int exportFile(const QStringList& arguments);
+    int importFile(const QStringList& arguments);
+    int diff(const QStringList& arguments);
+    // A file, or RL:0[:axis] on the boards; false (with a message) when neither.
+    bool source(const QString& text, ParameterSet& set);
+
+    BoardApi& m_board;
+    const CardRegistry& m_registry;
+    QTextStream& m_out;
+    QTextStream& m_err;
+};
