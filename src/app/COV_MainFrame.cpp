@@ -107,8 +107,9 @@ void COV_MainFrame::createMenus()
     setup->addAction(QStringLiteral("Actual Speed Calculator"), this,
                      [this] { runCommand(FrameCommand::ActualSpeedCalculator); });
     bar->addMenu(setup);
-    bar->addMenu(createToolMenu(QStringLiteral("Motion"),
-                                {{"Single Axis", ToolSingleAxis}, {"Multi Axis", ToolMultiAxis}}));
+    bar->addMenu(createToolMenu(
+        QStringLiteral("Motion"),
+        {{"Single Axis", ToolSingleAxis}, {"Multi Axis", ToolMultiAxis}, {"Scope", ToolScope}}));
     bar->addMenu(createStatusMenu());
     bar->addMenu(createWindowMenu());
     bar->addMenu(createHelpMenu());

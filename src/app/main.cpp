@@ -1,5 +1,6 @@
 #include "COV_ActSpdCalDlg.h"
 #include "COV_SavePrmDlg.h"
+#include "COV_ScopeWnd.h"
 #include "COV_SnMtnWnd.h"
 #include "COV_SysRstDlg.h"
 #include "COrvaneApp.h"
@@ -14,6 +15,10 @@ int main(int argc, char* argv[])
     app.toolWindows().registerKind(ToolSingleAxis,
                                    [](const ToolContext& context, QWidget* parent) -> ToolView* {
                                        return new COV_SnMtnWnd(context, parent);
+                                   });
+    app.toolWindows().registerKind(ToolScope,
+                                   [](const ToolContext& context, QWidget* parent) -> ToolView* {
+                                       return new COV_ScopeWnd(context, parent);
                                    });
     app.toolWindows().registerCommand(FrameCommand::ActualSpeedCalculator,
                                       [](const ToolContext& context, QWidget* parent) {
