@@ -31,6 +31,7 @@ constexpr int kPeriods[] = {1, 2, 5, 10};
 constexpr int kDefaultPeriod = 1; // index of 2 ms
 constexpr int kLengthsS[] = {1, 2, 5, 10, 30, 60};
 constexpr int kDefaultLength = 3; // index of 10 s
+const QColor kPredictedColour(255, 140, 0);
 
 QPushButton* makeButton(const QString& caption, const char* name, const QString& tip)
 {
@@ -353,6 +354,11 @@ void COV_ScopeWnd::updateSeries()
         if (column.unit == QLatin1String("pps"))
             m_predicted[c] = PredictedSpeedProfile::forRecording(m_shown, index);
     }
+    if (std::any_of(m_predicted.begin(), m_predicted.end(),
+                    [](const QVector<QPointF>& curve) { return !curve.isEmpty(); }))
+        // A series without points only names the overlay in the legend.
+        m_plot->setSeries(static_cast<int>(m_shown.columns.size()), {}, kPredictedColour,
+                          QStringLiteral("Predicted by the speed calculator"));
     m_plot->setAxisTitles(QStringLiteral("Time [ms]"), leftTitle);
 }
 
@@ -398,7 +404,9 @@ void COV_ScopeWnd::drawOverlay(QPainter& painter, const PlotWidget& plot) const
         line.reserve(curve.size());
         for (const QPointF& point : curve)
             line.append(QPointF(plot.xToPixel(point.x()), plot.yToPixel(index, point.y())));
-        QPen pen(QColor(40, 40, 40), 1.5, Qt::DashLine);
+        // Long gaps let the recorded line show through where the two agree.
+        QPen pen(kPredictedColour, 2.0);
+        pen.setDashPattern({3.0, 3.0});
         pen.setCosmetic(true);
         painter.setPen(pen);
         painter.drawPolyline(line);

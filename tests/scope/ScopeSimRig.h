@@ -26,6 +26,7 @@ struct ScopeSimRig
             rl.loadIn(folder.path()) != 0)
             return false;
         api.setTable(Rl, &rl.nrx);
+        state.registry.setLoadResult(Rl, 0);
         state.registry.setCardInfo(Rl, 0, 4, 0, 16);
         state.active.axis = Axis;
         return true;

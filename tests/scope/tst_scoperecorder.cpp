@@ -112,8 +112,7 @@ private slots:
                  qPrintable(QString::number(travelled)));
         const PredictedSpeedProfile::Move move =
             PredictedSpeedProfile::forDistance(record.columns[0].settings, travelled);
-        const std::array<double, 3> predicted{move.accelEndMs(), move.decelStartMs(),
-                                              move.endMs()};
+        const std::array<double, 3> predicted{move.accelEndMs(), move.decelStartMs(), move.endMs()};
         ScopeRecording magnitude = record;
         for (double& v : magnitude.columns[0].values)
             v = std::fabs(v);
