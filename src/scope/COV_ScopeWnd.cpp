@@ -116,6 +116,12 @@ COV_ScopeWnd::COV_ScopeWnd(const ToolContext& context, QWidget* parent)
 
 COV_ScopeWnd::~COV_ScopeWnd() = default;
 
+QSize COV_ScopeWnd::sizeHint() const
+{
+    // Opens inside the frame's tool area at 1366x768 with the three panes shown.
+    return ToolView::sizeHint().boundedTo(QSize(860, 520));
+}
+
 QWidget* COV_ScopeWnd::createSettingsRow()
 {
     auto* row = new QWidget;
@@ -151,16 +157,14 @@ QWidget* COV_ScopeWnd::createSettingsRow()
     layout->addWidget(m_period);
     layout->addWidget(new QLabel(QStringLiteral("Length")));
     layout->addWidget(m_length);
-    layout->addSpacing(8);
     layout->addWidget(new QLabel(QStringLiteral("Trigger")));
     layout->addWidget(m_trigger);
     layout->addWidget(m_triggerChannel);
     layout->addWidget(m_repeat);
-    layout->addSpacing(8);
     layout->addWidget(m_run);
     layout->addWidget(m_stop);
     layout->addWidget(m_clear);
-    layout->addWidget(m_status, 1);
+    layout->addStretch(1);
     return row;
 }
 
@@ -177,6 +181,8 @@ QWidget* COV_ScopeWnd::createFileButtons()
                            QStringLiteral("View a record from a CSV file"));
     m_savePng = makeButton(QStringLiteral("Save PNG..."), "savePngButton",
                            QStringLiteral("Save the plot as a picture"));
+    // The state sits over the file buttons, out of the way of Run and Stop.
+    layout->addWidget(m_status, 0, Qt::AlignHCenter);
     for (QPushButton* button : {m_fit, m_exportCsv, m_openCsv, m_savePng})
         layout->addWidget(button);
     return column;

@@ -39,6 +39,7 @@ public:
 
     ToolKind kind() const override { return ToolScope; }
     void handleUserMessage(UserMessage message, int wParam) override;
+    QSize sizeHint() const override;
 
     void setClock(Clock clock) { m_clock = std::move(clock); }
     ScopeRecorder& recorder() { return m_recorder; }
