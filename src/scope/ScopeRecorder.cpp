@@ -33,6 +33,7 @@ int ScopeRecorder::enabledCount() const
 void ScopeRecorder::run(double nowMs)
 {
     m_running = m_settings;
+    m_recorded = m_channels;
     m_running.periodMs = std::max(1, m_running.periodMs);
     m_running.lengthMs = std::max(m_running.periodMs * 10, m_running.lengthMs);
     // One frame more than the window, so a full window is on both of its edges.
@@ -95,7 +96,7 @@ double ScopeRecorder::readSignal(const ScopeChannel& channel) const
 bool ScopeRecorder::triggerAxisMoving(const ScopeRing::Frame& frame)
 {
     const int index = std::clamp(m_running.triggerChannel, 0, kChannels - 1);
-    const ScopeChannel& source = m_channels[static_cast<size_t>(index)];
+    const ScopeChannel& source = m_recorded[static_cast<size_t>(index)];
     // The channel's own reading serves when it is the speed; otherwise one extra read.
     if (source.enabled && source.signal == ScopeChannel::CommandSpeed)
         return frame.values[static_cast<size_t>(index)] != 0.0;
@@ -109,9 +110,9 @@ void ScopeRecorder::sample(double nowMs)
         return;
     ScopeRing::Frame frame;
     frame.time = nowMs;
-    for (size_t c = 0; c < m_channels.size(); ++c) {
-        if (m_channels[c].enabled)
-            frame.values[c] = readSignal(m_channels[c]);
+    for (size_t c = 0; c < m_recorded.size(); ++c) {
+        if (m_recorded[c].enabled)
+            frame.values[c] = readSignal(m_recorded[c]);
     }
     m_ring.push(frame);
     ++m_revision;
@@ -123,8 +124,8 @@ void ScopeRecorder::sample(double nowMs)
             m_triggerMs = nowMs;
             m_state = State::Recording;
             // The settings in effect when the move started, for the predicted profile.
-            for (size_t c = 0; c < m_channels.size(); ++c) {
-                const ScopeChannel& channel = m_channels[c];
+            for (size_t c = 0; c < m_recorded.size(); ++c) {
+                const ScopeChannel& channel = m_recorded[c];
                 if (channel.enabled && channel.signal == ScopeChannel::CommandSpeed)
                     m_speedSettings[c] = PredictedSpeedProfile::readSettings(
                         m_board, channel.family, static_cast<CardNo>(channel.card),
@@ -168,8 +169,8 @@ ScopeRecording ScopeRecorder::recording() const
     record.times.reserve(count);
     for (int i = first; i < m_ring.size(); ++i)
         record.times.push_back(roundToMicroseconds(m_ring.at(i).time - origin));
-    for (size_t c = 0; c < m_channels.size(); ++c) {
-        const ScopeChannel& channel = m_channels[c];
+    for (size_t c = 0; c < m_recorded.size(); ++c) {
+        const ScopeChannel& channel = m_recorded[c];
         if (!channel.enabled)
             continue;
         ScopeRecording::Column column;

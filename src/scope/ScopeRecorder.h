@@ -41,6 +41,8 @@ public:
 
     explicit ScopeRecorder(BoardApi& board);
 
+    // Takes effect at the next run(), like the settings: a record keeps the channels it was
+    // made with.
     void setChannel(int index, const ScopeChannel& channel);
     const ScopeChannel& channel(int index) const { return m_channels[static_cast<size_t>(index)]; }
     int enabledCount() const;
@@ -70,6 +72,7 @@ private:
 
     BoardApi& m_board;
     std::array<ScopeChannel, kChannels> m_channels{};
+    std::array<ScopeChannel, kChannels> m_recorded{}; // the channels of the current run
     Settings m_settings;
     Settings m_running; // the settings of the current run
     State m_state = State::Stopped;

@@ -178,6 +178,9 @@ private slots:
         QCOMPARE(record.columns.size(), size_t(3));
         QCOMPARE(recorder.state(), ScopeRecorder::State::Recording);
         recorder.stop();
+        // A stopped record keeps the channels it was made with.
+        recorder.setChannel(2, ScopeChannel{});
+        QCOMPARE(recorder.recording().columns.size(), size_t(3));
 
         // Armed while the axis already moves: the move in progress does not trigger, the
         // next start does; repeat re-arms and keeps the capture on show.
