@@ -323,7 +323,7 @@ void COV_ScopeWnd::refreshPlot()
     m_shown = m_viewingFile ? m_file : m_recorder.recording();
     updateSeries();
     updateXRange();
-    m_readout->show(m_shown, m_navigator->cursor(0), m_navigator->cursor(1));
+    m_readout->showValues(m_shown, m_navigator->cursor(0), m_navigator->cursor(1));
     updateControls();
 }
 
@@ -395,7 +395,7 @@ void COV_ScopeWnd::updateXRange()
 
 void COV_ScopeWnd::onCursorsChanged()
 {
-    m_readout->show(m_shown, m_navigator->cursor(0), m_navigator->cursor(1));
+    m_readout->showValues(m_shown, m_navigator->cursor(0), m_navigator->cursor(1));
 }
 
 void COV_ScopeWnd::drawOverlay(QPainter& painter, const PlotWidget& plot) const

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace {
 
@@ -109,14 +110,26 @@ QVector<QPointF> PredictedSpeedProfile::forRecording(const ScopeRecording& recor
         column >= static_cast<int>(recording.columns.size()) ||
         !recording.columns[static_cast<size_t>(column)].hasSettings)
         return {};
-    const double distance = recordedDistance(recording, column);
-    if (distance <= 0.0)
-        return {};
     const ScopeRecording::Column& speeds = recording.columns[static_cast<size_t>(column)];
     const int start = recording.indexAt(0.0);
+    if (start >= recording.sampleCount())
+        return {};
     const double sign = speeds.values[static_cast<size_t>(start)] < 0.0 ? -1.0 : 1.0;
-    const Move move = forDistance(speeds.settings, distance);
-    QVector<QPointF> points = SpeedProfileCurve::points(move.ramps, move.cruiseMs);
+    const double distance = recordedDistance(recording, column);
+    QVector<QPointF> points;
+    if (distance > 0.0) {
+        const Move move = forDistance(speeds.settings, distance);
+        points = SpeedProfileCurve::points(move.ramps, move.cruiseMs);
+    } else {
+        // Still moving: the ramp up and the drive speed up to the last sample; the way down
+        // follows once the move has told its length.
+        Move move = forDistance(speeds.settings, std::numeric_limits<double>::max());
+        move.ramps.decelMs = 0.0;
+        const double cruise = std::max(0.0, recording.times.back() - move.ramps.accelMs);
+        points = SpeedProfileCurve::points(move.ramps, cruise);
+        while (points.size() > 2 && points.last().y() < move.ramps.drive)
+            points.removeLast();
+    }
     for (QPointF& point : points)
         point.setY(point.y() * sign);
     return points;

@@ -33,6 +33,6 @@ public:
     // (samples joined by straight lines); negative while that move has not ended.
     static double recordedDistance(const ScopeRecording& recording, int column);
     // The predicted curve for that move from the trigger point, signed like the recorded
-    // speed; empty without settings or before the move has ended.
+    // speed; only the ramp up and the cruise while the move runs; empty without settings.
     static QVector<QPointF> forRecording(const ScopeRecording& recording, int column);
 };

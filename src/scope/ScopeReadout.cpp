@@ -57,7 +57,7 @@ double ScopeReadout::valueAt(const ScopeRecording& recording, int column, double
                       : recording.columns[static_cast<size_t>(column)].values[at];
 }
 
-void ScopeReadout::show(const ScopeRecording& recording, double cursor1, double cursor2)
+void ScopeReadout::showValues(const ScopeRecording& recording, double cursor1, double cursor2)
 {
     const bool any = !recording.isEmpty();
     setText(0, 0, QStringLiteral("Time [ms]"));

@@ -19,7 +19,7 @@ public:
 
     explicit ScopeReadout(QWidget* parent = nullptr);
 
-    void show(const ScopeRecording& recording, double cursor1, double cursor2);
+    void showValues(const ScopeRecording& recording, double cursor1, double cursor2);
     QString text(int row, int column) const;
 
     // The value of a column at a time: the last sample at or before it (the first sample
