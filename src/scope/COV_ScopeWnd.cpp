@@ -191,10 +191,7 @@ QWidget* COV_ScopeWnd::createFileButtons()
 void COV_ScopeWnd::connectControls()
 {
     connect(m_sampleTimer, &QTimer::timeout, this, [this] { sampleTick(); });
-    connect(m_drawTimer, &QTimer::timeout, this, [this] {
-        if (m_recorder.revision() != m_drawnRevision)
-            refreshPlot();
-    });
+    connect(m_drawTimer, &QTimer::timeout, this, [this] { drawTick(); });
     connect(m_run, &QPushButton::clicked, this, [this] { run(); });
     connect(m_stop, &QPushButton::clicked, this, [this] { stopRecording(); });
     connect(m_clear, &QPushButton::clicked, this, [this] { clearRecording(); });
@@ -315,6 +312,12 @@ void COV_ScopeWnd::sampleTick()
     // A single shot ends by itself.
     if (m_recorder.state() == ScopeRecorder::State::Stopped && m_sampleTimer->isActive())
         stopRecording();
+}
+
+void COV_ScopeWnd::drawTick()
+{
+    if (m_recorder.revision() != m_drawnRevision)
+        refreshPlot();
 }
 
 void COV_ScopeWnd::refreshPlot()

@@ -55,7 +55,8 @@ public:
     void fit();
     // What the sampling timer does: one sample at the clock's time.
     void sampleTick();
-    // What the drawing timer does when the record changed.
+    // What the drawing timer does: a redraw when the record changed since the last one.
+    void drawTick();
     void refreshPlot();
 
     bool exportCsv(const QString& path);

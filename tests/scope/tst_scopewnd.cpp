@@ -1,5 +1,6 @@
 #include "COV_ScopeWnd.h"
 #include "COV_SnMtnWnd.h"
+#include "PaintCounter.h"
 #include "PlotNavigator.h"
 #include "PlotWidget.h"
 #include "PredictedSpeedProfile.h"
@@ -111,6 +112,19 @@ private slots:
         QVERIFY(rig.window->savePng(rig.folder.filePath(QStringLiteral("plot.png"))));
         QVERIFY(!rig.window->openCsv(rig.folder.filePath(QStringLiteral("none.csv"))));
         QCOMPARE(rig.prompt.messages().size(), 1);
+
+        // The drawing tick leaves an unchanged record alone.
+        PaintCounter paints;
+        rig.window->plot().installEventFilter(&paints);
+        QCoreApplication::processEvents();
+        paints.paints = 0;
+        rig.window->drawTick();
+        QCoreApplication::processEvents();
+        QCOMPARE(paints.paints, 0);
+        rig.window->recorder().clear();
+        rig.window->drawTick();
+        QCoreApplication::processEvents();
+        QCOMPARE(paints.paints, 1);
     }
 
     void mouse_zoomBandPanCursorAndFit()
