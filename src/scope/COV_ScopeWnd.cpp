@@ -375,8 +375,9 @@ void COV_ScopeWnd::updateXRange()
 {
     const bool running = m_recorder.state() != ScopeRecorder::State::Stopped && !m_viewingFile;
     const double length = m_recorder.settings().lengthMs;
+    // Nothing yet: the window that a run will fill.
     double low = 0.0;
-    double high = 1.0;
+    double high = length;
     if (m_shown.triggered && !m_viewingFile) {
         low = -length * ScopeRecorder::kPreTriggerShare;
         high = length * (1.0 - ScopeRecorder::kPreTriggerShare);
@@ -389,7 +390,7 @@ void COV_ScopeWnd::updateXRange()
     }
     if (!m_userView)
         m_plot->setXRange(low, high);
-    if (m_placeCursors && !m_shown.isEmpty()) {
+    if (m_placeCursors) {
         m_placeCursors = false;
         m_navigator->setCursor(0, low + (high - low) * 0.25);
         m_navigator->setCursor(1, low + (high - low) * 0.75);
