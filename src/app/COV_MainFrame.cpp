@@ -134,7 +134,8 @@ void COV_MainFrame::createMenus()
                      [this] { runCommand(FrameCommand::ActualSpeedCalculator); });
     bar->addMenu(setup);
     QMenu* motion = createToolMenu(
-        QStringLiteral("Motion"), {{"Single Axis", ToolSingleAxis}, {"Multi Axis", ToolMultiAxis}});
+        QStringLiteral("Motion"),
+        {{"Single Axis", ToolSingleAxis}, {"Multi Axis", ToolMultiAxis}, {"Scope", ToolScope}});
     motion->addSeparator();
     motion->addAction(m_stopAll);
     bar->addMenu(motion);

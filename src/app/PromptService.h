@@ -17,8 +17,12 @@ public:
     virtual ~PromptService() = default;
     // A Yes/No question; true for Yes.
     virtual bool askYesNo(const QString& text) = 0;
-    // A Yes/No/Cancel question; Escape answers Cancel.
-    virtual PromptAnswer askYesNoCancel(const QString& text) = 0;
+    // A Yes/No/Cancel question; Escape answers Cancel. Services that cannot offer Cancel
+    // (nobody to answer) ask Yes/No.
+    virtual PromptAnswer askYesNoCancel(const QString& text)
+    {
+        return askYesNo(text) ? PromptAnswer::Yes : PromptAnswer::No;
+    }
     // A message with an OK button.
     virtual void inform(const QString& text) = 0;
 };

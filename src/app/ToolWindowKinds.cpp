@@ -9,6 +9,7 @@
 #include "COV_MnMtnWnd.h"
 #include "COV_PrmSuWnd.h"
 #include "COV_SavePrmDlg.h"
+#include "COV_ScopeWnd.h"
 #include "COV_SnMtnWnd.h"
 #include "COV_SysDbgWnd.h"
 #include "COV_SysIoWnd.h"
@@ -45,6 +46,7 @@ void registerToolWindows(ToolWindowFactory& factory)
     factory.registerKind(ToolDigitalIo, makerOf<COV_DIoWnd>());
     factory.registerKind(ToolAxisStatus, makerOf<COV_AxStMonWnd>());
     factory.registerKind(ToolSystemDiagnosis, makerOf<COV_SysDbgWnd>());
+    factory.registerKind(ToolScope, makerOf<COV_ScopeWnd>());
     factory.registerCommand(FrameCommand::SaveParameter, dialogOf<COV_SavePrmDlg>());
     factory.registerCommand(FrameCommand::SystemReset, dialogOf<COV_SysRstDlg>());
     factory.registerCommand(FrameCommand::ActualSpeedCalculator, dialogOf<COV_ActSpdCalDlg>());

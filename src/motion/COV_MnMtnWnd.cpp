@@ -133,6 +133,8 @@ void COV_MnMtnWnd::connectControls()
             [this](const QString& text) { onErrorLimitEdited(text); });
     connect(m_form.parameterSetup, &QPushButton::clicked, this,
             [this] { m_context.frame.sendToFrame(UM_OPEN_TOOL, ToolParameter); });
+    connect(m_form.scope, &QPushButton::clicked, this,
+            [this] { m_context.frame.sendToFrame(UM_OPEN_TOOL, ToolScope); });
     connect(m_form.close, &QPushButton::clicked, this, [this] { requestClose(); });
 }
 

@@ -140,6 +140,8 @@ QWidget* COV_SnMtnWnd::createButtonColumn()
     m_counterClear = makeButton(QStringLiteral("Counter Clear"), "counterClearButton");
     m_setPrm = makeButton(QStringLiteral("Set Prm"), "setPrmButton");
     m_parameterSetup = makeButton(QStringLiteral("Parameter Setup"), "parameterSetupButton");
+    m_scope = makeButton(QStringLiteral("Scope"), "scopeButton");
+    m_scope->setToolTip(QStringLiteral("Record this axis' positions and speed"));
     m_close = makeButton(QStringLiteral("Close"), "closeButton");
     m_eStop->setMinimumHeight(40);
     m_sStop->setMinimumHeight(40);
@@ -148,7 +150,7 @@ QWidget* COV_SnMtnWnd::createButtonColumn()
     layout->addSpacing(12);
     layout->addWidget(createMotionButtons());
     layout->addSpacing(12);
-    for (QPushButton* button : {m_alarmReset, m_counterClear, m_setPrm, m_parameterSetup})
+    for (QPushButton* button : {m_alarmReset, m_counterClear, m_setPrm, m_parameterSetup, m_scope})
         layout->addWidget(button);
     layout->addStretch();
     layout->addWidget(m_close);
@@ -177,6 +179,8 @@ void COV_SnMtnWnd::connectControls()
     connect(m_setPrm, &QPushButton::clicked, this, [this] { onSetPrmClicked(); });
     connect(m_parameterSetup, &QPushButton::clicked, this,
             [this] { m_context.frame.sendToFrame(UM_OPEN_TOOL, ToolParameter); });
+    connect(m_scope, &QPushButton::clicked, this,
+            [this] { m_context.frame.sendToFrame(UM_OPEN_TOOL, ToolScope); });
     connect(m_close, &QPushButton::clicked, this, [this] { requestClose(); });
     connect(m_ptpPage, &COV_SnMtnPtpWnd::motionTypeChanged, this,
             [this] { layoutMotionButtons(); });

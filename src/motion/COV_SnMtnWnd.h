@@ -105,6 +105,7 @@ private:
     QPushButton* m_counterClear = nullptr;
     QPushButton* m_setPrm = nullptr;
     QPushButton* m_parameterSetup = nullptr;
+    QPushButton* m_scope = nullptr;
     QPushButton* m_close = nullptr;
     JogReleaseGuard* m_jogGuard = nullptr;
 };

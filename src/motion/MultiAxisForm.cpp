@@ -184,6 +184,8 @@ QWidget* MultiAxisForm::createButtonColumn()
     alarmReset = makeButton(QStringLiteral("Alarm Reset"), "alarmResetButton");
     counterClear = makeButton(QStringLiteral("Counter Clear"), "counterClearButton");
     parameterSetup = makeButton(QStringLiteral("Parameter Setup"), "parameterSetupButton");
+    scope = makeButton(QStringLiteral("Scope"), "scopeButton");
+    scope->setToolTip(QStringLiteral("Record the axes' positions and speeds"));
     close = makeButton(QStringLiteral("Close"), "closeButton");
     for (QPushButton* big : {eStop, sStop})
         big->setMinimumHeight(40);
@@ -197,7 +199,7 @@ QWidget* MultiAxisForm::createButtonColumn()
     motionRow->addWidget(plus, 1);
     layout->addLayout(motionRow);
     layout->addSpacing(12);
-    for (QPushButton* button : {alarmReset, counterClear, parameterSetup})
+    for (QPushButton* button : {alarmReset, counterClear, parameterSetup, scope})
         layout->addWidget(button);
     layout->addStretch();
     layout->addWidget(close);

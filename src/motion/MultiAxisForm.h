@@ -50,6 +50,7 @@ public:
     QPushButton* alarmReset = nullptr;
     QPushButton* counterClear = nullptr;
     QPushButton* parameterSetup = nullptr;
+    QPushButton* scope = nullptr;
     QPushButton* close = nullptr;
     QPushButton* commandButton = nullptr;
     QPushButton* actualButton = nullptr;

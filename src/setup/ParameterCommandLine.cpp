@@ -30,11 +30,6 @@ public:
         m_err << text << Qt::endl;
         return false;
     }
-    PromptAnswer askYesNoCancel(const QString& text) override
-    {
-        m_err << text << Qt::endl;
-        return PromptAnswer::No;
-    }
     void inform(const QString& text) override { m_err << text << Qt::endl; }
 
 private:

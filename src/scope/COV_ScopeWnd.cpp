@@ -1,0 +1,459 @@
+#include "COV_ScopeWnd.h"
+
+#include "AppState.h"
+#include "PlotNavigator.h"
+#include "PlotTicks.h"
+#include "PlotWidget.h"
+#include "PredictedSpeedProfile.h"
+#include "PromptService.h"
+#include "ScopeChannelTable.h"
+#include "ScopeCsv.h"
+#include "ScopeReadout.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QElapsedTimer>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <memory>
+
+namespace {
+
+constexpr int kPeriods[] = {1, 2, 5, 10};
+constexpr int kDefaultPeriod = 1; // index of 2 ms
+constexpr int kLengthsS[] = {1, 2, 5, 10, 30, 60};
+constexpr int kDefaultLength = 3; // index of 10 s
+const QColor kPredictedColour(255, 140, 0);
+
+QPushButton* makeButton(const QString& caption, const char* name, const QString& tip)
+{
+    auto* button = new QPushButton(caption);
+    button->setObjectName(QLatin1String(name));
+    button->setToolTip(tip);
+    return button;
+}
+
+QComboBox* makeCombo(const char* name, const QString& tip)
+{
+    auto* combo = new QComboBox;
+    combo->setObjectName(QLatin1String(name));
+    combo->setToolTip(tip);
+    return combo;
+}
+
+// Rounded limits around a column's values, for a channel scaled on its own.
+std::pair<double, double> fittedRange(const std::vector<double>& values)
+{
+    if (values.empty())
+        return {0.0, 1.0};
+    const auto [low, high] = std::minmax_element(values.begin(), values.end());
+    const PlotTicks ticks = PlotTicks::forRange(*low, *high, 5);
+    return {ticks.roundedLow(), ticks.roundedHigh()};
+}
+
+} // namespace
+
+COV_ScopeWnd::COV_ScopeWnd(const ToolContext& context, QWidget* parent)
+    : ToolView(parent), m_context(context), m_recorder(context.board)
+{
+    setWindowTitle(QStringLiteral("Scope"));
+    auto elapsed = std::make_shared<QElapsedTimer>();
+    elapsed->start();
+    m_clock = [elapsed] { return double(elapsed->nsecsElapsed()) / 1e6; };
+
+    m_channels = new ScopeChannelTable(context.state.registry);
+    m_plot = new PlotWidget;
+    m_plot->setObjectName(QStringLiteral("scopePlot"));
+    m_plot->setAxisTitles(QStringLiteral("Time [ms]"), QString());
+    m_plot->setToolTip(QStringLiteral("Wheel: zoom; drag: pan; right or Shift drag: zoom to a "
+                                      "box; double click: fit; drag a dashed line: cursor"));
+    m_navigator = new PlotNavigator(m_plot);
+    m_plot->setOverlay(
+        [this](QPainter& painter, const PlotWidget& plot) { drawOverlay(painter, plot); });
+    m_readout = new ScopeReadout;
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(m_channels);
+    layout->addWidget(createSettingsRow());
+    layout->addWidget(m_plot, 1);
+    auto* bottom = new QHBoxLayout;
+    bottom->addWidget(m_readout, 1);
+    bottom->addWidget(createFileButtons(), 0, Qt::AlignTop);
+    layout->addLayout(bottom);
+
+    m_sampleTimer = new QTimer(this);
+    m_sampleTimer->setTimerType(Qt::PreciseTimer);
+    m_drawTimer = new QTimer(this);
+    m_drawTimer->setInterval(kDrawIntervalMs);
+    connectControls();
+
+    // The active axis, as the motion window that opened the scope shows it.
+    const ActiveController& active = context.state.active;
+    const ScopeChannel::Signal defaults[] = {
+        ScopeChannel::CommandSpeed, ScopeChannel::FollowingError, ScopeChannel::CommandPosition,
+        ScopeChannel::ActualPosition};
+    for (int i = 0; i < ScopeRecorder::kChannels; ++i) {
+        ScopeChannel channel;
+        channel.enabled = i < 2;
+        channel.family = active.family;
+        channel.card = active.card;
+        channel.axis = active.axis;
+        channel.signal = defaults[i];
+        m_channels->setChannel(i, channel);
+    }
+    applySettings();
+    updateControls();
+    refreshPlot();
+}
+
+COV_ScopeWnd::~COV_ScopeWnd() = default;
+
+QSize COV_ScopeWnd::sizeHint() const
+{
+    // Opens inside the frame's tool area at 1366x768 with the three panes shown.
+    return ToolView::sizeHint().boundedTo(QSize(860, 520));
+}
+
+QWidget* COV_ScopeWnd::createSettingsRow()
+{
+    auto* row = new QWidget;
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    m_period = makeCombo("period", QStringLiteral("Time between two samples"));
+    for (const int ms : kPeriods)
+        m_period->addItem(QStringLiteral("%1 ms").arg(ms), ms);
+    m_period->setCurrentIndex(kDefaultPeriod);
+    m_length = makeCombo("length", QStringLiteral("Time the record keeps (the ring's length)"));
+    for (const int seconds : kLengthsS)
+        m_length->addItem(QStringLiteral("%1 s").arg(seconds), seconds * 1000);
+    m_length->setCurrentIndex(kDefaultLength);
+    m_trigger = makeCombo("trigger", QStringLiteral("Free Run records at once; Axis Starts "
+                                                    "waits for the trigger channel's axis "
+                                                    "to start moving and keeps 10 % before"));
+    m_trigger->addItems({QStringLiteral("Free Run"), QStringLiteral("Axis Starts")});
+    m_triggerChannel = makeCombo("triggerChannel", QStringLiteral("Channel whose axis triggers"));
+    for (int i = 1; i <= ScopeRecorder::kChannels; ++i)
+        m_triggerChannel->addItem(QStringLiteral("Ch %1").arg(i));
+    m_repeat = new QCheckBox(QStringLiteral("Repeat"));
+    m_repeat->setObjectName(QStringLiteral("repeat"));
+    m_repeat->setToolTip(QStringLiteral("Re-arm after each capture instead of one single shot"));
+    m_run = makeButton(QStringLiteral("Run"), "runButton", QStringLiteral("Start recording"));
+    m_stop = makeButton(QStringLiteral("Stop"), "stopButton", QStringLiteral("Stop recording"));
+    m_clear =
+        makeButton(QStringLiteral("Clear"), "clearButton", QStringLiteral("Forget the record"));
+    m_status = new QLabel;
+    m_status->setObjectName(QStringLiteral("status"));
+    m_status->setMinimumWidth(
+        m_status->fontMetrics().horizontalAdvance(QStringLiteral("Waiting for trigger")));
+    layout->addWidget(new QLabel(QStringLiteral("Period")));
+    layout->addWidget(m_period);
+    layout->addWidget(new QLabel(QStringLiteral("Length")));
+    layout->addWidget(m_length);
+    layout->addWidget(new QLabel(QStringLiteral("Trigger")));
+    layout->addWidget(m_trigger);
+    layout->addWidget(m_triggerChannel);
+    layout->addWidget(m_repeat);
+    layout->addWidget(m_run);
+    layout->addWidget(m_stop);
+    layout->addWidget(m_clear);
+    layout->addStretch(1);
+    return row;
+}
+
+QWidget* COV_ScopeWnd::createFileButtons()
+{
+    auto* column = new QWidget;
+    auto* layout = new QVBoxLayout(column);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(2);
+    m_fit = makeButton(QStringLiteral("Fit"), "fitButton", QStringLiteral("Show the whole record"));
+    m_exportCsv = makeButton(QStringLiteral("Export CSV..."), "exportCsvButton",
+                             QStringLiteral("Write the record to a CSV file"));
+    m_openCsv = makeButton(QStringLiteral("Open CSV..."), "openCsvButton",
+                           QStringLiteral("View a record from a CSV file"));
+    m_savePng = makeButton(QStringLiteral("Save PNG..."), "savePngButton",
+                           QStringLiteral("Save the plot as a picture"));
+    // The state sits over the file buttons, out of the way of Run and Stop.
+    layout->addWidget(m_status, 0, Qt::AlignHCenter);
+    for (QPushButton* button : {m_fit, m_exportCsv, m_openCsv, m_savePng})
+        layout->addWidget(button);
+    return column;
+}
+
+void COV_ScopeWnd::connectControls()
+{
+    connect(m_sampleTimer, &QTimer::timeout, this, [this] { sampleTick(); });
+    connect(m_drawTimer, &QTimer::timeout, this, [this] { drawTick(); });
+    connect(m_run, &QPushButton::clicked, this, [this] { run(); });
+    connect(m_stop, &QPushButton::clicked, this, [this] { stopRecording(); });
+    connect(m_clear, &QPushButton::clicked, this, [this] { clearRecording(); });
+    connect(m_fit, &QPushButton::clicked, this, [this] { fit(); });
+    connect(m_navigator, &PlotNavigator::fitRequested, this, [this] { fit(); });
+    connect(m_navigator, &PlotNavigator::viewChanged, this, [this] { m_userView = true; });
+    connect(m_navigator, &PlotNavigator::cursorsChanged, this, [this] { onCursorsChanged(); });
+    connect(m_channels, &ScopeChannelTable::channelsChanged, this, [this] { applySettings(); });
+    connect(m_channels, &ScopeChannelTable::scalesChanged, this, [this] { refreshPlot(); });
+    connect(m_trigger, &QComboBox::currentIndexChanged, this, [this] { updateControls(); });
+    connect(m_exportCsv, &QPushButton::clicked, this, [this] {
+        const QString path = QFileDialog::getSaveFileName(
+            this, QStringLiteral("Export CSV"), QString(), QStringLiteral("CSV files (*.csv)"));
+        if (!path.isEmpty())
+            exportCsv(path);
+    });
+    connect(m_openCsv, &QPushButton::clicked, this, [this] {
+        const QString path = QFileDialog::getOpenFileName(
+            this, QStringLiteral("Open CSV"), QString(), QStringLiteral("CSV files (*.csv)"));
+        if (!path.isEmpty())
+            openCsv(path);
+    });
+    connect(m_savePng, &QPushButton::clicked, this, [this] {
+        const QString path = QFileDialog::getSaveFileName(
+            this, QStringLiteral("Save PNG"), QString(), QStringLiteral("PNG pictures (*.png)"));
+        if (!path.isEmpty())
+            savePng(path);
+    });
+}
+
+void COV_ScopeWnd::handleUserMessage(UserMessage, int)
+{
+    // Each channel names its own axis, so a change of the active controller changes nothing.
+}
+
+void COV_ScopeWnd::applySettings()
+{
+    for (int i = 0; i < ScopeRecorder::kChannels; ++i)
+        m_recorder.setChannel(i, m_channels->channel(i));
+    ScopeRecorder::Settings settings;
+    settings.periodMs = m_period->currentData().toInt();
+    settings.lengthMs = m_length->currentData().toInt();
+    settings.trigger = m_trigger->currentIndex() == 1 ? ScopeRecorder::Trigger::AxisStarts
+                                                      : ScopeRecorder::Trigger::FreeRun;
+    settings.triggerChannel = m_triggerChannel->currentIndex();
+    settings.repeat = m_repeat->isChecked();
+    m_recorder.setSettings(settings);
+}
+
+void COV_ScopeWnd::updateControls()
+{
+    const bool running = m_recorder.state() != ScopeRecorder::State::Stopped;
+    // What is read and how cannot change under a running record.
+    for (QWidget* widget :
+         std::initializer_list<QWidget*>{m_channels, m_period, m_length, m_trigger,
+                                         m_triggerChannel, m_repeat, m_run, m_openCsv})
+        widget->setEnabled(!running);
+    m_triggerChannel->setEnabled(!running && m_trigger->currentIndex() == 1);
+    m_repeat->setEnabled(!running && m_trigger->currentIndex() == 1);
+    m_stop->setEnabled(running);
+    QString status = QStringLiteral("Stopped");
+    if (m_recorder.state() == ScopeRecorder::State::Armed)
+        status = QStringLiteral("Waiting for trigger");
+    else if (running)
+        status = QStringLiteral("Recording");
+    else if (m_viewingFile)
+        status = QStringLiteral("Viewing file");
+    if (m_status->text() != status)
+        m_status->setText(status);
+}
+
+void COV_ScopeWnd::run()
+{
+    applySettings();
+    if (m_recorder.enabledCount() == 0) {
+        m_context.prompt.inform(QStringLiteral("Select at least one channel."));
+        return;
+    }
+    m_viewingFile = false;
+    m_userView = false;
+    m_placeCursors = true;
+    m_recorder.run(now());
+    m_sampleTimer->start(m_recorder.settings().periodMs);
+    m_drawTimer->start();
+    updateControls();
+    refreshPlot();
+}
+
+void COV_ScopeWnd::stopRecording()
+{
+    m_recorder.stop();
+    m_sampleTimer->stop();
+    m_drawTimer->stop();
+    updateControls();
+    refreshPlot();
+}
+
+void COV_ScopeWnd::clearRecording()
+{
+    m_recorder.clear();
+    m_viewingFile = false;
+    m_file = ScopeRecording();
+    m_placeCursors = true;
+    updateControls();
+    refreshPlot();
+}
+
+void COV_ScopeWnd::fit()
+{
+    m_userView = false;
+    m_placeCursors = true;
+    refreshPlot();
+}
+
+void COV_ScopeWnd::sampleTick()
+{
+    m_recorder.sample(now());
+    // A single shot ends by itself.
+    if (m_recorder.state() == ScopeRecorder::State::Stopped && m_sampleTimer->isActive())
+        stopRecording();
+}
+
+void COV_ScopeWnd::drawTick()
+{
+    if (m_recorder.revision() != m_drawnRevision)
+        refreshPlot();
+}
+
+void COV_ScopeWnd::refreshPlot()
+{
+    m_drawnRevision = m_recorder.revision();
+    m_shown = m_viewingFile ? m_file : m_recorder.recording();
+    updateSeries();
+    updateXRange();
+    m_readout->showValues(m_shown, m_navigator->cursor(0), m_navigator->cursor(1));
+    updateControls();
+}
+
+void COV_ScopeWnd::updateSeries()
+{
+    m_plot->clearSeries();
+    m_predicted.assign(m_shown.columns.size(), {});
+    QString leftTitle;
+    for (size_t c = 0; c < m_shown.columns.size(); ++c) {
+        const ScopeRecording::Column& column = m_shown.columns[c];
+        const int index = static_cast<int>(c);
+        const int channel = column.channel >= 0 ? column.channel : index;
+        QVector<QPointF> points;
+        points.reserve(static_cast<int>(column.values.size()));
+        for (size_t i = 0; i < column.values.size(); ++i)
+            points.append(QPointF(m_shown.times[i], column.values[i]));
+        const ScopeChannelTable::Scale scale =
+            column.channel >= 0 ? m_channels->scale(column.channel) : ScopeChannelTable::Scale{};
+        QString name = QStringLiteral("%1 [%2]").arg(column.name, column.unit);
+        if (c == 0) {
+            // The first column owns the labelled axis.
+            leftTitle = name;
+            if (scale.automatic)
+                m_plot->fitY();
+            else
+                m_plot->setYRange(scale.low, scale.high);
+        } else {
+            const auto [low, high] =
+                scale.automatic ? fittedRange(column.values) : std::pair{scale.low, scale.high};
+            m_plot->setSeriesYRange(index, low, high);
+            name += QStringLiteral("  %1 .. %2").arg(low).arg(high);
+        }
+        m_plot->setSeries(index, std::move(points), ScopeChannelTable::colour(channel), name);
+        if (column.unit == QLatin1String("pps"))
+            m_predicted[c] = PredictedSpeedProfile::forRecording(m_shown, index);
+    }
+    if (std::any_of(m_predicted.begin(), m_predicted.end(),
+                    [](const QVector<QPointF>& curve) { return !curve.isEmpty(); }))
+        // A series without points only names the overlay in the legend.
+        m_plot->setSeries(static_cast<int>(m_shown.columns.size()), {}, kPredictedColour,
+                          QStringLiteral("Predicted by the speed calculator"));
+    m_plot->setAxisTitles(QStringLiteral("Time [ms]"), leftTitle);
+}
+
+void COV_ScopeWnd::updateXRange()
+{
+    const bool running = m_recorder.state() != ScopeRecorder::State::Stopped && !m_viewingFile;
+    const double length = m_recorder.settings().lengthMs;
+    // Nothing yet: the window that a run will fill.
+    double low = 0.0;
+    double high = length;
+    if (m_shown.triggered && !m_viewingFile) {
+        low = -length * ScopeRecorder::kPreTriggerShare;
+        high = length * (1.0 - ScopeRecorder::kPreTriggerShare);
+    } else if (running && !m_shown.isEmpty()) {
+        high = std::max(m_shown.times.back(), length);
+        low = high - length;
+    } else if (!m_shown.isEmpty()) {
+        low = m_shown.times.front();
+        high = std::max(m_shown.times.back(), low + 1.0);
+    }
+    if (!m_userView)
+        m_plot->setXRange(low, high);
+    if (m_placeCursors) {
+        m_placeCursors = false;
+        m_navigator->setCursor(0, low + (high - low) * 0.25);
+        m_navigator->setCursor(1, low + (high - low) * 0.75);
+    }
+}
+
+void COV_ScopeWnd::onCursorsChanged()
+{
+    m_readout->showValues(m_shown, m_navigator->cursor(0), m_navigator->cursor(1));
+}
+
+void COV_ScopeWnd::drawOverlay(QPainter& painter, const PlotWidget& plot) const
+{
+    painter.setRenderHint(QPainter::Antialiasing, true);
+    for (size_t c = 0; c < m_predicted.size(); ++c) {
+        const QVector<QPointF>& curve = m_predicted[c];
+        if (curve.isEmpty())
+            continue;
+        const int index = static_cast<int>(c);
+        QPolygonF line;
+        line.reserve(curve.size());
+        for (const QPointF& point : curve)
+            line.append(QPointF(plot.xToPixel(point.x()), plot.yToPixel(index, point.y())));
+        // Long gaps let the recorded line show through where the two agree.
+        QPen pen(kPredictedColour, 2.0);
+        pen.setDashPattern({3.0, 3.0});
+        pen.setCosmetic(true);
+        painter.setPen(pen);
+        painter.drawPolyline(line);
+    }
+    m_navigator->paintCursors(painter, plot);
+}
+
+bool COV_ScopeWnd::exportCsv(const QString& path)
+{
+    QString error;
+    if (ScopeCsv::write(m_shown, path, &error))
+        return true;
+    m_context.prompt.inform(QStringLiteral("Can not write %1:\n%2").arg(path, error));
+    return false;
+}
+
+bool COV_ScopeWnd::openCsv(const QString& path)
+{
+    QString error;
+    std::optional<ScopeRecording> record = ScopeCsv::read(path, &error);
+    if (!record) {
+        m_context.prompt.inform(QStringLiteral("Can not read %1:\n%2").arg(path, error));
+        return false;
+    }
+    m_file = std::move(*record);
+    m_viewingFile = true;
+    m_userView = false;
+    m_placeCursors = true;
+    setWindowTitle(QStringLiteral("Scope - %1").arg(QFileInfo(path).fileName()));
+    refreshPlot();
+    return true;
+}
+
+bool COV_ScopeWnd::savePng(const QString& path)
+{
+    if (m_plot->grab().save(path, "PNG"))
+        return true;
+    m_context.prompt.inform(QStringLiteral("Can not write %1.").arg(path));
+    return false;
+}

@@ -1,0 +1,218 @@
+#include "PredictedSpeedProfile.h"
+#include "ScopeCsv.h"
+#include "ScopeRecorder.h"
+#include "ScopeSimRig.h"
+
+#include <QTest>
+
+#include <cmath>
+
+// The scope's acquisition on a simulated board: a recorded move against the calculator's
+// prediction, the trigger modes, and CSV files.
+class TestScopeRecorder : public QObject
+{
+    Q_OBJECT
+
+private:
+    static ScopeChannel channel(ScopeChannel::Signal signal)
+    {
+        ScopeChannel c;
+        c.enabled = true;
+        c.family = ScopeSimRig::Rl;
+        c.card = 0;
+        c.axis = ScopeSimRig::Axis;
+        c.signal = signal;
+        return c;
+    }
+    static void configure(ScopeRecorder& recorder, int periodMs, int lengthMs,
+                          ScopeRecorder::Trigger trigger, bool repeat = false)
+    {
+        recorder.setChannel(0, channel(ScopeChannel::CommandSpeed));
+        recorder.setChannel(1, channel(ScopeChannel::CommandPosition));
+        recorder.setChannel(2, channel(ScopeChannel::FollowingError));
+        ScopeRecorder::Settings settings;
+        settings.periodMs = periodMs;
+        settings.lengthMs = lengthMs;
+        settings.trigger = trigger;
+        settings.repeat = repeat;
+        recorder.setSettings(settings);
+    }
+    // Board and scope together, a millisecond at a time; `each` may start moves.
+    template <typename F>
+    static void runFor(ScopeSimRig& rig, ScopeRecorder& recorder, int ms, F each)
+    {
+        const int period = recorder.settings().periodMs;
+        for (int i = 0; i < ms; ++i) {
+            rig.advance(1);
+            each(rig.nowMs);
+            if (rig.nowMs % period == 0)
+                recorder.sample(rig.nowMs);
+        }
+    }
+    // Times of the recorded corners: top reached, top left, back at standstill.
+    static std::array<double, 3> recordedCorners(const ScopeRecording& record)
+    {
+        const std::vector<double>& v = record.columns[0].values;
+        const double top = *std::max_element(v.begin(), v.end());
+        int i = record.indexAt(0.0);
+        while (v[static_cast<size_t>(i)] < top - 0.5)
+            ++i;
+        const double reached = record.times[static_cast<size_t>(i)];
+        while (v[static_cast<size_t>(i)] >= top - 0.5)
+            ++i;
+        const double left = record.times[static_cast<size_t>(i)];
+        while (v[static_cast<size_t>(i)] != 0.0)
+            ++i;
+        return {reached, left, record.times[static_cast<size_t>(i)]};
+    }
+
+private slots:
+    void relativeMove_matchesPredictedCorners_data()
+    {
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<int>("initial");
+        QTest::addColumn<int>("accel");
+        QTest::addColumn<int>("decel");
+        QTest::addColumn<int>("distance");
+        QTest::addColumn<int>("period");
+        QTest::newRow("trapezoid 2 ms") << 0 << 1000 << 150 << 250 << 12000 << 2;
+        QTest::newRow("trapezoid 1 ms") << 0 << 500 << 80 << 40 << -9000 << 1;
+        QTest::newRow("trapezoid triangle 5 ms") << 0 << 1000 << 300 << 300 << 2000 << 5;
+        QTest::newRow("s-curve 2 ms") << 1 << 1000 << 200 << 200 << 15000 << 2;
+        QTest::newRow("s-curve triangle 10 ms") << 1 << 1000 << 400 << 400 << 3000 << 10;
+    }
+    void relativeMove_matchesPredictedCorners()
+    {
+        QFETCH(int, mode);
+        QFETCH(int, initial);
+        QFETCH(int, accel);
+        QFETCH(int, decel);
+        QFETCH(int, distance);
+        QFETCH(int, period);
+        ScopeSimRig rig;
+        QVERIFY(rig.start());
+        rig.setSpeeds(20000, initial, accel, decel, mode);
+        ScopeRecorder recorder(rig.api);
+        configure(recorder, period, 3000, ScopeRecorder::Trigger::AxisStarts);
+        recorder.run(rig.nowMs);
+        runFor(rig, recorder, 4000, [&](int ms) {
+            if (ms == 737)
+                rig.api.Inc_Move(ScopeSimRig::Rl, 0, ScopeSimRig::Axis, distance);
+        });
+        QCOMPARE(recorder.state(), ScopeRecorder::State::Stopped);
+        const ScopeRecording record = recorder.recording();
+        QVERIFY(record.triggered);
+        QCOMPARE(record.times.front(), -300.0);
+        QVERIFY(record.columns[0].hasSettings);
+        QCOMPARE(record.columns[1].values.back() - record.columns[1].values.front(),
+                 double(distance));
+
+        const double travelled = PredictedSpeedProfile::recordedDistance(record, 0);
+        QVERIFY2(std::fabs(travelled - std::abs(distance)) < std::abs(distance) * 0.01,
+                 qPrintable(QString::number(travelled)));
+        const PredictedSpeedProfile::Move move =
+            PredictedSpeedProfile::forDistance(record.columns[0].settings, travelled);
+        const std::array<double, 3> predicted{move.accelEndMs(), move.decelStartMs(), move.endMs()};
+        ScopeRecording magnitude = record;
+        for (double& v : magnitude.columns[0].values)
+            v = std::fabs(v);
+        const std::array<double, 3> recorded = recordedCorners(magnitude);
+        for (size_t i = 0; i < 3; ++i)
+            QVERIFY2(std::fabs(recorded[i] - predicted[i]) <= period,
+                     qPrintable(QStringLiteral("corner %1: recorded %2 ms, predicted %3 ms")
+                                    .arg(i)
+                                    .arg(recorded[i])
+                                    .arg(predicted[i])));
+        QVERIFY(!PredictedSpeedProfile::forRecording(record, 0).isEmpty());
+        if (move.cruiseMs > 0.0) {
+            // Seen while the axis cruises, the prediction ends at the drive speed, now.
+            ScopeRecording cut = record;
+            const auto keep =
+                static_cast<size_t>(cut.indexAt((move.accelEndMs() + move.decelStartMs()) / 2));
+            cut.times.resize(keep);
+            for (ScopeRecording::Column& column : cut.columns)
+                column.values.resize(keep);
+            QCOMPARE(PredictedSpeedProfile::forRecording(cut, 0).last(),
+                     QPointF(cut.times.back(), move.ramps.drive));
+        }
+
+        // The record goes to a file and comes back the same.
+        const QString path = rig.folder.filePath(QStringLiteral("move.csv"));
+        QVERIFY(ScopeCsv::write(record, path));
+        const std::optional<ScopeRecording> back = ScopeCsv::read(path);
+        QVERIFY(back.has_value());
+        QCOMPARE(back->times, record.times);
+        QCOMPARE(back->columns.size(), record.columns.size());
+        for (size_t c = 0; c < record.columns.size(); ++c) {
+            QCOMPARE(back->columns[c].name, record.columns[c].name);
+            QCOMPARE(back->columns[c].unit, record.columns[c].unit);
+            QCOMPARE(back->columns[c].values, record.columns[c].values);
+        }
+        QVERIFY(back->triggered);
+    }
+
+    void csv_refusesDamagedFiles_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::newRow("no time column") << QByteArray("Speed [pps]\n1\n");
+        QTest::newRow("short row") << QByteArray("Time [ms],A [pps]\n0,1\n2\n");
+        QTest::newRow("not a number") << QByteArray("Time [ms],A [pps]\n0,x\n");
+        QTest::newRow("time backwards") << QByteArray("Time [ms],A [pps]\n2,1\n1,1\n");
+    }
+    void csv_refusesDamagedFiles()
+    {
+        QFETCH(QByteArray, text);
+        QTemporaryDir folder;
+        QFile file(folder.filePath(QStringLiteral("bad.csv")));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(text);
+        file.close();
+        QString error;
+        QVERIFY(!ScopeCsv::read(file.fileName(), &error).has_value());
+        QVERIFY(!error.isEmpty());
+    }
+
+    void trigger_freeRunRingAndRepeat()
+    {
+        ScopeSimRig rig;
+        QVERIFY(rig.start());
+        rig.setSpeeds(20000, 1000, 50, 50, 0);
+        ScopeRecorder recorder(rig.api);
+
+        // Free run keeps the last window only, timed from Run.
+        configure(recorder, 5, 500, ScopeRecorder::Trigger::FreeRun);
+        recorder.run(rig.nowMs);
+        runFor(rig, recorder, 1200, [](int) {});
+        ScopeRecording record = recorder.recording();
+        QCOMPARE(record.times.back(), 1200.0);
+        QCOMPARE(record.times.front(), 700.0);
+        QCOMPARE(record.columns.size(), size_t(3));
+        QCOMPARE(recorder.state(), ScopeRecorder::State::Recording);
+        recorder.stop();
+        // A stopped record keeps the channels it was made with.
+        recorder.setChannel(2, ScopeChannel{});
+        QCOMPARE(recorder.recording().columns.size(), size_t(3));
+
+        // Armed while the axis already moves: the move in progress does not trigger, the
+        // next start does; repeat re-arms and keeps the capture on show.
+        configure(recorder, 2, 400, ScopeRecorder::Trigger::AxisStarts, true);
+        rig.api.Inc_Move(ScopeSimRig::Rl, 0, ScopeSimRig::Axis, 3000);
+        recorder.run(rig.nowMs);
+        runFor(rig, recorder, 100, [](int) {});
+        QCOMPARE(recorder.state(), ScopeRecorder::State::Armed);
+        runFor(rig, recorder, 1000, [&](int ms) {
+            if (ms == 1500)
+                rig.api.Inc_Move(ScopeSimRig::Rl, 0, ScopeSimRig::Axis, 2000);
+        });
+        QCOMPARE(recorder.capturesTaken(), 1);
+        QCOMPARE(recorder.state(), ScopeRecorder::State::Armed);
+        record = recorder.recording();
+        QVERIFY(record.triggered);
+        QCOMPARE(record.times.front(), -40.0);
+        QCOMPARE(record.times.back(), 360.0);
+        QCOMPARE(record.columns[1].values.back(), 5000.0);
+    }
+};
+
+QTEST_MAIN(TestScopeRecorder)
+#include "tst_scoperecorder.moc"

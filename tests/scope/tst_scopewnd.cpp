@@ -1,0 +1,211 @@
+#include "COV_ScopeWnd.h"
+#include "COV_SnMtnWnd.h"
+#include "PaintCounter.h"
+#include "PlotNavigator.h"
+#include "PlotWidget.h"
+#include "PredictedSpeedProfile.h"
+#include "RecordingFrame.h"
+#include "ScopeChannelTable.h"
+#include "ScopeCsv.h"
+#include "ScopeReadout.h"
+#include "ScopeSimRig.h"
+#include "ScriptedPrompt.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+#include <QWheelEvent>
+
+#include <memory>
+
+// The scope window on a simulated board: recording a move from Run to the cursor readout,
+// files, the mouse on the plot, and the single-axis window's button.
+class TestScopeWnd : public QObject
+{
+    Q_OBJECT
+
+private:
+    struct Rig : ScopeSimRig
+    {
+        ScriptedPrompt prompt;
+        RecordingFrame frame;
+        ToolContext context{state, api, prompt, frame};
+        std::unique_ptr<COV_ScopeWnd> window;
+
+        bool open()
+        {
+            if (!start())
+                return false;
+            window = std::make_unique<COV_ScopeWnd>(context);
+            window->setClock([this] { return double(nowMs); });
+            window->resize(window->sizeHint());
+            return true;
+        }
+        template <typename T> T* find(const char* name) const
+        {
+            return window->findChild<T*>(QLatin1String(name));
+        }
+        QString status() const { return find<QLabel>("status")->text(); }
+    };
+
+private slots:
+    void recordedMove_readoutOverlayAndFiles_data()
+    {
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<QString>("shot");
+        QTest::newRow("trapezoid") << 0 << QStringLiteral("trapezoid");
+        QTest::newRow("s-curve") << 1 << QStringLiteral("s-curve");
+    }
+    void recordedMove_readoutOverlayAndFiles()
+    {
+        QFETCH(int, mode);
+        QFETCH(QString, shot);
+        Rig rig;
+        QVERIFY(rig.open());
+        rig.setSpeeds(16000, 1000, 250, 400, mode);
+        rig.find<QComboBox>("length")->setCurrentIndex(1); // 2 s
+        rig.find<QComboBox>("trigger")->setCurrentIndex(1);
+        rig.find<QCheckBox>("channel3")->setChecked(true);
+        QTest::mouseClick(rig.find<QPushButton>("runButton"), Qt::LeftButton);
+        QCOMPARE(rig.status(), QStringLiteral("Waiting for trigger"));
+        QVERIFY(!rig.find<QPushButton>("runButton")->isEnabled());
+        for (int ms = 1;
+             ms <= 3000 && rig.window->recorder().state() != ScopeRecorder::State::Stopped; ++ms) {
+            rig.advance(1);
+            if (ms == 400)
+                rig.api.Inc_Move(ScopeSimRig::Rl, 0, ScopeSimRig::Axis, 9000);
+            if (ms % 2 == 0)
+                rig.window->sampleTick();
+        }
+        // A single shot stops by itself and shows what it caught.
+        QCOMPARE(rig.status(), QStringLiteral("Stopped"));
+        QVERIFY(rig.find<QPushButton>("runButton")->isEnabled());
+        const ScopeRecording shown = rig.window->shown();
+        QCOMPARE(shown.times.front(), -200.0);
+        QCOMPARE(shown.columns.size(), size_t(3));
+        QVERIFY(!PredictedSpeedProfile::forRecording(shown, 0).isEmpty());
+
+        // Cursors on the cruise and after the stop: drive speed, then standstill on target.
+        const PredictedSpeedProfile::Move move = PredictedSpeedProfile::forDistance(
+            shown.columns[0].settings, PredictedSpeedProfile::recordedDistance(shown, 0));
+        rig.window->navigator().setCursor(0, (move.accelEndMs() + move.decelStartMs()) / 2);
+        rig.window->navigator().setCursor(1, move.endMs() + 50);
+        const ScopeReadout& readout = rig.window->readout();
+        QCOMPARE(readout.text(1, 1), QStringLiteral("16000"));
+        QCOMPARE(readout.text(1, 2), QStringLiteral("0"));
+        QCOMPARE(readout.text(1, 3), QStringLiteral("-16000"));
+        QCOMPARE(readout.text(2, 2), QStringLiteral("0"));
+        QCOMPARE(readout.text(0, 0), QStringLiteral("Time [ms]"));
+
+        rig.window->show();
+        QVERIFY(rig.window->grab().save(QStringLiteral("/tmp/orvane-scope-%1.png").arg(shot)));
+
+        const QString csv = rig.folder.filePath(QStringLiteral("move.csv"));
+        QVERIFY(rig.window->exportCsv(csv));
+        QVERIFY(rig.window->openCsv(csv));
+        QCOMPARE(rig.status(), QStringLiteral("Viewing file"));
+        QCOMPARE(rig.window->shown().times, shown.times);
+        QCOMPARE(rig.window->shown().columns[1].values, shown.columns[1].values);
+        QVERIFY(rig.window->windowTitle().endsWith(QStringLiteral("move.csv")));
+        QVERIFY(rig.window->savePng(rig.folder.filePath(QStringLiteral("plot.png"))));
+        QVERIFY(!rig.window->openCsv(rig.folder.filePath(QStringLiteral("none.csv"))));
+        QCOMPARE(rig.prompt.messages().size(), 1);
+
+        // The drawing tick leaves an unchanged record alone.
+        PaintCounter paints;
+        rig.window->plot().installEventFilter(&paints);
+        QCoreApplication::processEvents();
+        paints.paints = 0;
+        rig.window->drawTick();
+        QCoreApplication::processEvents();
+        QCOMPARE(paints.paints, 0);
+        rig.window->recorder().clear();
+        rig.window->drawTick();
+        QCoreApplication::processEvents();
+        QCOMPARE(paints.paints, 1);
+    }
+
+    void mouse_zoomBandPanCursorAndFit()
+    {
+        Rig rig;
+        QVERIFY(rig.open());
+        ScopeRecording record;
+        for (int i = 0; i <= 1000; ++i)
+            record.times.push_back(i);
+        record.columns.push_back({QStringLiteral("A"),
+                                  QStringLiteral("pps"),
+                                  std::vector<double>(record.times),
+                                  -1,
+                                  false,
+                                  {}});
+        const QString csv = rig.folder.filePath(QStringLiteral("ramp.csv"));
+        QVERIFY(ScopeCsv::write(record, csv));
+        QVERIFY(rig.window->openCsv(csv));
+        rig.window->show();
+        rig.window->grab(); // lays the plot out
+        PlotWidget& plot = rig.window->plot();
+        const QRectF area = plot.plotArea();
+        QCOMPARE(plot.xLow(), 0.0);
+        QCOMPARE(plot.xHigh(), 1000.0);
+
+        // The wheel zooms about the pointer.
+        const QPointF centre = area.center();
+        const double anchor = plot.pixelToX(centre.x());
+        QWheelEvent wheel(centre, plot.mapToGlobal(centre), QPoint(), QPoint(0, 120), Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&plot, &wheel);
+        QCOMPARE(plot.xHigh() - plot.xLow(), 800.0);
+        QVERIFY(qAbs(plot.pixelToX(centre.x()) - anchor) < 1e-6);
+
+        // A right drag zooms to the band, a left drag pans by the distance dragged.
+        const QPoint from(int(area.left()) + 100, int(centre.y()));
+        const QPoint to = from + QPoint(200, 30);
+        const double bandLow = plot.pixelToX(from.x());
+        const double bandHigh = plot.pixelToX(to.x());
+        QTest::mousePress(&plot, Qt::RightButton, {}, from);
+        QTest::mouseMove(&plot, to);
+        QTest::mouseRelease(&plot, Qt::RightButton, {}, to);
+        QVERIFY(qAbs(plot.xLow() - bandLow) < 1e-6 && qAbs(plot.xHigh() - bandHigh) < 1e-6);
+        const double span = plot.xHigh() - plot.xLow();
+        const QPoint grab(int(area.left()) + 10, int(centre.y()));
+        QTest::mousePress(&plot, Qt::LeftButton, {}, grab);
+        QTest::mouseMove(&plot, grab + QPoint(int(area.width() / 2), 0));
+        QTest::mouseRelease(&plot, Qt::LeftButton, {}, grab + QPoint(int(area.width() / 2), 0));
+        QVERIFY(qAbs(plot.xLow() - (bandLow - span / 2)) < span * 0.01);
+
+        // A cursor follows its line when dragged, and the readout with it.
+        rig.window->fit();
+        rig.window->grab();
+        QCOMPARE(plot.xLow(), 0.0);
+        PlotNavigator& navigator = rig.window->navigator();
+        const QPoint line(qRound(plot.xToPixel(navigator.cursor(0))), int(centre.y()));
+        QTest::mousePress(&plot, Qt::LeftButton, {}, line);
+        QTest::mouseMove(&plot, QPoint(qRound(plot.xToPixel(600.0)), line.y()));
+        QTest::mouseRelease(&plot, Qt::LeftButton, {}, QPoint(qRound(plot.xToPixel(600.0)), 0));
+        QVERIFY(qAbs(navigator.cursor(0) - 600.0) < 2.0);
+        QCOMPARE(plot.xLow(), 0.0);
+        QVERIFY(qAbs(rig.window->readout().text(0, 1).toDouble() - navigator.cursor(0)) < 1e-3);
+        QCOMPARE(rig.window->readout().text(1, 1),
+                 QString::number(std::floor(navigator.cursor(0))));
+    }
+
+    void singleAxisScopeButton_asksTheFrame()
+    {
+        Rig rig;
+        QVERIFY(rig.start());
+        COV_SnMtnWnd single(rig.context);
+        QTest::mouseClick(single.findChild<QPushButton*>("scopeButton"), Qt::LeftButton);
+        QVERIFY(rig.frame.sent.contains(qMakePair(int(UM_OPEN_TOOL), int(ToolScope))));
+        // The scope opened from there watches the axis that window moves.
+        COV_ScopeWnd scope(rig.context);
+        // It fits the frame's tool area at 1366x768 with the panes shown.
+        QVERIFY(scope.minimumSizeHint().width() <= 860 && scope.sizeHint().height() <= 520);
+        QCOMPARE(scope.channels().channel(0).axis, int(ScopeSimRig::Axis));
+        QCOMPARE(scope.channels().channel(0).signal, ScopeChannel::CommandSpeed);
+    }
+};
+
+QTEST_MAIN(TestScopeWnd)
+#include "tst_scopewnd.moc"
