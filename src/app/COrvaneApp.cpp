@@ -12,6 +12,7 @@ COrvaneApp::COrvaneApp()
     QApplication::setApplicationName(QStringLiteral("Orvane"));
     m_state.moduleDirectory =
         QDir(QCoreApplication::applicationDirPath()).absolutePath() + QLatin1Char('/');
+    m_board.setTrace(&m_trace);
 }
 
 COrvaneApp::~COrvaneApp()

@@ -29,6 +29,7 @@ public:
 
 private:
     AppState m_state;
+    BoardCallTrace m_trace;
     BoardApi m_board;
     MessageBoxPrompt m_prompt;
     ToolWindowFactory m_factory;

@@ -30,6 +30,7 @@ enum ToolKind : int
     ToolMultiAxis = 104,
     ToolAxisStatus = 105,
     ToolSystemDiagnosis = 106,
+    ToolBoardCalls = 107,
 };
 constexpr int kToolKindFirst = ToolSystemIo;
-constexpr int kToolKindLast = ToolSystemDiagnosis;
+constexpr int kToolKindLast = ToolBoardCalls;

@@ -1,3 +1,4 @@
+#include "COV_BoardCallWnd.h"
 #include "COV_SnMtnWnd.h"
 #include "COrvaneApp.h"
 
@@ -11,6 +12,10 @@ int main(int argc, char* argv[])
     app.toolWindows().registerKind(ToolSingleAxis,
                                    [](const ToolContext& context, QWidget* parent) -> ToolView* {
                                        return new COV_SnMtnWnd(context, parent);
+                                   });
+    app.toolWindows().registerKind(ToolBoardCalls,
+                                   [](const ToolContext& context, QWidget* parent) -> ToolView* {
+                                       return new COV_BoardCallWnd(context, parent);
                                    });
     return app.run();
 }

@@ -1,0 +1,116 @@
+#pragma once
+
+#include "BoardCall.h"
+#include "BoardFamily.h"
+
+#include <chrono>
+#include <cstdint>
+#include <type_traits>
+#include <vector>
+
+// The last calls made to the board libraries, in a ring of fixed size allocated once: recording
+// a call writes one slot and allocates nothing. Calls are numbered from the start; a number
+// stays valid until the ring has gone round over it or the trace is cleared.
+class BoardCallTrace
+{
+public:
+    static constexpr std::size_t kDefaultCapacity = 100000;
+
+    explicit BoardCallTrace(std::size_t capacity = kDefaultCapacity);
+
+    std::size_t capacity() const { return m_entries.size(); }
+    // Number of the oldest call kept, and one past the newest.
+    std::uint64_t begin() const
+    {
+        const std::uint64_t kept = m_end - m_cleared;
+        return kept > m_entries.size() ? m_end - m_entries.size() : m_cleared;
+    }
+    std::uint64_t end() const { return m_end; }
+    bool contains(std::uint64_t number) const { return number >= begin() && number < m_end; }
+    const BoardCall& at(std::uint64_t number) const
+    {
+        return m_entries[static_cast<std::size_t>(number % m_entries.size())];
+    }
+    void clear() { m_cleared = m_end; }
+
+    // While paused nothing is kept, but refusals are still counted.
+    void setPaused(bool paused) { m_paused = paused; }
+    bool isPaused() const { return m_paused; }
+
+    // Refused calls (a negative status) seen so far, and the newest of them.
+    std::uint64_t failureCount() const { return m_failures; }
+    const BoardCall& lastFailure() const { return m_lastFailure; }
+
+    // Microseconds since the trace began.
+    std::int64_t nowUs() const
+    {
+        return std::chrono::duration_cast<std::chrono::microseconds>(Clock::now() - m_start)
+            .count();
+    }
+
+    template <typename R, typename... A>
+    void record(BoardOp op, BoardFamily family, std::uint16_t caller, R result, A... args)
+    {
+        BoardCall& call = m_paused ? m_scratch : m_entries[m_slot];
+        call.timeUs = nowUs();
+        call.result = static_cast<std::int32_t>(result);
+        call.op = op;
+        call.caller = caller;
+        call.family = static_cast<std::uint8_t>(familyIndex(family));
+        Flattener flat{call};
+        (flat.put(args), ...);
+        call.valueCount = flat.count;
+        if (call.failed()) {
+            m_lastFailure = call;
+            ++m_failures;
+        }
+        if (m_paused)
+            return;
+        if (++m_slot == m_entries.size())
+            m_slot = 0;
+        ++m_end;
+    }
+
+private:
+    using Clock = std::chrono::steady_clock;
+
+    // Writes arguments into a call's values in parameter order.
+    struct Flattener
+    {
+        BoardCall& call;
+        std::uint8_t count = 0;
+        std::int32_t length = 0; // the last plain number: the length of the arrays after it
+
+        void push(std::int32_t value)
+        {
+            if (count < BoardCall::kMaxValues)
+                call.values[count++] = value;
+        }
+        template <typename T> void put(T value)
+        {
+            if constexpr (std::is_integral_v<T>) {
+                push(static_cast<std::int32_t>(value));
+                length = static_cast<std::int32_t>(value);
+            } else if constexpr (std::is_same_v<T, const char*>) {
+                // texts are not kept
+            } else if constexpr (std::is_const_v<std::remove_pointer_t<T>>) {
+                const std::int32_t n =
+                    length < BoardCall::kMaxArray ? length : BoardCall::kMaxArray;
+                for (std::int32_t i = 0; i < n; ++i)
+                    push(value ? static_cast<std::int32_t>(value[i]) : 0);
+            } else {
+                push(value ? static_cast<std::int32_t>(*value) : 0);
+            }
+        }
+    };
+
+    std::vector<BoardCall> m_entries;
+    std::size_t m_slot = 0;
+    std::uint64_t m_end = 0;
+    std::uint64_t m_cleared = 0;
+    std::uint64_t m_failures = 0;
+    bool m_paused = false;
+    BoardCall m_lastFailure{};
+    BoardCall m_scratch{}; // where a call goes while paused, to be judged
+    Clock::time_point m_start;
+};
