@@ -1,5 +1,6 @@
 #include "COrvaneApp.h"
 
+#include "BoardCallClock.h"
 #include "BoardLoader.h"
 #include "COV_MainFrame.h"
 
@@ -13,6 +14,8 @@ COrvaneApp::COrvaneApp()
     m_state.moduleDirectory =
         QDir(QCoreApplication::applicationDirPath()).absolutePath() + QLatin1Char('/');
     m_board.setTrace(&m_trace);
+    m_traceClock = std::make_unique<BoardCallClock>(m_trace);
+    qApp->installEventFilter(m_traceClock.get());
 }
 
 COrvaneApp::~COrvaneApp()

@@ -41,6 +41,13 @@ public:
     std::uint64_t failureCount() const { return m_failures; }
     const BoardCall& lastFailure() const { return m_lastFailure; }
 
+    // Reading the clock can cost more than the rest of a recording (170 ns on a virtual
+    // machine), so it may be read for the first call after markEvent() and then only every
+    // `calls` calls; the calls in between carry the last time read. 1 reads it for every call.
+    void setClockEvery(int calls) { m_clockEvery = calls > 0 ? calls : 1; }
+    // A new event is being delivered: the next call reads the clock.
+    void markEvent() { m_clockDue = 0; }
+
     // Microseconds since the trace began.
     std::int64_t nowUs() const
     {
@@ -52,14 +59,22 @@ public:
     void record(BoardOp op, BoardFamily family, std::uint16_t caller, R result, A... args)
     {
         BoardCall& call = m_paused ? m_scratch : m_entries[m_slot];
-        call.timeUs = nowUs();
+        if (m_clockDue <= 0) {
+            m_timeUs = nowUs();
+            m_clockDue = m_clockEvery;
+        }
+        --m_clockDue;
+        call.timeUs = m_timeUs;
         call.result = static_cast<std::int32_t>(result);
         call.op = op;
         call.caller = caller;
         call.family = static_cast<std::uint8_t>(familyIndex(family));
-        Flattener flat{call};
-        (flat.put(args), ...);
-        call.valueCount = flat.count;
+        static_assert((0 + ... + slotsOf<A>()) <= BoardCall::kMaxValues, "a call too wide to keep");
+        int at = 0;
+        std::int32_t length = 0;
+        ((at = put(call.values.data(), at, length, args)), ...);
+        (void)length; // operations without arguments
+        call.valueCount = static_cast<std::uint8_t>(at);
         if (call.failed()) {
             m_lastFailure = call;
             ++m_failures;
@@ -74,35 +89,41 @@ public:
 private:
     using Clock = std::chrono::steady_clock;
 
-    // Writes arguments into a call's values in parameter order.
-    struct Flattener
+    // Slots an argument of this type takes at most.
+    template <typename T> static constexpr int slotsOf()
     {
-        BoardCall& call;
-        std::uint8_t count = 0;
-        std::int32_t length = 0; // the last plain number: the length of the arrays after it
+        if constexpr (std::is_same_v<T, const char*>)
+            return 0; // texts are not kept
+        else if constexpr (std::is_pointer_v<T> && std::is_const_v<std::remove_pointer_t<T>>)
+            return BoardCall::kMaxArray;
+        else
+            return 1;
+    }
 
-        void push(std::int32_t value)
-        {
-            if (count < BoardCall::kMaxValues)
-                call.values[count++] = value;
+    // Writes one argument at values[at]; `length` is the last plain number, the length of the
+    // arrays after it. Returns the next free slot.
+    template <typename T>
+    static int put(std::int32_t* values, int at, std::int32_t& length, T value)
+    {
+        if constexpr (std::is_integral_v<T>) {
+            values[at] = static_cast<std::int32_t>(value);
+            length = values[at];
+            return at + 1;
+        } else if constexpr (std::is_same_v<T, const char*>) {
+            return at;
+        } else if constexpr (std::is_const_v<std::remove_pointer_t<T>>) {
+            const int n =
+                length < 0 ? 0 : (length < BoardCall::kMaxArray ? length : BoardCall::kMaxArray);
+            if (value == nullptr)
+                return at;
+            for (int i = 0; i < n; ++i)
+                values[at + i] = static_cast<std::int32_t>(value[i]);
+            return at + n;
+        } else {
+            values[at] = value ? static_cast<std::int32_t>(*value) : 0;
+            return at + 1;
         }
-        template <typename T> void put(T value)
-        {
-            if constexpr (std::is_integral_v<T>) {
-                push(static_cast<std::int32_t>(value));
-                length = static_cast<std::int32_t>(value);
-            } else if constexpr (std::is_same_v<T, const char*>) {
-                // texts are not kept
-            } else if constexpr (std::is_const_v<std::remove_pointer_t<T>>) {
-                const std::int32_t n =
-                    length < BoardCall::kMaxArray ? length : BoardCall::kMaxArray;
-                for (std::int32_t i = 0; i < n; ++i)
-                    push(value ? static_cast<std::int32_t>(value[i]) : 0);
-            } else {
-                push(value ? static_cast<std::int32_t>(*value) : 0);
-            }
-        }
-    };
+    }
 
     std::vector<BoardCall> m_entries;
     std::size_t m_slot = 0;
@@ -110,6 +131,9 @@ private:
     std::uint64_t m_cleared = 0;
     std::uint64_t m_failures = 0;
     bool m_paused = false;
+    int m_clockEvery = 1;
+    int m_clockDue = 0;
+    std::int64_t m_timeUs = 0;
     BoardCall m_lastFailure{};
     BoardCall m_scratch{}; // where a call goes while paused, to be judged
     Clock::time_point m_start;
