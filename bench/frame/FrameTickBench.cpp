@@ -2,19 +2,26 @@
 // the simulated boards, and can save a picture of the frame.
 //
 //   orvane_bench_frame [--boards largest|default] [--ticks N] [--screenshot file.png]
+//                      [--show-polling]
 //
+// The board call trace records as in the program, and the Board Calls window is open; its own
+// 10 ms tick is timed apart (--show-polling: with the polling reads listed, every call a row).
 // "largest" is 3 families x 8 cards x 8 axes; "default" is the simulator's built-in set. The
 // simulator's files go to a temporary folder, so the build's own folder is left alone.
 
 #include "AppState.h"
 #include "BoardApi.h"
+#include "BoardCallClock.h"
 #include "BoardLoader.h"
+#include "COV_BoardCallWnd.h"
 #include "COV_MainFrame.h"
 #include "COV_SnMtnWnd.h"
 #include "MessageBoxPrompt.h"
 #include "ToolWindowFactory.h"
+#include "ToolWindowHost.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QCommandLineParser>
 #include <QDir>
 #include <QElapsedTimer>
@@ -89,6 +96,7 @@ int main(int argc, char* argv[])
     options.addOption({"boards", "largest or default", "set", "largest"});
     options.addOption({"ticks", "ticks to time", "count", "2000"});
     options.addOption({"screenshot", "save the frame as a PNG", "file"});
+    options.addOption({"show-polling", "list the polling reads in the Board Calls window"});
     options.process(qtApp);
 
     QTemporaryDir data;
@@ -104,10 +112,17 @@ int main(int argc, char* argv[])
     BoardApi board;
     for (BoardFamily family : kAllFamilies)
         board.setTable(family, loader.table(family));
+    BoardCallTrace trace;
+    board.setTrace(&trace);
+    BoardCallClock traceClock(trace);
+    qtApp.installEventFilter(&traceClock);
     MessageBoxPrompt prompt;
     ToolWindowFactory factory;
     factory.registerKind(ToolSingleAxis, [](const ToolContext& c, QWidget* p) -> ToolView* {
         return new COV_SnMtnWnd(c, p);
+    });
+    factory.registerKind(ToolBoardCalls, [](const ToolContext& c, QWidget* p) -> ToolView* {
+        return new COV_BoardCallWnd(c, p);
     });
 
     COV_MainFrame frame(state, board, prompt, factory);
@@ -118,8 +133,13 @@ int main(int argc, char* argv[])
     frame.monitorTimer().stop();
     frame.resize(1400, 900);
     frame.show();
-    if (!options.isSet("screenshot"))
+    if (!options.isSet("screenshot")) {
         frame.sendToFrame(UM_OPEN_TOOL, ToolSingleAxis);
+        frame.sendToFrame(UM_OPEN_TOOL, ToolBoardCalls);
+    }
+    auto* calls = static_cast<COV_BoardCallWnd*>(frame.toolWindows().view(ToolBoardCalls));
+    if (calls && options.isSet("show-polling"))
+        calls->findChild<QCheckBox*>(QStringLiteral("hidePolling"))->setChecked(false);
     QApplication::processEvents();
     jogActiveCard(state, board);
 
@@ -132,13 +152,20 @@ int main(int argc, char* argv[])
     const int ticks = options.value("ticks").toInt();
     std::vector<double> tickOnly;
     std::vector<double> withPaint;
+    std::vector<double> callsTick;
     tickOnly.reserve(static_cast<std::size_t>(ticks));
     withPaint.reserve(static_cast<std::size_t>(ticks));
     QElapsedTimer clock;
+    const std::uint64_t recordedBefore = trace.end();
     for (int i = 0; i < ticks; ++i) {
         clock.start();
         frame.MonitorTick();
         const qint64 afterTick = clock.nsecsElapsed();
+        if (calls) {
+            clock.start();
+            calls->tick();
+            callsTick.push_back(static_cast<double>(clock.nsecsElapsed()) / 1000.0);
+        }
         QApplication::processEvents(); // the repaints the tick asked for
         const qint64 afterPaint = clock.nsecsElapsed();
         tickOnly.push_back(static_cast<double>(afterTick) / 1000.0);
@@ -157,6 +184,12 @@ int main(int argc, char* argv[])
     std::printf("MonitorTick over %d ticks, every pane open:\n", ticks);
     report("  tick (board reads, widgets)", tickOnly);
     report("  tick and its repaints", withPaint);
+    if (calls) {
+        std::printf("Board Calls window (%s), %.1f calls recorded per tick:\n",
+                    options.isSet("show-polling") ? "polling reads shown" : "polling reads hidden",
+                    static_cast<double>(trace.end() - recordedBefore) / ticks);
+        report("  its own tick", callsTick);
+    }
 
     if (options.isSet("screenshot")) {
         frame.sendToFrame(UM_OPEN_TOOL, ToolSingleAxis);

@@ -57,7 +57,7 @@ COV_BoardCallWnd::COV_BoardCallWnd(const ToolContext& context, QWidget* parent)
     applyFilters();
 
     m_timer.setInterval(kRefreshIntervalMs);
-    connect(&m_timer, &QTimer::timeout, this, [this] { refresh(); });
+    connect(&m_timer, &QTimer::timeout, this, [this] { tick(); });
     m_timer.start();
 }
 
@@ -202,6 +202,14 @@ void COV_BoardCallWnd::applyFilters()
     filter.failuresOnly = m_failuresOnly->isChecked();
     m_model->setFilter(filter);
     m_table->scrollToBottom();
+}
+
+void COV_BoardCallWnd::tick()
+{
+    if (++m_ticks < kTicksPerUpdate)
+        return;
+    m_ticks = 0;
+    refresh();
 }
 
 void COV_BoardCallWnd::refresh()

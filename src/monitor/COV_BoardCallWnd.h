@@ -21,6 +21,9 @@ class COV_BoardCallWnd : public ToolView
 
 public:
     static constexpr int kRefreshIntervalMs = 10;
+    // The table takes in new calls on every tenth tick: a list scrolling faster than ten
+    // times a second can't be read, and every scroll repaints each visible cell.
+    static constexpr int kTicksPerUpdate = 10;
 
     COV_BoardCallWnd(const ToolContext& context, QWidget* parent = nullptr);
     ~COV_BoardCallWnd() override;
@@ -29,7 +32,9 @@ public:
     void handleUserMessage(UserMessage message, int wParam) override;
     QSize sizeHint() const override;
 
-    // The 10 ms tick: takes in the new calls and follows the end unless scrolled up.
+    // The 10 ms tick: refreshes the table on every kTicksPerUpdate-th call.
+    void tick();
+    // Takes in the new calls and follows the end unless the user scrolled up.
     void refresh();
     void setPaused(bool paused);
     void clear();
@@ -60,4 +65,5 @@ private:
     QCheckBox* m_failuresOnly = nullptr;
     QPushButton* m_pause = nullptr;
     QTimer m_timer;
+    int m_ticks = 0;
 };
