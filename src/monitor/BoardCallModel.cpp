@@ -99,6 +99,11 @@ QVariant BoardCallModel::data(const QModelIndex& index, int role) const
     switch (role) {
     case Qt::DisplayRole:
         return BoardCallText::column(*recorded, index.column(), m_callers);
+    case Qt::ToolTipRole:
+        // long argument lists do not fit their column
+        return index.column() == BoardCallText::Arguments
+                   ? QVariant(BoardCallText::arguments(*recorded))
+                   : QVariant();
     case Qt::ForegroundRole:
         return recorded->failed() ? QVariant(QBrush(Qt::red)) : QVariant();
     case Qt::TextAlignmentRole:

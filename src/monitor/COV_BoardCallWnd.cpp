@@ -165,7 +165,7 @@ void COV_BoardCallWnd::createTable()
     m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     m_table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 4);
     QHeaderView* header = m_table->horizontalHeader();
-    const int widths[BoardCallText::ColumnCount] = {90, 46, 120, 40, 40, 0, 56, 120};
+    const int widths[BoardCallText::ColumnCount] = {80, 46, 120, 40, 40, 0, 70, 120};
     for (int c = 0; c < BoardCallText::ColumnCount; ++c) {
         if (widths[c] > 0)
             header->resizeSection(c, widths[c]);
@@ -175,7 +175,8 @@ void COV_BoardCallWnd::createTable()
 
 QSize COV_BoardCallWnd::sizeHint() const
 {
-    return {900, 420};
+    // fits the tool-window area of a 1366 x 768 screen beside the docked panes
+    return {800, 400};
 }
 
 void COV_BoardCallWnd::handleUserMessage(UserMessage, int) {}
