@@ -34,7 +34,8 @@ public:
     bool open(ToolKind kind);
     ToolView* view(ToolKind kind) const;
     QMdiSubWindow* window(ToolKind kind) const;
-    // The name a kind's board calls carry in the trace ("Single Axis", ...).
+    // The name a kind's board calls carry in the trace ("Single Axis", ...); a kind missing
+    // from the list is named by its number ("Window 108") until it is added there.
     static QString callerName(ToolKind kind);
     // The open views in kind order.
     std::vector<ToolView*> openViews() const;

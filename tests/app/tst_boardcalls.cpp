@@ -181,6 +181,26 @@ private slots:
         QVERIFY(model.rowCount() > withoutPolling);
         calls->findChild<QLineEdit*>("operation")->setText("inc_move");
         QCOMPARE(model.rowCount(), 1);
+
+        // Export writes the rows shown; pause stops recording; clear empties the table.
+        QTemporaryDir out;
+        QVERIFY(calls->exportCsv(out.filePath("calls.csv")));
+        QFile csv(out.filePath("calls.csv"));
+        QVERIFY(csv.open(QIODevice::ReadOnly));
+        const QList<QByteArray> lines = csv.readAll().split('\n');
+        QCOMPARE(lines.size(), 3);
+        QVERIFY(lines[1].endsWith(",RL,Inc_Move,0,1,distance=1500,0,Single Axis\r"));
+        auto* pause = calls->findChild<QPushButton*>("pause");
+        pause->click();
+        const std::uint64_t paused = rig.trace.end();
+        rig.board.Inc_Move(BoardFamily::RL, 0, 2, 10);
+        QCOMPARE(rig.trace.end(), paused);
+        pause->click();
+        rig.board.Inc_Move(BoardFamily::RL, 0, 2, 20);
+        calls->refresh();
+        QCOMPARE(model.rowCount(), 2);
+        calls->clear();
+        QCOMPARE(model.rowCount(), 0);
     }
 };
 
