@@ -151,7 +151,13 @@ private slots:
     {
         Rig rig;
         QVERIFY(rig.start("Fail.SetPosSpeed=-1\n"));
-        auto* calls = rig.view<COV_BoardCallWnd>(ToolBoardCalls);
+        // Opened from the Window menu.
+        for (QAction* action : rig.frame->findChildren<QAction*>()) {
+            if (action->text() == QStringLiteral("Board Calls"))
+                action->trigger();
+        }
+        auto* calls = static_cast<COV_BoardCallWnd*>(rig.frame->toolWindows().view(ToolBoardCalls));
+        QVERIFY(calls);
         calls->findChild<QCheckBox*>("failuresOnly")->setChecked(true);
         QCOMPARE(calls->model()->rowCount(), 0);
         rig.moveRelative();
