@@ -6,9 +6,11 @@
 #include "COV_BoardCallWnd.h"
 #include "COV_MainFrame.h"
 #include "COV_SnMtnWnd.h"
+#include "PaintCounter.h"
 #include "ScriptedPrompt.h"
 #include "ToolWindowHost.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
@@ -18,6 +20,7 @@
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTabBar>
+#include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -160,6 +163,14 @@ private slots:
         QVERIFY(calls);
         calls->findChild<QCheckBox*>("failuresOnly")->setChecked(true);
         QCOMPARE(calls->model()->rowCount(), 0);
+        // Ticks that bring no call to show leave the table alone.
+        QApplication::processEvents();
+        PaintCounter paints;
+        calls->table()->viewport()->installEventFilter(&paints);
+        rig.frame->MonitorTick();
+        calls->refresh();
+        QApplication::processEvents();
+        QCOMPARE(paints.paints, 0);
         rig.moveRelative();
         calls->refresh();
 
