@@ -1,47 +1,48 @@
-// Measures the UI-thread cost of the main frame's 10 ms MonitorTick with every pane open on
-// the simulated boards, and the period the multi-axis window's 1 ms gantry check really gets
-// while three axes jog; can save pictures of the frame and of the multi-axis window.
+// Measures the UI-thread cost of one 10 ms refresh of the whole program: the main frame's
+// MonitorTick and the 10 ms poll of every tool window, with every tool-window kind open and
+// the board call trace recording, on the simulated boards.
 //
-//   orvane_bench_frame [--boards largest|default] [--ticks N] [--screenshot file.png]
-//                      [--multi-screenshots prefix]
+//   orvane_bench_frame [--boards largest|default] [--ticks N] [--size WxH]
+//                      [--screenshot file.png]
 //
+// It reports, in one run:
+//   - the mean and p99 cost of a refresh with the repaints it causes while every axis of the
+//     shown card moves;
+//   - the number of widget repaints over 100 refreshes while nothing moves (0 is the target:
+//     a lamp, cell or field that did not change is not repainted);
+//   - the period the multi-axis window's 1 ms gantry check really gets while axes jog.
 // "largest" is 3 families x 8 cards x 8 axes; "default" is the simulator's built-in set. The
 // simulator's files go to a temporary folder, so the build's own folder is left alone.
 
 #include "AppState.h"
 #include "BoardApi.h"
+#include "BoardCallClock.h"
 #include "BoardLoader.h"
-#include "COV_AxStMonWnd.h"
-#include "COV_DIoWnd.h"
 #include "COV_MainFrame.h"
 #include "COV_MnMtnWnd.h"
-#include "COV_SnMtnWnd.h"
-#include "COV_SysDbgWnd.h"
-#include "COV_SysIoWnd.h"
 #include "MessageBoxPrompt.h"
+#include "ToolView.h"
 #include "ToolWindowFactory.h"
 #include "ToolWindowHost.h"
 #include "ToolWindowKinds.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QCheckBox>
-#include <QComboBox>
 #include <QCommandLineParser>
-#include <QDir>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFile>
 #include <QLibrary>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMdiSubWindow>
+#include <QMdiArea>
 #include <QTemporaryDir>
 #include <QThread>
 #include <QTimer>
 
 #include <algorithm>
 #include <cstdio>
+#include <map>
 #include <vector>
 
 namespace {
@@ -77,7 +78,7 @@ void useDataFolder(const QString& libraryFolder, const QString& dataFolder)
 }
 
 // Jogs every axis of the active card so positions and status words change on every tick.
-void jogActiveCard(AppState& state, BoardApi& board)
+void jogActiveCard(const AppState& state, BoardApi& board)
 {
     const BoardFamily family = state.active.family;
     const auto card = static_cast<CardNo>(state.active.card);
@@ -88,46 +89,90 @@ void jogActiveCard(AppState& state, BoardApi& board)
     }
 }
 
-// Counts the paint events of the widgets it watches.
+void stopActiveCard(const AppState& state, BoardApi& board)
+{
+    for (int axis = 0; axis < state.activeAxisCount(); ++axis)
+        board.Sudden_Stop(state.active.family, static_cast<CardNo>(state.active.card),
+                          static_cast<AxisNo>(axis));
+}
+
+// Counts every paint event of the program, by widget class, to name what repainted at rest.
 class PaintCount : public QObject
 {
 public:
     int paints = 0;
+    std::map<QByteArray, int> byClass;
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (event->type() == QEvent::Paint)
+        if (event->type() == QEvent::Paint) {
             ++paints;
+            ++byClass[watched->metaObject()->className()];
+        }
         return QObject::eventFilter(watched, event);
     }
+    void reset()
+    {
+        paints = 0;
+        byClass.clear();
+    }
 };
-void checkAxes(COV_MnMtnWnd& window, int count)
+
+// The 10 ms polls of the open tool windows, taken off their timers so that the benchmark fires
+// each exactly once per refresh, as the event loop would.
+std::vector<QTimer*> takePollTimers(const ToolWindowHost& host)
 {
-    auto* list = window.findChild<QListWidget*>(QStringLiteral("axisList"));
-    for (int row = 0; row < count && row < list->count(); ++row)
-        list->item(row)->setCheckState(Qt::Checked);
-    window.onListWatch();
+    std::vector<QTimer*> polls;
+    for (ToolView* view : host.openViews()) {
+        for (QTimer* timer : view->findChildren<QTimer*>()) {
+            if (timer->isActive() && timer->interval() == COV_MainFrame::kMonitorIntervalMs) {
+                timer->stop();
+                polls.push_back(timer);
+            }
+        }
+    }
+    return polls;
 }
 
-void chooseMotionType(COV_MnMtnWnd& window, MotionType type)
+void refresh(COV_MainFrame& frame, const std::vector<QTimer*>& polls)
 {
-    auto* combo = window.findChild<QComboBox*>(QStringLiteral("motionType"));
-    combo->setCurrentIndex(static_cast<int>(type));
-    emit combo->activated(static_cast<int>(type));
+    frame.MonitorTick();
+    for (QTimer* timer : polls)
+        QMetaObject::invokeMethod(timer, "timeout", Qt::DirectConnection);
+}
+
+double percentile(std::vector<double> values, double p)
+{
+    std::sort(values.begin(), values.end());
+    const auto index = static_cast<std::size_t>(p * static_cast<double>(values.size() - 1));
+    return values[index];
+}
+
+void report(const char* what, const std::vector<double>& values)
+{
+    double sum = 0;
+    for (double value : values)
+        sum += value;
+    std::printf("%-36s mean %7.1f us  median %7.1f us  p99 %7.1f us  max %7.1f us\n", what,
+                sum / static_cast<double>(values.size()), percentile(values, 0.5),
+                percentile(values, 0.99), percentile(values, 1.0));
 }
 
 // Jogs three axes with the gantry check on (a limit no jog reaches) and lets the event loop
 // run the precise 1 ms timer for two seconds.
 void measureGantryPeriod(COV_MainFrame& frame)
 {
-    frame.sendToFrame(UM_OPEN_TOOL, ToolMultiAxis);
     auto* window = static_cast<COV_MnMtnWnd*>(frame.toolWindows().view(ToolMultiAxis));
     if (window == nullptr)
         return;
-    checkAxes(*window, 3);
+    auto* list = window->findChild<QListWidget*>(QStringLiteral("axisList"));
+    for (int row = 0; row < 3 && row < list->count(); ++row)
+        list->item(row)->setCheckState(Qt::Checked);
+    window->onListWatch();
     auto* limit = window->findChild<QLineEdit*>(QStringLiteral("errorLimit"));
     limit->setText(QStringLiteral("100000000"));
     emit limit->textEdited(limit->text());
-    window->findChild<QCheckBox*>(QStringLiteral("gantryCheck"))->setChecked(true);
+    auto* check = window->findChild<QCheckBox*>(QStringLiteral("gantryCheck"));
+    check->setChecked(true);
     window->sequencer().press(DirectionPlus);
     QEventLoop loop;
     QTimer::singleShot(2000, &loop, &QEventLoop::quit);
@@ -136,33 +181,7 @@ void measureGantryPeriod(COV_MainFrame& frame)
     std::printf("gantry check: %lld periods in 2 s, mean %.3f ms, longest %.3f ms\n",
                 static_cast<long long>(window->gantry().ticks()), window->gantry().meanPeriodMs(),
                 window->gantry().longestPeriodMs());
-    window->findChild<QCheckBox*>(QStringLiteral("gantryCheck"))->setChecked(false);
-}
-
-// The multi-axis window in the frame at 1366 x 768 with the panes: Jog, then Absolute with
-// Repeat.
-void saveMultiAxisScreenshots(COV_MainFrame& frame, const QString& prefix)
-{
-    frame.resize(1366, 768);
-    frame.sendToFrame(UM_OPEN_TOOL, ToolMultiAxis);
-    auto* window = static_cast<COV_MnMtnWnd*>(frame.toolWindows().view(ToolMultiAxis));
-    if (window == nullptr)
-        return;
-    checkAxes(*window, 3);
-    QApplication::processEvents();
-    const bool jog = frame.grab().save(prefix + QStringLiteral("-jog.png"));
-    chooseMotionType(*window, MotionType::Absolute);
-    window->findChild<QCheckBox*>(QStringLiteral("repeat"))->click();
-    QApplication::processEvents();
-    const bool absolute = frame.grab().save(prefix + QStringLiteral("-absolute-repeat.png"));
-    std::printf("multi-axis screenshots %s\n", jog && absolute ? "saved" : "NOT saved");
-}
-
-double percentile(std::vector<double> values, double share)
-{
-    std::sort(values.begin(), values.end());
-    const auto at = static_cast<std::size_t>(share * static_cast<double>(values.size() - 1));
-    return values[at];
+    check->setChecked(false);
 }
 
 } // namespace
@@ -174,10 +193,9 @@ int main(int argc, char* argv[])
     QApplication qtApp(argc, argv);
     QCommandLineParser options;
     options.addOption({"boards", "largest or default", "set", "largest"});
-    options.addOption({"ticks", "ticks to time", "count", "2000"});
-    options.addOption({"screenshot", "save the frame as a PNG", "file"});
+    options.addOption({"ticks", "refreshes to time while axes move", "count", "2000"});
     options.addOption({"size", "the frame's size", "WxH", "1400x900"});
-    options.addOption({"multi-screenshots", "save the multi-axis window as PNGs", "prefix"});
+    options.addOption({"screenshot", "save the frame with every window open as a PNG", "file"});
     options.process(qtApp);
 
     QTemporaryDir data;
@@ -193,6 +211,11 @@ int main(int argc, char* argv[])
     BoardApi board;
     for (BoardFamily family : kAllFamilies)
         board.setTable(family, loader.table(family));
+    // The trace records as in the program.
+    BoardCallTrace trace;
+    board.setTrace(&trace);
+    BoardCallClock traceClock(trace);
+    qtApp.installEventFilter(&traceClock);
     MessageBoxPrompt prompt;
     ToolWindowFactory factory;
     registerToolWindows(factory);
@@ -206,125 +229,68 @@ int main(int argc, char* argv[])
     const QStringList size = options.value("size").split(QLatin1Char('x'));
     frame.resize(size.value(0).toInt(), size.value(1).toInt());
     frame.show();
-    if (options.isSet("multi-screenshots")) {
-        saveMultiAxisScreenshots(frame, options.value("multi-screenshots"));
-        return 0;
-    }
-    if (!options.isSet("screenshot")) {
-        frame.sendToFrame(UM_OPEN_TOOL, ToolParameter);
-        frame.sendToFrame(UM_OPEN_TOOL, ToolSingleAxis);
-        frame.sendToFrame(UM_OPEN_TOOL, ToolMultiAxis);
-    }
-    // The monitors' own 10 ms timers are timed below, one tick each per frame tick.
-    frame.sendToFrame(UM_OPEN_TOOL, ToolAxisStatus);
-    frame.sendToFrame(UM_OPEN_TOOL, ToolSystemDiagnosis);
-    auto* axisStatus = qobject_cast<COV_AxStMonWnd*>(frame.toolWindows().view(ToolAxisStatus));
-    auto* diagnosis = qobject_cast<COV_SysDbgWnd*>(frame.toolWindows().view(ToolSystemDiagnosis));
-    axisStatus->timer().stop();
-    diagnosis->timer().stop();
+    for (int kind = kToolKindFirst; kind <= kToolKindLast; ++kind)
+        frame.sendToFrame(UM_OPEN_TOOL, kind);
     QApplication::processEvents();
-    jogActiveCard(state, board);
+    const std::vector<QTimer*> polls = takePollTimers(frame.toolWindows());
 
     int cards = 0;
     for (BoardFamily family : kAllFamilies)
         cards += state.registry.cardCount(family);
-    std::printf("boards: %d cards, active %s card %d with %d axes\n", cards,
-                familyDisplayName(state.active.family), state.active.card, state.activeAxisCount());
+    std::printf("boards: %d cards, active %s card %d with %d axes; %zu tool windows open, "
+                "%zu with a 10 ms poll\n",
+                cards, familyDisplayName(state.active.family), state.active.card,
+                state.activeAxisCount(), frame.toolWindows().openViews().size(), polls.size());
 
+    // Moving: every axis of the shown card jogs, so every tick has new values to show.
+    jogActiveCard(state, board);
     const int ticks = options.value("ticks").toInt();
     std::vector<double> tickOnly;
     std::vector<double> withPaint;
-    std::vector<double> axisStatusTicks;
-    std::vector<double> diagnosisTicks;
-    std::vector<double> monitorsWithPaint;
-    for (auto* values :
-         {&tickOnly, &withPaint, &axisStatusTicks, &diagnosisTicks, &monitorsWithPaint})
-        values->reserve(static_cast<std::size_t>(ticks));
     QElapsedTimer clock;
     for (int i = 0; i < ticks; ++i) {
         clock.start();
-        frame.MonitorTick();
+        refresh(frame, polls);
         const qint64 afterTick = clock.nsecsElapsed();
-        QApplication::processEvents(); // the repaints the tick asked for
-        const qint64 afterPaint = clock.nsecsElapsed();
+        QApplication::processEvents(); // the repaints the refresh asked for
         tickOnly.push_back(static_cast<double>(afterTick) / 1000.0);
-        withPaint.push_back(static_cast<double>(afterPaint) / 1000.0);
-        clock.start();
-        axisStatus->tick();
-        const qint64 afterAxisStatus = clock.nsecsElapsed();
-        diagnosis->tick();
-        const qint64 afterDiagnosis = clock.nsecsElapsed();
-        QApplication::processEvents();
-        axisStatusTicks.push_back(static_cast<double>(afterAxisStatus) / 1000.0);
-        diagnosisTicks.push_back(static_cast<double>(afterDiagnosis - afterAxisStatus) / 1000.0);
-        monitorsWithPaint.push_back(static_cast<double>(clock.nsecsElapsed()) / 1000.0);
-        // Let the simulated axes move on between ticks, so every tick shows new values.
+        withPaint.push_back(static_cast<double>(clock.nsecsElapsed()) / 1000.0);
+        // Let the simulated axes move on between ticks.
         QThread::msleep(1);
     }
-    auto report = [&](const char* what, const std::vector<double>& values) {
-        double sum = 0;
-        for (double value : values)
-            sum += value;
-        std::printf("%-32s mean %7.1f us  median %7.1f us  p99 %7.1f us  max %7.1f us\n", what,
-                    sum / static_cast<double>(values.size()), percentile(values, 0.5),
-                    percentile(values, 0.99), percentile(values, 1.0));
-    };
-    std::printf("MonitorTick over %d ticks, every pane open:\n", ticks);
-    report("  tick (board reads, widgets)", tickOnly);
-    report("  tick and its repaints", withPaint);
-    std::printf("Tool-window monitor ticks:\n");
-    report("  axis status tick", axisStatusTicks);
-    report("  system diagnosis tick", diagnosisTicks);
-    report("  both ticks and their repaints", monitorsWithPaint);
+    std::printf("one 10 ms refresh (frame + every tool window) over %d ticks, axes moving:\n",
+                ticks);
+    report("  refresh (board reads, widgets)", tickOnly);
+    report("  refresh and its repaints", withPaint);
 
-    // The two I/O monitors on the active card, their own 10 ms ticks timed apart. A tick that
-    // changed no lamp must leave every lamp and output button unpainted.
-    frame.sendToFrame(UM_OPEN_TOOL, ToolSystemIo);
-    frame.sendToFrame(UM_OPEN_TOOL, ToolDigitalIo);
-    auto* sysIo = static_cast<COV_SysIoWnd*>(frame.toolWindows().view(ToolSystemIo));
-    auto* dio = static_cast<COV_DIoWnd*>(frame.toolWindows().view(ToolDigitalIo));
-    sysIo->timer().stop();
-    dio->timer().stop();
-    QApplication::processEvents();
-    PaintCount lampPaints;
-    for (QWidget* view : {static_cast<QWidget*>(sysIo), static_cast<QWidget*>(dio)})
-        for (QAbstractButton* lamp : view->findChildren<QAbstractButton*>())
-            lamp->installEventFilter(&lampPaints);
-    std::vector<double> ioTicks;
-    int unchangedTicks = 0;
-    int unchangedPaints = 0;
-    for (int i = 0; i < ticks; ++i) {
-        clock.start();
-        const int changed = sysIo->tick() + dio->tick();
-        ioTicks.push_back(static_cast<double>(clock.nsecsElapsed()) / 1000.0);
-        lampPaints.paints = 0;
+    // At rest: once the axes have stopped and everything shows their last values, 100
+    // refreshes must not repaint anything.
+    stopActiveCard(state, board);
+    frame.setFocus();
+    for (int i = 0; i < 100; ++i) {
+        refresh(frame, polls);
         QApplication::processEvents();
-        if (changed == 0) {
-            ++unchangedTicks;
-            unchangedPaints += lampPaints.paints;
-        }
         QThread::msleep(1);
     }
-    std::printf("I/O monitors over %d ticks, %s card %d:\n", ticks,
-                familyDisplayName(state.active.family), state.active.card);
-    report("  System IO + Digital IO ticks", ioTicks);
-    std::printf("  lamp and button paints on the %d ticks that changed nothing: %d\n",
-                unchangedTicks, unchangedPaints);
+    PaintCount paints;
+    qtApp.installEventFilter(&paints);
+    for (int i = 0; i < 100; ++i) {
+        refresh(frame, polls);
+        QApplication::processEvents();
+    }
+    qtApp.removeEventFilter(&paints);
+    std::printf("repaints over 100 refreshes at rest: %d", paints.paints);
+    for (const auto& [name, count] : paints.byClass)
+        std::printf("  %s:%d", name.constData(), count);
+    std::printf("\n");
+
     measureGantryPeriod(frame);
 
     if (options.isSet("screenshot")) {
-        frame.sendToFrame(UM_OPEN_TOOL, ToolSingleAxis);
+        jogActiveCard(state, board);
         QThread::msleep(300);
-        frame.MonitorTick();
-        axisStatus->tick();
-        diagnosis->tick();
+        refresh(frame, polls);
         QApplication::processEvents();
-        const QString shot = options.value("screenshot");
-        for (ToolKind kind : {ToolAxisStatus, ToolSystemDiagnosis}) {
-            const QString name =
-                QString(shot).replace(QStringLiteral(".png"), QStringLiteral("-%1.png").arg(kind));
-            frame.toolWindows().window(kind)->grab().save(name);
-        }
         const bool saved = frame.grab().save(options.value("screenshot"));
         std::printf("screenshot %s %s\n", qPrintable(options.value("screenshot")),
                     saved ? "saved" : "NOT saved");

@@ -221,6 +221,8 @@ QMenu* COV_MainFrame::createWindowMenu()
             entry->setChecked(window == m_mdiArea->activeSubWindow());
         }
     });
+    menu->addSeparator();
+    menu->addAction(QStringLiteral("Board Calls"), this, [this] { openTool(ToolBoardCalls); });
     return menu;
 }
 
@@ -290,12 +292,14 @@ void COV_MainFrame::createDocks()
                             Qt::LeftDockWidgetArea);
     m_tree->setMinimumSize(200, 120);
 
-    m_statusView = new COV_StBaseWnd(m_state, m_board, this);
+    m_statusBoard = std::make_unique<BoardApi>(m_board, QStringLiteral("Axis Status pane"));
+    m_motionBoard = std::make_unique<BoardApi>(m_board, QStringLiteral("Motion Status pane"));
+    m_statusView = new COV_StBaseWnd(m_state, *m_statusBoard, this);
     m_statusView->setFixedWidth(kStatusPaneWidth);
     m_statusDock = createDock(QStringLiteral("AxisStatusPane"), QString(), m_statusView,
                               Qt::RightDockWidgetArea);
 
-    m_motionPane = new COV_UtMtnStWnd(m_state, m_board, *this, this);
+    m_motionPane = new COV_UtMtnStWnd(m_state, *m_motionBoard, *this, this);
     m_motionPane->setFixedHeight(kMotionPaneHeight);
     m_motionDock = createDock(QStringLiteral("MotionStatusPane"), QString(), m_motionPane,
                               Qt::BottomDockWidgetArea);
@@ -361,6 +365,17 @@ void COV_MainFrame::MonitorTick()
 {
     m_motionPane->refresh();
     m_statusView->refresh();
+    noteRefusedBoardCall();
+}
+
+void COV_MainFrame::noteRefusedBoardCall()
+{
+    const BoardCallTrace* trace = m_board.trace();
+    if (trace == nullptr)
+        return;
+    const QString note = m_failureNote.take(*trace, m_state.registry, trace->nowUs());
+    if (!note.isEmpty())
+        statusBar()->showMessage(note, kFailureNoteMs);
 }
 
 void COV_MainFrame::sendToFrame(UserMessage message, int wParam)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "BoardFailureNote.h"
 #include "BoardStartup.h"
 #include "FrameRelay.h"
 #include "ToolContext.h"
@@ -7,6 +8,8 @@
 
 #include <QMainWindow>
 #include <QTimer>
+
+#include <memory>
 
 class BoardApi;
 class COV_StBaseWnd;
@@ -32,6 +35,7 @@ public:
     static constexpr int kMonitorIntervalMs = 10;
     static constexpr int kStatusPaneWidth = 200;
     static constexpr int kMotionPaneHeight = 96;
+    static constexpr int kFailureNoteMs = 5000;
 
     COV_MainFrame(AppState& state, BoardApi& board, PromptService& prompt,
                   const ToolWindowFactory& factory, QWidget* parent = nullptr);
@@ -43,7 +47,8 @@ public:
 
     // The relay: every notification a window sends the frame, and who hears it.
     void sendToFrame(UserMessage message, int wParam = 0) override;
-    // The 10 ms refresh of the motion-status pane and the status view.
+    // The 10 ms refresh of the motion-status pane and the status view, and the note of a board
+    // call that was refused.
     void MonitorTick();
 
     // Commands of the menus and the tree.
@@ -101,6 +106,7 @@ private:
     void updatePaneTitles();
     void relayToToolViews(UserMessage message, int wParam);
     void runCommand(FrameCommand command);
+    void noteRefusedBoardCall();
 
     AppState& m_state;
     BoardApi& m_board;
@@ -120,6 +126,10 @@ private:
     QComboBox* m_familyCombo = nullptr;
     QComboBox* m_cardCombo = nullptr;
     QAction* m_stopAll = nullptr;
+    // the panes' own board handles, so that the trace tells their calls apart
+    std::unique_ptr<BoardApi> m_statusBoard;
+    std::unique_ptr<BoardApi> m_motionBoard;
+    BoardFailureNote m_failureNote;
     QTimer m_monitorTimer;
     int m_showStatusWindow = 1;
     int m_statusFollowsOperation = 1;

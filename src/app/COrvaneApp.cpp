@@ -1,5 +1,6 @@
 #include "COrvaneApp.h"
 
+#include "BoardCallClock.h"
 #include "BoardLoader.h"
 #include "COV_MainFrame.h"
 #include "OrvaneIcon.h"
@@ -15,6 +16,9 @@ COrvaneApp::COrvaneApp()
     QApplication::setWindowIcon(OrvaneIcon::create());
     m_state.moduleDirectory =
         QDir(QCoreApplication::applicationDirPath()).absolutePath() + QLatin1Char('/');
+    m_board.setTrace(&m_trace);
+    m_traceClock = std::make_unique<BoardCallClock>(m_trace);
+    qApp->installEventFilter(m_traceClock.get());
 }
 
 COrvaneApp::~COrvaneApp()

@@ -7,6 +7,7 @@
 
 #include <memory>
 
+class BoardCallClock;
 class BoardLoader;
 class COV_MainFrame;
 
@@ -29,9 +30,11 @@ public:
 
 private:
     AppState m_state;
+    BoardCallTrace m_trace;
     BoardApi m_board;
     MessageBoxPrompt m_prompt;
     ToolWindowFactory m_factory;
+    std::unique_ptr<BoardCallClock> m_traceClock;
     std::unique_ptr<BoardLoader> m_loader;
     std::unique_ptr<COV_MainFrame> m_frame;
 };

@@ -1,5 +1,6 @@
 #include "ToolWindowHost.h"
 
+#include "BoardApi.h"
 #include "ToolView.h"
 #include "ToolWindowFactory.h"
 
@@ -17,6 +18,41 @@ ToolWindowHost::ToolWindowHost(QMdiArea& area, const ToolWindowFactory& factory,
 ToolWindowHost::~ToolWindowHost()
 {
     destroyAll();
+}
+
+QString ToolWindowHost::callerName(ToolKind kind)
+{
+    switch (kind) {
+    case ToolSystemIo:
+        return QStringLiteral("System IO");
+    case ToolDigitalIo:
+        return QStringLiteral("Digital IO");
+    case ToolParameter:
+        return QStringLiteral("Parameter");
+    case ToolSingleAxis:
+        return QStringLiteral("Single Axis");
+    case ToolMultiAxis:
+        return QStringLiteral("Multi Axis");
+    case ToolAxisStatus:
+        return QStringLiteral("Axis Status");
+    case ToolSystemDiagnosis:
+        return QStringLiteral("System Diagnosis");
+    case ToolScope:
+        return QStringLiteral("Scope");
+    case ToolBoardCalls:
+        return QStringLiteral("Board Calls");
+    default:
+        break;
+    }
+    return QStringLiteral("Window %1").arg(static_cast<int>(kind));
+}
+
+BoardApi& ToolWindowHost::boardFor(ToolKind kind)
+{
+    std::unique_ptr<BoardApi>& board = m_boards[kind];
+    if (!board)
+        board = std::make_unique<BoardApi>(m_context.board, callerName(kind));
+    return *board;
 }
 
 ToolWindowHost::Slot& ToolWindowHost::slot(ToolKind kind)
@@ -76,7 +112,8 @@ bool ToolWindowHost::open(ToolKind kind)
 
     auto* window = new QMdiSubWindow(&m_area);
     window->setAttribute(Qt::WA_DeleteOnClose);
-    ToolView* view = m_factory.create(kind, m_context, window);
+    const ToolContext context{m_context.state, boardFor(kind), m_context.prompt, m_context.frame};
+    ToolView* view = m_factory.create(kind, context, window);
     if (view == nullptr) {
         delete window;
         return false;

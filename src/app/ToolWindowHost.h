@@ -8,15 +8,19 @@
 #include <QPointer>
 
 #include <array>
+#include <map>
+#include <memory>
 #include <vector>
 
+class BoardApi;
 class QMdiArea;
 class QMdiSubWindow;
 class ToolView;
 class ToolWindowFactory;
 
 // The frame's tool windows: at most one of each kind, each in an MDI child placed by the
-// cascade rule. A child closes only when its view agrees (ToolView::closeRequested).
+// cascade rule. A child closes only when its view agrees (ToolView::closeRequested). Each kind
+// gets a board handle of its own in its context, so the board call trace names the window.
 class ToolWindowHost : public QObject
 {
     Q_OBJECT
@@ -30,6 +34,9 @@ public:
     bool open(ToolKind kind);
     ToolView* view(ToolKind kind) const;
     QMdiSubWindow* window(ToolKind kind) const;
+    // The name a kind's board calls carry in the trace ("Single Axis", ...); a kind missing
+    // from the list is named by its number ("Window 108") until it is added there.
+    static QString callerName(ToolKind kind);
     // The open views in kind order.
     std::vector<ToolView*> openViews() const;
     // Asks the active window's view to close, then the next one, until none is left or a
@@ -58,11 +65,14 @@ private:
     void viewAgreedToClose(ToolKind kind);
     void forget(Slot& entry);
     QSize initialSize(const QMdiSubWindow& window, const QWidget& view) const;
+    BoardApi& boardFor(ToolKind kind);
 
     QMdiArea& m_area;
     const ToolWindowFactory& m_factory;
     ToolContext m_context;
     std::array<Slot, kToolKindLast - kToolKindFirst + 1> m_slots;
+    // kept for the host's life: a closed view may still stop its axes as it goes
+    std::map<ToolKind, std::unique_ptr<BoardApi>> m_boards;
     CascadePlacement m_cascade;
     int m_created = 0;
     const QObject* m_closing = nullptr; // the window whose close event is being decided

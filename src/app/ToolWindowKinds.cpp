@@ -2,6 +2,7 @@
 
 #include "COV_ActSpdCalDlg.h"
 #include "COV_AxStMonWnd.h"
+#include "COV_BoardCallWnd.h"
 #include "COV_ComparePrmDlg.h"
 #include "COV_DIoWnd.h"
 #include "COV_ExportPrmDlg.h"
@@ -47,6 +48,7 @@ void registerToolWindows(ToolWindowFactory& factory)
     factory.registerKind(ToolAxisStatus, makerOf<COV_AxStMonWnd>());
     factory.registerKind(ToolSystemDiagnosis, makerOf<COV_SysDbgWnd>());
     factory.registerKind(ToolScope, makerOf<COV_ScopeWnd>());
+    factory.registerKind(ToolBoardCalls, makerOf<COV_BoardCallWnd>());
     factory.registerCommand(FrameCommand::SaveParameter, dialogOf<COV_SavePrmDlg>());
     factory.registerCommand(FrameCommand::SystemReset, dialogOf<COV_SysRstDlg>());
     factory.registerCommand(FrameCommand::ActualSpeedCalculator, dialogOf<COV_ActSpdCalDlg>());

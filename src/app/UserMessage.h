@@ -31,6 +31,7 @@ enum ToolKind : int
     ToolAxisStatus = 105,
     ToolSystemDiagnosis = 106,
     ToolScope = 107,
+    ToolBoardCalls = 108,
 };
 constexpr int kToolKindFirst = ToolSystemIo;
-constexpr int kToolKindLast = ToolScope;
+constexpr int kToolKindLast = ToolBoardCalls;

@@ -1,9 +1,15 @@
 #pragma once
 
+#include "BoardCallTrace.h"
 #include "BoardFamily.h"
+#include "BoardOperationTable.h"
 #include "nrx_contract.h"
 
+#include <QString>
+#include <QStringList>
+
 #include <array>
+#include <memory>
 
 // The resolved function tables of the three families; a null entry is a family without a
 // library.
@@ -27,36 +33,69 @@ private:
 
 namespace detail {
 
-template <typename Fn, Fn NrxFunctionTable::*Member> class BoardOperation;
+// What every handle on the same boards shares: the tables, the trace and the callers' names.
+struct BoardLink
+{
+    BoardTables tables;
+    BoardCallTrace* trace = nullptr;
+    QStringList callers;
+};
+
+// Where a handle's calls go and whose they are.
+struct BoardCallSite
+{
+    BoardLink* link;
+    std::uint16_t caller;
+};
+
+template <typename Fn, Fn NrxFunctionTable::*Member, BoardOp Op> class BoardOperation;
 
 // One operation of the contract, callable as op(family, args...) with the export's own
 // parameter types. A family without a library, or without this export, calls nothing and
-// yields 0.
-template <typename R, typename... A, R (*NrxFunctionTable::*Member)(A...)>
-class BoardOperation<R (*)(A...), Member>
+// yields 0. A call that reaches a library is written to the trace, if there is one.
+template <typename R, typename... A, R (*NrxFunctionTable::*Member)(A...), BoardOp Op>
+class BoardOperation<R (*)(A...), Member, Op>
 {
 public:
-    explicit BoardOperation(const BoardTables& tables) : m_tables(tables) {}
+    explicit BoardOperation(const BoardCallSite& site) : m_site(site) {}
     R operator()(BoardFamily family, A... args) const
     {
-        const NrxFunctionTable* table = m_tables.find(family);
+        const BoardLink& link = *m_site.link;
+        const NrxFunctionTable* table = link.tables.find(family);
         if (table == nullptr || table->*Member == nullptr)
             return R{};
-        return (table->*Member)(args...);
+        const R result = (table->*Member)(args...);
+        if (link.trace != nullptr)
+            link.trace->record(Op, family, m_site.caller, result, args...);
+        return result;
     }
 
 private:
-    const BoardTables& m_tables;
+    const BoardCallSite& m_site;
 };
 
 } // namespace detail
 
 // Dispatch of every board operation to the library of a family: api.Inc_Move(family, card,
 // axis, distance). Arguments pass unchanged; results come back as the library gave them.
+//
+// A handle made from another, BoardApi(boards, "Single Axis"), reaches the same libraries and
+// trace but signs its calls with that caller's name. This is how the trace knows which window
+// or pane made a call: the frame hands each pane, and the tool-window host each tool window,
+// a handle of its own in its ToolContext, so a window tags its calls by just using
+// context.board.
 class BoardApi
 {
 public:
-    BoardApi() = default;
+    static constexpr const char* kMainCaller = "Main frame";
+
+    BoardApi() : m_link(std::make_shared<detail::BoardLink>()), m_site{m_link.get(), 0}
+    {
+        m_link->callers << QString::fromLatin1(kMainCaller);
+    }
+    BoardApi(const BoardApi& boards, const QString& caller)
+        : m_link(boards.m_link), m_site{m_link.get(), callerId(*m_link, caller)}
+    {}
     BoardApi(const BoardApi&) = delete;
     BoardApi& operator=(const BoardApi&) = delete;
 
@@ -64,16 +103,36 @@ public:
     // outlive its use here.
     void setTable(BoardFamily family, const NrxFunctionTable* table)
     {
-        m_tables.set(family, table);
+        m_link->tables.set(family, table);
     }
-    bool hasLibrary(BoardFamily family) const { return m_tables.find(family) != nullptr; }
+    bool hasLibrary(BoardFamily family) const { return m_link->tables.find(family) != nullptr; }
+
+    // The trace every handle on these boards writes to; null records nothing. It must
+    // outlive its use here.
+    void setTrace(BoardCallTrace* trace) { m_link->trace = trace; }
+    BoardCallTrace* trace() const { return m_link->trace; }
+    // The callers' names, indexed by BoardCall::caller.
+    const QStringList& callers() const { return m_link->callers; }
+    std::uint16_t caller() const { return m_site.caller; }
 
 private:
-    BoardTables m_tables; // declared first: every operation below refers to it
+    static std::uint16_t callerId(detail::BoardLink& link, const QString& caller)
+    {
+        qsizetype id = link.callers.indexOf(caller);
+        if (id < 0) {
+            id = link.callers.size();
+            link.callers << caller;
+        }
+        return static_cast<std::uint16_t>(id);
+    }
+
+    // declared first: every operation below refers to them
+    std::shared_ptr<detail::BoardLink> m_link;
+    detail::BoardCallSite m_site;
 
 public:
 #define ORVANE_BOARD_OPERATION_(ret, name, params, args, families)                                 \
-    detail::BoardOperation<nrx_##name##_fn, &NrxFunctionTable::name> name{m_tables};
+    detail::BoardOperation<nrx_##name##_fn, &NrxFunctionTable::name, BoardOp::name> name{m_site};
     NRX_FOR_EACH_OPERATION(ORVANE_BOARD_OPERATION_)
 #undef ORVANE_BOARD_OPERATION_
 };

@@ -73,6 +73,22 @@ private:
     std::vector<std::string>& warnings_;
 };
 
+// Refusals to rehearse: "Fail.SetPosSpeed=-1" in the family's section.
+void readForcedResults(const IniFile& file, const std::string& family, BoardSetup& setup)
+{
+    for (int op = 0; op < kBoardOpCount; ++op) {
+        const std::string key = std::string("Fail.") + kBoardOps[op].name;
+        const auto text = file.value(family, key);
+        if (!text)
+            continue;
+        const auto value = IniFile::toInteger(*text);
+        if (value && *value >= INT32_MIN && *value <= INT32_MAX)
+            setup.forcedResults[static_cast<std::size_t>(op)] = static_cast<int32_t>(*value);
+        else
+            setup.warnings.push_back("[" + family + "] " + key + "=" + *text + " ignored");
+    }
+}
+
 } // namespace
 
 const char* BoardSetup::familyName(int familyIndex)
@@ -133,6 +149,7 @@ BoardSetup BoardSetup::read(int familyIndex, const IniFile* file)
     familyKeys.read("LoadResult", forced, INT32_MIN, -1);
     if (forced < 0)
         setup.forcedLoadResult = forced;
+    readForcedResults(*file, family, setup);
 
     for (int c = 0; c < cardCount; ++c) {
         const std::string cardSection = family + ".Card" + std::to_string(c);

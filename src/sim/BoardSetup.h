@@ -1,5 +1,6 @@
 #pragma once
 
+#include "BoardOperationTable.h"
 #include "SimConstants.h"
 
 #include <array>
@@ -67,6 +68,8 @@ public:
     bool fromFile = false;
     std::vector<Card> cards;
     std::optional<int32_t> forcedLoadResult;
+    // "Fail.<operation>=<result>": the operation does nothing and returns the result.
+    std::array<std::optional<int32_t>, kBoardOpCount> forcedResults{};
     int32_t version = 1020304;
     std::vector<std::string> warnings; // values the file got wrong, for the log
 

@@ -62,7 +62,11 @@ nrxsim::SimContract board(NRXSIM_FAMILY_INDEX);
     static_assert((((fam) >> NRXSIM_FAMILY_INDEX) & 1) == NRXSIM_HAS(fam),                         \
                   "family table out of step with the contract");                                   \
     NRXSIM_CAT(NRXSIM_WHEN_, NRXSIM_HAS(fam))                                                      \
-    (NRXSIM_EXPORT ret NRXSIM_CAT(NRXSIM_PREFIX, name) params { return board.name args; })
+    (NRXSIM_EXPORT ret NRXSIM_CAT(NRXSIM_PREFIX, name) params {                                    \
+        if (const int32_t* forced = board.forcedResult(BoardOp::name))                             \
+            return static_cast<ret>(*forced);                                                      \
+        return board.name args;                                                                    \
+    })
 
 NRX_FOR_EACH_OPERATION(NRXSIM_EXPORT_OPERATION)
 

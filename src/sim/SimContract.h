@@ -18,6 +18,11 @@ public:
     NRX_FOR_EACH_OPERATION(NRXSIM_DECLARE_OPERATION_)
 #undef NRXSIM_DECLARE_OPERATION_
 
+    const int32_t* forcedResult(BoardOp op) const
+    {
+        return family_.forcedResult(op);
+    }
+
 #define NRXSIM_DECLARE_EXTRA_(ret, name, params, args) ret name params;
     NRXSIM_FOR_EACH_EXTRA(NRXSIM_DECLARE_EXTRA_)
 #undef NRXSIM_DECLARE_EXTRA_

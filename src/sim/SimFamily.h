@@ -27,6 +27,12 @@ public:
     int cardCount() const { return static_cast<int>(cards_.size()); }
     SimCard* card(int index);
     int32_t version() const { return setup_.version; }
+    // The result the boards file forces on an operation (not LoadDevice), or null.
+    const int32_t* forcedResult(BoardOp op) const
+    {
+        const auto& forced = setup_.forcedResults[static_cast<std::size_t>(op)];
+        return forced && op != BoardOp::LoadDevice ? &*forced : nullptr;
+    }
 
     // Catches motion up with the clock in whole milliseconds.
     void advance()
