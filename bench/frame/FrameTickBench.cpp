@@ -123,11 +123,9 @@ std::vector<QTimer*> takePollTimers(const ToolWindowHost& host)
 {
     std::vector<QTimer*> polls;
     for (ToolView* view : host.openViews()) {
-        for (QTimer* timer : view->findChildren<QTimer*>()) {
-            if (timer->isActive() && timer->interval() == COV_MainFrame::kMonitorIntervalMs) {
-                timer->stop();
-                polls.push_back(timer);
-            }
+        if (QTimer* timer = view->pollTimer()) {
+            timer->stop();
+            polls.push_back(timer);
         }
     }
     return polls;

@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+class QTimer;
+
 // A tool window's view, hosted by the main frame in an MDI child of its own kind. The frame
 // relays notifications to it and asks it to close; the view may prompt first and then emits
 // closeRequested() for the frame to close its child.
@@ -21,6 +23,8 @@ public:
     virtual void requestClose() { emit closeRequested(); }
     // The frame has stopped every axis: a window that runs motion sequences ends them.
     virtual void endMotion() {}
+    // The window's own periodic poll, if it has one: benchmarks and tests fire it by hand.
+    virtual QTimer* pollTimer() { return nullptr; }
 
 signals:
     void closeRequested();

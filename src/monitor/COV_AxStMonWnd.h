@@ -26,6 +26,7 @@ public:
     ~COV_AxStMonWnd() override;
 
     ToolKind kind() const override { return ToolAxisStatus; }
+    QTimer* pollTimer() override { return &m_timer; }
     void handleUserMessage(UserMessage message, int wParam) override;
 
     // Timer 1: reads the five words of the chosen axis, in the order card, drive, main,

@@ -29,6 +29,7 @@ public:
     ~COV_BoardCallWnd() override;
 
     ToolKind kind() const override { return ToolBoardCalls; }
+    QTimer* pollTimer() override { return &m_timer; }
     void handleUserMessage(UserMessage message, int wParam) override;
     QSize sizeHint() const override;
 

@@ -25,6 +25,7 @@ public:
     explicit COV_DIoWnd(const ToolContext& context, QWidget* parent = nullptr);
 
     ToolKind kind() const override { return ToolDigitalIo; }
+    QTimer* pollTimer() override { return &m_timer; }
     void handleUserMessage(UserMessage message, int wParam) override;
     void requestClose() override;
 

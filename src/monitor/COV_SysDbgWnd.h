@@ -40,6 +40,7 @@ public:
     explicit COV_SysDbgWnd(const ToolContext& context, QWidget* parent = nullptr);
 
     ToolKind kind() const override { return ToolSystemDiagnosis; }
+    QTimer* pollTimer() override { return &m_timer; }
     // The window keeps its own card; no notification changes it.
     void handleUserMessage(UserMessage, int) override {}
 

@@ -28,6 +28,7 @@ public:
     explicit COV_SysIoWnd(const ToolContext& context, QWidget* parent = nullptr);
 
     ToolKind kind() const override { return ToolSystemIo; }
+    QTimer* pollTimer() override { return &m_timer; }
     void handleUserMessage(UserMessage message, int wParam) override;
 
     // The 10 ms poll: inputs, then outputs, redrawing only what changed. Returns how many

@@ -33,6 +33,7 @@ public:
     ~COV_MnMtnWnd() override;
 
     ToolKind kind() const override { return ToolMultiAxis; }
+    QTimer* pollTimer() override { return &m_listWatch; }
     void handleUserMessage(UserMessage message, int wParam) override;
     void requestClose() override;
     void endMotion() override { m_sequencer.endSequence(); }
