@@ -65,6 +65,13 @@ QWidget* COV_SnMtnPtpWnd::createRepeatGroup()
     m_repeat->setObjectName(QStringLiteral("repeat"));
     m_infinite = new QCheckBox(QStringLiteral("Infinite"));
     m_infinite->setObjectName(QStringLiteral("infinite"));
+    // Their row keeps its room while they are hidden, so the page does not change height
+    // with the motion type.
+    for (QCheckBox* box : {m_repeat, m_infinite}) {
+        QSizePolicy policy = box->sizePolicy();
+        policy.setRetainSizeWhenHidden(true);
+        box->setSizePolicy(policy);
+    }
     grid.addRow(m_repeat, m_infinite);
     m_count = grid.addField(QStringLiteral(" Count"), QString(), "count");
     m_delay = grid.addField(QStringLiteral(" Delay Time"), kMsec, "delayTime");

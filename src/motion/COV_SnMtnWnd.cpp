@@ -20,6 +20,8 @@
 #include <QTabBar>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 const QString kParametersChanged =
     QStringLiteral("Parameters are changed. Do you want to set parameter?");
@@ -154,7 +156,27 @@ QWidget* COV_SnMtnWnd::createButtonColumn()
         layout->addWidget(button);
     layout->addStretch();
     layout->addWidget(m_close);
+    keepColumnWidth(*column);
     return column;
+}
+
+void COV_SnMtnWnd::keepColumnWidth(QWidget& column) const
+{
+    // One width whatever the motion buttons say, so the stop buttons never move and the window
+    // keeps its size when the tab or the motion type changes.
+    int width = 0;
+    for (QPushButton* button : {m_eStop, m_sStop, m_servo, m_alarmReset, m_counterClear, m_setPrm,
+                                m_parameterSetup, m_scope, m_close})
+        width = std::max(width, button->sizeHint().width());
+    int pair = 0;
+    for (const char* caption : {"-Jog", "+Jog", "Dec.", "Inc", "Pos. 1", "Pos. 2"}) {
+        m_minus->setText(QLatin1String(caption));
+        pair = std::max(pair, m_minus->sizeHint().width());
+    }
+    const int spacing = column.layout()->spacing();
+    column.setFixedWidth(std::max(width, 2 * pair + spacing));
+    for (QPushButton* button : {m_minus, m_plus})
+        button->setSizePolicy(QSizePolicy::Ignored, button->sizePolicy().verticalPolicy());
 }
 
 void COV_SnMtnWnd::connectControls()

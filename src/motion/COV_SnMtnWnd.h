@@ -50,6 +50,7 @@ private:
     QWidget* createSelectorRow();
     QWidget* createPageArea();
     QWidget* createButtonColumn();
+    void keepColumnWidth(QWidget& column) const;
     QWidget* createMotionButtons();
     void connectControls();
 

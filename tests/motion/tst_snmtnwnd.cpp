@@ -70,18 +70,39 @@ private slots:
                  (QStringList{"Home", "Point To Point"}));
         QCOMPARE(rig.captions(), QStringList{"Home"});
 
+        // The stop buttons never move and the window keeps its size while the user works.
+        rig.window->show();
+        QCoreApplication::processEvents();
+        const auto placeOf = [&](const char* name) {
+            QWidget* button = rig.button(name);
+            return QRect(button->mapTo(rig.window.get(), QPoint()), button->size());
+        };
+        const QRect eStop = placeOf("eStopButton");
+        const QRect sStop = placeOf("sStopButton");
+        const QSize size = rig.window->size();
+        const auto steady = [&] {
+            QCoreApplication::processEvents();
+            return placeOf("eStopButton") == eStop && placeOf("sStopButton") == sStop &&
+                   rig.window->size() == size;
+        };
+
         auto* repeat = rig.find<QCheckBox>("repeat");
         rig.pointToPoint(MotionType::Jog);
+        QVERIFY(steady());
         QCOMPARE(rig.captions(), (QStringList{"-Jog", "+Jog"}));
         rig.pointToPoint(MotionType::Relative, true);
         QCOMPARE(rig.captions(), (QStringList{"Dec.", "Inc"}));
+        QVERIFY(steady());
         rig.choose("motionType", int(MotionType::Absolute));
         QCOMPARE(rig.captions(), QStringList{"Auto Move"});
+        QVERIFY(steady());
         repeat->click();
         QCOMPARE(rig.captions(), (QStringList{"Pos. 1", "Pos. 2"}));
+        QVERIFY(steady());
         repeat->click();
         rig.selectTab(MotionTab::Home);
         QVERIFY(rig.captions() == QStringList{"Home"} && !repeat->isChecked());
+        QVERIFY(steady());
         rig.selectTab(MotionTab::PointToPoint);
         QCOMPARE(rig.captions(), (QStringList{"Pos. 1", "Pos. 2"}));
     }
