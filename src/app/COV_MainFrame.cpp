@@ -8,6 +8,7 @@
 #include "COV_SysCfgDlg.h"
 #include "COV_UtMtnStWnd.h"
 #include "COV_WsSysWnd.h"
+#include "MenuMnemonics.h"
 #include "OrvaneSettings.h"
 #include "PromptService.h"
 #include "ToolView.h"
@@ -142,6 +143,7 @@ void COV_MainFrame::createMenus()
     bar->addMenu(createStatusMenu());
     bar->addMenu(createWindowMenu());
     bar->addMenu(createHelpMenu());
+    MenuMnemonics::apply(*bar);
 }
 
 QMenu* COV_MainFrame::createSystemMenu()

@@ -156,7 +156,7 @@ private slots:
         QVERIFY(rig.start("Fail.SetPosSpeed=-1\n"));
         // Opened from the Window menu.
         for (QAction* action : rig.frame->findChildren<QAction*>()) {
-            if (action->text() == QStringLiteral("Board Calls"))
+            if (action->text().remove(QLatin1Char('&')) == QStringLiteral("Board Calls"))
                 action->trigger();
         }
         auto* calls = static_cast<COV_BoardCallWnd*>(rig.frame->toolWindows().view(ToolBoardCalls));

@@ -16,6 +16,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
+#include <QMenuBar>
 #include <QStandardPaths>
 #include <QStatusBar>
 #include <QTemporaryDir>
@@ -336,6 +337,24 @@ private slots:
         rig.frame->openTool(ToolSystemIo);
         rig.frame->openTool(ToolSystemDiagnosis);
         QCOMPARE(first->mdiArea()->subWindowList().size(), 2);
+
+        // Every menu and entry can be reached with Alt and a letter of its own.
+        const auto uniqueMnemonics = [](const QList<QAction*>& actions) {
+            QSet<QChar> letters;
+            for (const QAction* action : actions) {
+                if (action->isSeparator())
+                    continue;
+                const int at = action->text().indexOf(QLatin1Char('&'));
+                if (at < 0 || letters.contains(action->text()[at + 1].toLower()))
+                    return false;
+                letters.insert(action->text()[at + 1].toLower());
+            }
+            return true;
+        };
+        const QList<QAction*> menus = rig.frame->menuBar()->actions();
+        QVERIFY(uniqueMnemonics(menus));
+        for (const QAction* menu : menus)
+            QVERIFY2(uniqueMnemonics(menu->menu()->actions()), qPrintable(menu->text()));
     }
 
     void tools_closeAskTheViewAndCloseAllStopsAtARefusal()
