@@ -1,12 +1,14 @@
 #include "COV_AboutDlg.h"
 
+#include "DialogFlags.h"
+
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QStyle>
 #include <QVBoxLayout>
 
-COV_AboutDlg::COV_AboutDlg(QWidget* parent) : QDialog(parent)
+COV_AboutDlg::COV_AboutDlg(QWidget* parent) : QDialog(parent, kDialogFlags)
 {
     setWindowTitle(QStringLiteral("About Orvane"));
     auto* layout = new QVBoxLayout(this);

@@ -1,5 +1,6 @@
 #include "COV_LogLevDlg.h"
 
+#include "DialogFlags.h"
 #include "OkCancelButtons.h"
 #include "OrvaneSettings.h"
 
@@ -9,7 +10,8 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-COV_LogLevDlg::COV_LogLevDlg(int level, QWidget* parent) : QDialog(parent), m_readLevel(level)
+COV_LogLevDlg::COV_LogLevDlg(int level, QWidget* parent)
+    : QDialog(parent, kDialogFlags), m_readLevel(level)
 {
     setWindowTitle(QStringLiteral("Log Level Setup"));
     auto* layout = new QVBoxLayout(this);

@@ -1,5 +1,6 @@
 #include "COV_SysCfgDlg.h"
 
+#include "DialogFlags.h"
 #include "OkCancelButtons.h"
 
 #include <QCheckBox>
@@ -7,7 +8,7 @@
 #include <QVBoxLayout>
 
 COV_SysCfgDlg::COV_SysCfgDlg(QString settingsFilePath, QWidget* parent)
-    : QDialog(parent), m_path(std::move(settingsFilePath)),
+    : QDialog(parent, kDialogFlags), m_path(std::move(settingsFilePath)),
       m_values(OrvaneSettings::readSystem(m_path))
 {
     setWindowTitle(QStringLiteral("System Environment Setup"));

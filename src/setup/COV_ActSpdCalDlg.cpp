@@ -2,6 +2,7 @@
 
 #include "AppState.h"
 #include "BoardApi.h"
+#include "DialogFlags.h"
 #include "FieldText.h"
 #include "PlotWidget.h"
 #include "SpeedProfileCurve.h"
@@ -39,7 +40,7 @@ void styleResult(QLineEdit* edit, const QColor& text, bool transparent)
 } // namespace
 
 COV_ActSpdCalDlg::COV_ActSpdCalDlg(const ToolContext& context, QWidget* parent)
-    : QDialog(parent), m_context(context), m_family(context.state.active.family)
+    : QDialog(parent, kDialogFlags), m_context(context), m_family(context.state.active.family)
 {
     setWindowTitle(QStringLiteral("Actual Speed Calculator"));
     auto* left = new QVBoxLayout;

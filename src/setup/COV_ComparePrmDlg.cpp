@@ -1,6 +1,7 @@
 #include "COV_ComparePrmDlg.h"
 
 #include "AppState.h"
+#include "DialogFlags.h"
 #include "ParameterSourceBox.h"
 #include "ParameterText.h"
 #include "PromptService.h"
@@ -20,7 +21,7 @@ const QColor kDifferent(255, 214, 153);
 }
 
 COV_ComparePrmDlg::COV_ComparePrmDlg(const ToolContext& context, QWidget* parent)
-    : QDialog(parent), m_context(context)
+    : QDialog(parent, kDialogFlags), m_context(context)
 {
     setWindowTitle(QStringLiteral("Compare Parameters"));
     resize(760, 600);

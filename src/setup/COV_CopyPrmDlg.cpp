@@ -2,6 +2,7 @@
 
 #include "AppState.h"
 #include "CardTypeSelector.h"
+#include "DialogFlags.h"
 #include "FrameRelay.h"
 #include "ParameterCopy.h"
 
@@ -24,7 +25,7 @@ constexpr int kSyncPeriodMs = 100;
 
 COV_CopyPrmDlg::COV_CopyPrmDlg(const ToolContext& context, CardNo card, AxisNo axis, int page,
                                QWidget* parent)
-    : QDialog(parent), m_context(context), m_page(page)
+    : QDialog(parent, kDialogFlags), m_context(context), m_page(page)
 {
     setWindowTitle(QStringLiteral("Copy Parameter"));
     auto* groups = new QHBoxLayout;

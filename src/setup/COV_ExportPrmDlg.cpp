@@ -1,6 +1,7 @@
 #include "COV_ExportPrmDlg.h"
 
 #include "AppState.h"
+#include "DialogFlags.h"
 #include "ParameterSourceBox.h"
 #include "ParameterText.h"
 #include "PromptService.h"
@@ -16,7 +17,7 @@
 #include <QVBoxLayout>
 
 COV_ExportPrmDlg::COV_ExportPrmDlg(const ToolContext& context, QWidget* parent)
-    : QDialog(parent), m_context(context)
+    : QDialog(parent, kDialogFlags), m_context(context)
 {
     setWindowTitle(QStringLiteral("Export Parameters"));
     setMinimumWidth(460);

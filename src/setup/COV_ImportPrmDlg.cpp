@@ -1,6 +1,7 @@
 #include "COV_ImportPrmDlg.h"
 
 #include "AppState.h"
+#include "DialogFlags.h"
 #include "FrameRelay.h"
 #include "ParameterComparison.h"
 #include "ParameterImport.h"
@@ -20,7 +21,7 @@
 #include <QVBoxLayout>
 
 COV_ImportPrmDlg::COV_ImportPrmDlg(const ToolContext& context, QWidget* parent)
-    : QDialog(parent), m_context(context)
+    : QDialog(parent, kDialogFlags), m_context(context)
 {
     setWindowTitle(QStringLiteral("Import Parameters"));
     resize(720, 520);

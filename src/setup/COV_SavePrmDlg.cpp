@@ -3,6 +3,7 @@
 #include "AppState.h"
 #include "BoardApi.h"
 #include "CardTypeSelector.h"
+#include "DialogFlags.h"
 #include "PromptService.h"
 
 #include <QCheckBox>
@@ -13,7 +14,7 @@
 #include <QVBoxLayout>
 
 COV_SavePrmDlg::COV_SavePrmDlg(const ToolContext& context, QWidget* parent)
-    : QDialog(parent), m_context(context)
+    : QDialog(parent, kDialogFlags), m_context(context)
 {
     setWindowTitle(QStringLiteral("Save Parameter"));
     const ActiveController& active = context.state.active;

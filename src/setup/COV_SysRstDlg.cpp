@@ -3,6 +3,7 @@
 #include "AppState.h"
 #include "BoardApi.h"
 #include "CardTypeSelector.h"
+#include "DialogFlags.h"
 #include "FrameRelay.h"
 #include "PromptService.h"
 
@@ -13,7 +14,7 @@
 #include <QVBoxLayout>
 
 COV_SysRstDlg::COV_SysRstDlg(const ToolContext& context, QWidget* parent)
-    : QDialog(parent), m_context(context)
+    : QDialog(parent, kDialogFlags), m_context(context)
 {
     setWindowTitle(QStringLiteral("System Reset"));
     const ActiveController& active = context.state.active;
