@@ -62,6 +62,10 @@ QWidget* COV_StBaseWnd::createPagingButtons()
     layout->addWidget(createPagingButton(QStringLiteral("<"), &COV_StBaseWnd::pagePrevious));
     layout->addWidget(createPagingButton(QStringLiteral(">"), &COV_StBaseWnd::pageNext));
     layout->addWidget(createPagingButton(QStringLiteral(">>"), &COV_StBaseWnd::pageLast));
+    const char* const tips[] = {"Show the first four axes", "Show the previous four axes",
+                                "Show the next four axes", "Show the last four axes"};
+    for (int i = 0; i < layout->count(); ++i)
+        layout->itemAt(i)->widget()->setToolTip(QString::fromLatin1(tips[i]));
     layout->addStretch(1);
     return row;
 }
