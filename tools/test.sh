@@ -9,8 +9,10 @@ export QT_QPA_PLATFORM=offscreen
 if [ "${1:-}" = "--sanitize" ]; then
   # Warnings are enforced by the normal build; the optimiser's extra ones under the
   # sanitizers are known false alarms.
-  cmake -S . -B build-sanitize -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DORVANE_WERROR=OFF \
-    -DORVANE_SANITIZE=ON -DORVANE_BUILD_BENCH=OFF >/dev/null
+  # -O1 with line tables only: a quicker build whose reports still name file and line.
+  cmake -S . -B build-sanitize -G Ninja -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG="-O1 -g1" \
+    -DCMAKE_C_FLAGS_DEBUG="-O1 -g1" -DORVANE_WERROR=OFF -DORVANE_SANITIZE=ON \
+    -DORVANE_BUILD_BENCH=OFF >/dev/null
   cmake --build build-sanitize -j"$(nproc)"
   # Qt's own caches live until exit: report leaks of our code, not of the platform libraries.
   export ASAN_OPTIONS="detect_leaks=1:abort_on_error=0:strict_string_checks=1:detect_stack_use_after_return=1"
