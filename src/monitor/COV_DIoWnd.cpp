@@ -4,6 +4,7 @@
 #include "CLedButton.h"
 #include "FrameRelay.h"
 #include "LedFaces.h"
+#include "NumberList.h"
 #include "PromptService.h"
 
 #include <QCheckBox>
@@ -190,14 +191,8 @@ void COV_DIoWnd::connectControls()
 
 void COV_DIoWnd::fillCardCombo()
 {
-    const AppState& state = m_context.state;
-    const int cards = state.activeCardCount();
-    m_cardCombo->clear();
-    for (int card = 0; card < cards; ++card)
-        m_cardCombo->addItem(QString::number(card));
-    m_cardCombo->setCurrentIndex(state.active.card);
-    m_cardCombo->setEnabled(cards != 1);
-    m_card = state.active.card;
+    NumberList::fillActiveCards(*m_cardCombo, m_context.state);
+    m_card = m_context.state.active.card;
 }
 
 void COV_DIoWnd::setUp()

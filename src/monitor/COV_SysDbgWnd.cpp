@@ -4,6 +4,7 @@
 #include "BoardApi.h"
 #include "DiagnosisGrid.h"
 #include "DigitalIoWords.h"
+#include "NumberList.h"
 
 #include <QComboBox>
 #include <QGridLayout>
@@ -144,9 +145,7 @@ void COV_SysDbgWnd::fillFamilyCombo()
 void COV_SysDbgWnd::fillCardCombo()
 {
     const int cards = m_context.state.registry.cardCount(m_family);
-    m_cardCombo->clear();
-    for (int card = 0; card < cards; ++card)
-        m_cardCombo->addItem(QString::number(card));
+    NumberList::fill(*m_cardCombo, cards);
     m_cardCombo->setEnabled(cards > 1);
 }
 

@@ -3,6 +3,7 @@
 #include "AppState.h"
 #include "CLedButton.h"
 #include "LedFaces.h"
+#include "NumberList.h"
 #include "OutputButton.h"
 
 #include <QCheckBox>
@@ -264,12 +265,7 @@ OutputButton* COV_SysIoWnd::outputButton(int axis, int row) const
 void COV_SysIoWnd::fillCardCombo()
 {
     const AppState& state = m_context.state;
-    const int cards = state.activeCardCount();
-    m_cardCombo->clear();
-    for (int card = 0; card < cards; ++card)
-        m_cardCombo->addItem(QString::number(card));
-    m_cardCombo->setCurrentIndex(state.active.card);
-    m_cardCombo->setEnabled(cards != 1);
+    NumberList::fillActiveCards(*m_cardCombo, state);
     // The title names the card it was built for, until the next controller change.
     setWindowTitle(QStringLiteral("System IO - %1(%2)")
                        .arg(state.modelName(state.active.card))

@@ -8,6 +8,7 @@
 #include "IsNumericText.h"
 #include "JogReleaseGuard.h"
 #include "MultiAxisForm.h"
+#include "NumberList.h"
 #include "PromptService.h"
 #include "QtClockwork.h"
 
@@ -145,13 +146,8 @@ BoardFamily COV_MnMtnWnd::family() const
 
 void COV_MnMtnWnd::fillCardCombo()
 {
-    const int cards = m_context.state.activeCardCount();
-    m_form.cardCombo->clear();
-    for (int card = 0; card < cards; ++card)
-        m_form.cardCombo->addItem(QString::number(card));
+    NumberList::fillActiveCards(*m_form.cardCombo, m_context.state);
     m_card = static_cast<CardNo>(m_context.state.active.card);
-    m_form.cardCombo->setCurrentIndex(m_context.state.active.card);
-    m_form.cardCombo->setEnabled(cards > 1);
 }
 
 void COV_MnMtnWnd::reload()

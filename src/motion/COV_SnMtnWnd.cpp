@@ -6,6 +6,7 @@
 #include "COV_SnMtnPtpWnd.h"
 #include "FrameRelay.h"
 #include "JogReleaseGuard.h"
+#include "NumberList.h"
 #include "PromptService.h"
 #include "QtClockwork.h"
 
@@ -213,14 +214,8 @@ void COV_SnMtnWnd::connectControls()
 
 void COV_SnMtnWnd::fillCardCombo()
 {
-    const AppState& state = m_context.state;
-    const int cards = state.activeCardCount();
-    m_cardCombo->clear();
-    for (int card = 0; card < cards; ++card)
-        m_cardCombo->addItem(QString::number(card));
-    m_card = static_cast<CardNo>(state.active.card);
-    m_cardCombo->setCurrentIndex(state.active.card);
-    m_cardCombo->setEnabled(cards != 1);
+    NumberList::fillActiveCards(*m_cardCombo, m_context.state);
+    m_card = static_cast<CardNo>(m_context.state.active.card);
 }
 
 void COV_SnMtnWnd::reload()
@@ -229,9 +224,7 @@ void COV_SnMtnWnd::reload()
     setWindowTitle(
         QStringLiteral("Single Axis Motion - %1(%2)").arg(state.modelName(m_card)).arg(m_card));
     const int axes = state.registry.axisCount(state.active.family, m_card);
-    m_axisCombo->clear();
-    for (int axis = 0; axis < axes; ++axis)
-        m_axisCombo->addItem(QString::number(axis));
+    NumberList::fill(*m_axisCombo, axes);
     if (m_axis > axes - 1) {
         m_axis = 0;
         state.active.axis = 0;

@@ -1,0 +1,20 @@
+#include "NumberList.h"
+
+#include "AppState.h"
+
+#include <QComboBox>
+
+void NumberList::fill(QComboBox& combo, int count)
+{
+    combo.clear();
+    for (int number = 0; number < count; ++number)
+        combo.addItem(QString::number(number));
+}
+
+void NumberList::fillActiveCards(QComboBox& combo, const AppState& state)
+{
+    const int cards = state.activeCardCount();
+    fill(combo, cards);
+    combo.setCurrentIndex(state.active.card);
+    combo.setEnabled(cards > 1);
+}
