@@ -184,6 +184,31 @@ private slots:
         QCOMPARE(rig.api.Done(BoardFamily::RL, 0, 2), 0);
         QCOMPARE(rig.prompt.messages().size(), 3);
     }
+
+    void layout_stopButtonsAndSizeStayPutAcrossMotionTypes()
+    {
+        Rig rig;
+        QVERIFY(rig.start());
+        rig.window->show();
+        QCoreApplication::processEvents();
+        const auto place = [&](const char* name) {
+            QWidget* button = rig.find<QPushButton>(name);
+            return QRect(button->mapTo(rig.window.get(), QPoint()), button->size());
+        };
+        const QRect eStop = place("eStopButton");
+        const QRect sStop = place("sStopButton");
+        const QSize size = rig.window->size();
+        for (MotionType type : {MotionType::Relative, MotionType::Absolute, MotionType::Jog}) {
+            rig.choose("motionType", int(type));
+            for (int click = 0; click < 2 && type != MotionType::Jog; ++click) {
+                rig.find<QCheckBox>("repeat")->click();
+                QCoreApplication::processEvents();
+                QCOMPARE(place("eStopButton"), eStop);
+                QCOMPARE(place("sStopButton"), sStop);
+                QCOMPARE(rig.window->size(), size);
+            }
+        }
+    }
 };
 
 QTEST_MAIN(TestMnMtnSim)
