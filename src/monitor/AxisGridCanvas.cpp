@@ -2,6 +2,7 @@
 
 #include "AxisValueGridModel.h"
 
+#include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 
@@ -27,14 +28,36 @@ AxisGridCanvas::AxisGridCanvas(AxisValueGridModel& model, QWidget* parent)
 
 void AxisGridCanvas::fitTitles()
 {
-    m_titleWidth = kTitleWidth;
+    m_neededTitleWidth = kTitleWidth;
     for (int row = 0; row < m_model.rowCount(); ++row) {
         const QString name = m_model.headerData(row, Qt::Vertical, Qt::DisplayRole).toString();
-        m_titleWidth =
-            qMax(m_titleWidth, fontMetrics().horizontalAdvance(name) + 2 * kTextMargin + 1);
+        m_neededTitleWidth =
+            qMax(m_neededTitleWidth, fontMetrics().horizontalAdvance(name) + 2 * kTextMargin + 1);
     }
-    setFixedSize(sizeHint());
+    fitColumns();
+}
+
+void AxisGridCanvas::fitColumns()
+{
+    if (m_stretched) {
+        constexpr int columns = AxisValueGridModel::kAxes + 1;
+        const int spare = width() - 1;
+        m_titleWidth = qMax(spare / columns + spare % columns, m_neededTitleWidth);
+        m_axisWidth = qMax(0, spare - m_titleWidth) / AxisValueGridModel::kAxes;
+        setMinimumSize(m_neededTitleWidth + AxisValueGridModel::kAxes, kRowHeight);
+        setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    } else {
+        m_titleWidth = m_neededTitleWidth;
+        m_axisWidth = kAxisWidth;
+        setFixedSize(sizeHint());
+    }
     update();
+}
+
+void AxisGridCanvas::setStretched(bool stretched)
+{
+    m_stretched = stretched;
+    fitColumns();
 }
 
 void AxisGridCanvas::changeEvent(QEvent* event)
@@ -44,15 +67,39 @@ void AxisGridCanvas::changeEvent(QEvent* event)
         fitTitles();
 }
 
+void AxisGridCanvas::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    if (m_stretched)
+        fitColumns();
+}
+
+void AxisGridCanvas::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    const int axis = axisAt(event->position().toPoint());
+    if (axis >= 0)
+        emit axisDoubleClicked(axis);
+}
+
+int AxisGridCanvas::axisAt(const QPoint& point) const
+{
+    if (m_axisWidth <= 0 || point.x() < m_titleWidth || point.y() < 0 ||
+        point.y() >= kRowHeight * (1 + m_model.rowCount()))
+        return -1;
+    const int axis = (point.x() - m_titleWidth) / m_axisWidth;
+    return axis < AxisValueGridModel::kAxes ? axis : -1;
+}
+
 QSize AxisGridCanvas::sizeHint() const
 {
-    return QSize(m_titleWidth + AxisValueGridModel::kAxes * kAxisWidth + 1,
+    return QSize(m_titleWidth + AxisValueGridModel::kAxes * m_axisWidth + 1,
                  kRowHeight * (1 + m_model.rowCount()) + 1);
 }
 
 QRect AxisGridCanvas::cellRect(int row, int axis) const
 {
-    return QRect(m_titleWidth + axis * kAxisWidth, (row + 1) * kRowHeight, kAxisWidth, kRowHeight);
+    return QRect(m_titleWidth + axis * m_axisWidth, (row + 1) * kRowHeight, m_axisWidth,
+                 kRowHeight);
 }
 
 void AxisGridCanvas::paintCell(QPainter& painter, const QRect& cell, const QString& text,

@@ -2,10 +2,10 @@
 
 #include <QWidget>
 
+class AxisGridCanvas;
+class AxisValueGridModel;
 class BoardApi;
 class FrameRelay;
-class MotionStatusModel;
-class QTableView;
 struct AppState;
 
 // The docked "Motion Status" pane: command position, actual position and command velocity of
@@ -15,7 +15,13 @@ class COV_UtMtnStWnd : public QWidget
     Q_OBJECT
 
 public:
-    static constexpr int kRowHeight = 22;
+    enum Row
+    {
+        CommandPosition = 0,
+        ActualPosition = 1,
+        CommandVelocity = 2
+    };
+    static constexpr int kRows = 3;
 
     COV_UtMtnStWnd(AppState& state, BoardApi& board, FrameRelay& frame, QWidget* parent = nullptr);
 
@@ -24,20 +30,14 @@ public:
     // What a double click on an axis column does (its title or a value).
     void activateAxis(int axis);
 
-    QTableView* grid() const { return m_grid; }
-    MotionStatusModel* model() const { return m_model; }
+    AxisGridCanvas* canvas() const { return m_canvas; }
+    AxisValueGridModel* model() const { return m_model; }
     bool isCellVisible(int row, int axis) const;
 
-protected:
-    void resizeEvent(QResizeEvent* event) override;
-
 private:
-    void createGrid();
-    void fitColumns();
-
     AppState& m_state;
     BoardApi& m_board;
     FrameRelay& m_frame;
-    MotionStatusModel* m_model = nullptr;
-    QTableView* m_grid = nullptr;
+    AxisValueGridModel* m_model = nullptr;
+    AxisGridCanvas* m_canvas = nullptr;
 };

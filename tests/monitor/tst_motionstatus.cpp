@@ -1,13 +1,12 @@
 #include "AppState.h"
+#include "AxisGridCanvas.h"
+#include "AxisValueGridModel.h"
 #include "BoardApi.h"
 #include "COV_UtMtnStWnd.h"
-#include "MotionStatusModel.h"
 #include "RecordingBoard.h"
 #include "RecordingFrame.h"
 
-#include <QHeaderView>
 #include <QSignalSpy>
-#include <QTableView>
 #include <QTest>
 
 #include <memory>
@@ -53,11 +52,11 @@ private slots:
         rig.board.setResultFor("GetActualPos", 0, 0, 42);
         rig.board.setResultFor("GetCommandSpeed", 0, 1, 8000);
         rig.pane->refresh();
-        QCOMPARE(rig.cell(MotionStatusModel::CommandPosition, 1).toString(), "-1500");
-        QCOMPARE(rig.cell(MotionStatusModel::ActualPosition, 0).toString(), "42");
-        QCOMPARE(rig.cell(MotionStatusModel::CommandVelocity, 1).toString(), "8000");
+        QCOMPARE(rig.cell(COV_UtMtnStWnd::CommandPosition, 1).toString(), "-1500");
+        QCOMPARE(rig.cell(COV_UtMtnStWnd::ActualPosition, 0).toString(), "42");
+        QCOMPARE(rig.cell(COV_UtMtnStWnd::CommandVelocity, 1).toString(), "8000");
         QCOMPARE(rig.cell(0, 1, Qt::BackgroundRole).value<QColor>(), QColor(Qt::white));
-        for (int row = 0; row < MotionStatusModel::kRows; ++row) {
+        for (int row = 0; row < COV_UtMtnStWnd::kRows; ++row) {
             for (int axis = 2; axis < 8; ++axis) {
                 QCOMPARE(rig.cell(row, axis).toString(), QString());
                 QCOMPARE(rig.cell(row, axis, Qt::BackgroundRole).value<QColor>(),
@@ -78,10 +77,10 @@ private slots:
     void reading_cellsOutOfViewAreNotRead()
     {
         // Room for the header and the first data row only.
-        Rig rig(4, QSize(900, 46));
+        Rig rig(4, QSize(900, 2 * AxisGridCanvas::kRowHeight));
         QVERIFY(QTest::qWaitForWindowExposed(rig.pane.get()));
-        QVERIFY(rig.pane->isCellVisible(MotionStatusModel::CommandPosition, 3));
-        QVERIFY(!rig.pane->isCellVisible(MotionStatusModel::ActualPosition, 0));
+        QVERIFY(rig.pane->isCellVisible(COV_UtMtnStWnd::CommandPosition, 3));
+        QVERIFY(!rig.pane->isCellVisible(COV_UtMtnStWnd::ActualPosition, 0));
         rig.pane->refresh();
         QCOMPARE(rig.board.count(QStringLiteral("GetCommandPos")), 4);
         QCOMPARE(rig.board.count(QStringLiteral("GetActualPos")), 0);
@@ -99,7 +98,7 @@ private slots:
         rig.pane->refresh();
         QCOMPARE(changes.size(), 1);
         const QModelIndex changed = changes.first().first().value<QModelIndex>();
-        QCOMPARE(changed.row(), int(MotionStatusModel::ActualPosition));
+        QCOMPARE(changed.row(), int(COV_UtMtnStWnd::ActualPosition));
         QCOMPARE(changed.column(), 5);
     }
 
@@ -107,20 +106,22 @@ private slots:
     {
         Rig rig(2);
         rig.pane->refresh();
-        QTableView* grid = rig.pane->grid();
-        QHeaderView* axisTitles = grid->horizontalHeader();
-        // The grey column, its axis title, and no cell at all: nothing.
-        emit grid->doubleClicked(rig.pane->model()->index(2, 4));
-        emit axisTitles->sectionDoubleClicked(3);
-        emit grid->doubleClicked(QModelIndex());
+        AxisGridCanvas* grid = rig.pane->canvas();
+        const auto doubleClick = [&](QPoint at) {
+            QTest::mouseDClick(grid, Qt::LeftButton, {}, at);
+        };
+        // The grey column, its axis title, and the row names: nothing.
+        doubleClick(grid->cellRect(2, 4).center());
+        doubleClick(grid->cellRect(-1, 3).center());
+        doubleClick(QPoint(4, grid->cellRect(0, 0).center().y()));
         QVERIFY(rig.frame.sent.isEmpty());
 
         const QList<QPair<int, int>> opened{{UM_OPEN_TOOL, ToolSingleAxis}};
-        emit grid->doubleClicked(rig.pane->model()->index(0, 1));
+        doubleClick(grid->cellRect(0, 1).center());
         QCOMPARE(rig.state.active.axis, 1);
         QCOMPARE(rig.frame.sent, opened);
         // The axis titles are the grid's top row and count too.
-        emit axisTitles->sectionDoubleClicked(0);
+        doubleClick(grid->cellRect(-1, 0).center());
         QCOMPARE(rig.state.active.axis, 0);
         QCOMPARE(rig.frame.sent, opened + opened);
     }
