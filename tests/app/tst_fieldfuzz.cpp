@@ -307,6 +307,11 @@ private:
                     rig.sim.advance(family, 20);
                 act(rig, what + QStringLiteral(" poll"), poll);
                 rig.frame->stopAllAction()->trigger();
+                // A recording stops too, so its settings take typing again.
+                for (QAbstractButton* button : buttonsBeside(top)) {
+                    if (button->text() == QLatin1String("Stop"))
+                        button->click();
+                }
                 QApplication::processEvents();
             }
         }
