@@ -361,7 +361,8 @@ private slots:
         Rig rig;
         QVERIFY(rig.start());
         QDir::setCurrent(rig.sim.folder.path());
-        std::unique_ptr<QDialog> dialog(make(rig.context()));
+        const ToolContext context = rig.context(); // dialogs keep a reference to it
+        std::unique_ptr<QDialog> dialog(make(context));
         fuzz(rig, dialog.get(), 1500);
     }
 

@@ -107,7 +107,7 @@ private slots:
     {
         const QByteArray base = "; Orvane settings\r\n[System]\r\nDefault_Show_Status_Window=1\r\n"
                                 "Other = a,b\\c ;x\r\n\r\n[DEBUG_RL]\r\nLOG_LEVEL=3\r\n[x]]\r\n";
-        const QByteArray junk = QByteArray("[]=;# \t\r\n\"'\\,.-09aZ\x7f\x80\xff", 24) + '\0';
+        const QByteArray junk = QByteArray("[]=;# \t\r\n\"'\\,.-09aZ\x7f\x80\xff") + '\0';
         const QByteArray names = "SystemDEBUG_RLlog_level_.09";
         const QByteArray values = "0123456789-+,.;=[]\\ abcXYZ\xe9\x80";
         const QString file = path("fuzz.ini");

@@ -492,8 +492,9 @@ private slots:
         }
     }
 
-    // Damaged boards files: LoadDevice never crashes and never reports more than the boards
-    // can be, and whatever it reports answers every card and axis.
+    // Damaged boards files, and parameter files saved under other boards: LoadDevice never
+    // crashes and never reports more than the boards can be, and whatever it reports answers
+    // for every card and axis.
     void boardsFile_mutatedStaysWithinLimits()
     {
         QByteArray base = QByteArray(TwoCards) +
@@ -556,6 +557,9 @@ private slots:
                 l.nrx.PutDOBit(card, nrx_u16(io), 1);
                 l.nrx.GetDIBit(card, nrx_u16(io > 0 ? io - 1 : 0));
                 l.sim.AdvanceClock(5);
+                // Parameter files of one layout meet the boards of the next.
+                if (rng.bounded(12) == 0)
+                    l.nrx.SaveFile(card);
             }
             l.nrx.UnloadDevice();
         }
