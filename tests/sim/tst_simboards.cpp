@@ -491,6 +491,79 @@ private slots:
             QCOMPARE(n.GetCommandPos(0, 0), 1000);
         }
     }
+
+    // Damaged boards files, and parameter files saved under other boards: LoadDevice never
+    // crashes and never reports more than the boards can be, and whatever it reports answers
+    // for every card and axis.
+    void boardsFile_mutatedStaysWithinLimits()
+    {
+        QByteArray base = QByteArray(TwoCards) +
+                          "[Axes]\nPlusLimit=100000\nZPeriod=0x10\nSlip=3\n[RL.Card1.Axis1]\n"
+                          "Alarm=DO3\nServoLag=7\n[RM]\nCards=8\nFail.SetPosSpeed=-1\n"
+                          "[RM.Card7]\nAxes=8\nIO=64\nEmergency=DO63\n[RN]\nLoadResult=-4\n";
+        const QByteArray pieces[] = {"=",
+                                     "[",
+                                     "]",
+                                     ";",
+                                     "\n",
+                                     "0x",
+                                     "-",
+                                     "DO",
+                                     "99",
+                                     "8",
+                                     "0",
+                                     "1",
+                                     "Cards=",
+                                     "Axes=",
+                                     "IO=",
+                                     "[RN]",
+                                     ".Card",
+                                     ".Axis",
+                                     "\xff",
+                                     QByteArray(1, '\0'),
+                                     "9999999999999999999",
+                                     "Input63=DO64",
+                                     "LoadResult=0"};
+        QRandomGenerator rng(15033);
+        for (int round = 0; round < 300; ++round) {
+            QByteArray text = base;
+            for (int edits = 1 + int(rng.bounded(8)); edits > 0; --edits) {
+                const int at = int(rng.bounded(int(text.size()) + 1));
+                switch (rng.bounded(3)) {
+                case 0:
+                    text.insert(at, pieces[rng.bounded(int(std::size(pieces)))]);
+                    break;
+                case 1:
+                    text.remove(at, int(rng.bounded(10)));
+                    break;
+                default:
+                    text.insert(at, text.mid(int(rng.bounded(int(text.size()) + 1)), 40));
+                }
+            }
+            QVERIFY(SimLibrary::writeBoards(dir_->path(), text));
+            const int family = round % 3;
+            SimLibrary& l = *lib_[family];
+            const int last = l.loadIn(dir_->path());
+            QVERIFY2(last <= MaxCards - 1, text.constData());
+            for (int card = 0; card <= last; ++card) {
+                nrx_i32 axes = 0, io = -1;
+                l.nrx.BoardInfo(card, nullptr, nullptr, &axes, nullptr, &io);
+                QVERIFY2(axes >= 1 && axes <= MaxAxes && io >= 0 && io <= MaxIoPoints,
+                         text.constData());
+                for (int axis = 0; axis < axes; ++axis) {
+                    l.nrx.GetCardStatus(card, axis);
+                    l.nrx.Inc_Move(card, axis, 100);
+                }
+                l.nrx.PutDOBit(card, nrx_u16(io), 1);
+                l.nrx.GetDIBit(card, nrx_u16(io > 0 ? io - 1 : 0));
+                l.sim.AdvanceClock(5);
+                // Parameter files of one layout meet the boards of the next.
+                if (rng.bounded(12) == 0)
+                    l.nrx.SaveFile(card);
+            }
+            l.nrx.UnloadDevice();
+        }
+    }
 };
 
 QTEST_GUILESS_MAIN(TestSimBoards)
