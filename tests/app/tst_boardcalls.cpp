@@ -2,26 +2,22 @@
 #include "BoardApi.h"
 #include "BoardCallModel.h"
 #include "BoardCallText.h"
-#include "BoardLoader.h"
 #include "COV_BoardCallWnd.h"
 #include "COV_MainFrame.h"
 #include "COV_SnMtnWnd.h"
 #include "PaintCounter.h"
 #include "ScriptedPrompt.h"
+#include "SimBoardsRig.h"
 #include "ToolWindowHost.h"
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDir>
-#include <QFile>
-#include <QLibrary>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTableView>
-#include <QTemporaryDir>
 #include <QTest>
 
 // The main frame on the simulated boards with the trace on: a relative move of the
@@ -34,11 +30,10 @@ class TestBoardCalls : public QObject
 private:
     struct Rig
     {
-        QTemporaryDir folder;
-        BoardLoader loader{QStringLiteral(ORVANE_SIM_DIR)};
         AppState state;
         BoardCallTrace trace;
         BoardApi board;
+        SimBoardsRig sim{board, state};
         ScriptedPrompt prompt;
         ToolWindowFactory factory;
         std::unique_ptr<COV_MainFrame> frame;
@@ -46,29 +41,10 @@ private:
         // One RL card of 4 axes; familyKeys go into its [RL] section.
         bool start(const QByteArray& familyKeys)
         {
-            QFile boards(folder.filePath(QStringLiteral("NrxSimBoards.ini")));
-            if (!boards.open(QIODevice::WriteOnly))
+            if (!sim.start(false, "[RL]\nCards=1\n" + familyKeys + "[RL.Card0]\nAxes=4\nIO=16\n"))
                 return false;
-            boards.write("[RL]\nCards=1\n" + familyKeys + "[RL.Card0]\nAxes=4\nIO=16\n");
-            boards.close();
-            loader.loadAll();
-            const char* prefixes[] = {"NRXSIM520L_", "NRXSIM540L_", "NRXSIM590L_"};
-            for (BoardFamily family : kAllFamilies) {
-                QLibrary extras(QDir(QStringLiteral(ORVANE_SIM_DIR))
-                                    .filePath(BoardLoader::libraryFileName(family)));
-                const QByteArray prefix = prefixes[familyIndex(family)];
-                auto setFolder = reinterpret_cast<nrx_i32 (*)(const char*)>(
-                    extras.resolve(prefix + "SetDataFolder"));
-                auto setManualClock = reinterpret_cast<nrx_i32 (*)(nrx_i32)>(
-                    extras.resolve(prefix + "SetManualClock"));
-                if (!setFolder || !setManualClock)
-                    return false;
-                setFolder(QFile::encodeName(folder.path()).constData());
-                setManualClock(1);
-                board.setTable(family, loader.table(family));
-            }
             board.setTrace(&trace);
-            state.moduleDirectory = folder.path() + QLatin1Char('/');
+            state.moduleDirectory = sim.folder.path() + QLatin1Char('/');
             factory.registerKind(ToolSingleAxis, [](const ToolContext& c, QWidget* p) -> ToolView* {
                 return new COV_SnMtnWnd(c, p);
             });
@@ -76,7 +52,7 @@ private:
                 return new COV_BoardCallWnd(c, p);
             });
             frame = std::make_unique<COV_MainFrame>(state, board, prompt, factory);
-            if (!frame->create(loader.problems()))
+            if (!frame->create(sim.loader.problems()))
                 return false;
             frame->monitorTimer().stop();
             frame->resize(1366, 768);

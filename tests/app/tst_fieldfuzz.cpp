@@ -1,4 +1,3 @@
-#include "../setup/SimBoardsRig.h"
 #include "BoardCallTrace.h"
 #include "COV_ActSpdCalDlg.h"
 #include "COV_ComparePrmDlg.h"
@@ -7,6 +6,7 @@
 #include "COV_MainFrame.h"
 #include "MotionErrorCode.h"
 #include "ScriptedPrompt.h"
+#include "SimBoardsRig.h"
 #include "ToolView.h"
 #include "ToolWindowFactory.h"
 #include "ToolWindowHost.h"

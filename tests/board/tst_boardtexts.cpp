@@ -3,6 +3,9 @@
 
 #include <QTest>
 
+#include <tuple>
+#include <utility>
+
 // Model names, version texts and the registry's counts and flags.
 class TestBoardTexts : public QObject
 {
@@ -33,30 +36,22 @@ private slots:
                  name);
     }
 
-    void libraryVersion_skipsDigitsOneAndThree()
+    void versions_libraryDropsDigitsOneAndThreeFirmwareHasAFamilyBlank()
     {
-        QCOMPARE(BoardTexts::libraryVersionText(10203), std::string("Dll Ver. : 1.2.3.3"));
-        QCOMPARE(BoardTexts::libraryVersionText(123456), std::string("Dll Ver. : 1.3.5.6"));
-        // Too short: the missing positions give empty pieces.
-        QCOMPARE(BoardTexts::libraryVersionText(123), std::string("Dll Ver. : 1.3..3"));
-        QCOMPARE(BoardTexts::libraryVersionText(7), std::string("Dll Ver. : 7...7"));
-    }
-
-    void firmware_noFirmwareValueDiffersByFamily()
-    {
-        QCOMPARE(BoardTexts::firmwareText(BoardFamily::RL, 0x51),
-                 std::string("Firmware Ver. : 5.1"));
-        QCOMPARE(BoardTexts::firmwareText(BoardFamily::RM, 0x51),
-                 std::string("Firmware Ver. : 0.0"));
-        QCOMPARE(BoardTexts::firmwareText(BoardFamily::RM, 0x50),
-                 std::string("Firmware Ver. : 5.0"));
-        QCOMPARE(BoardTexts::firmwareText(BoardFamily::RN, 0x50),
-                 std::string("Firmware Ver. : 0.0"));
-        QCOMPARE(BoardTexts::firmwareText(BoardFamily::RL, 0), std::string("Firmware Ver. : 0.0"));
-        QCOMPARE(BoardTexts::firmwareText(BoardFamily::RL, 0x1a3),
-                 std::string("Firmware Ver. : 1.3"));
-        QCOMPARE(BoardTexts::firmwareText(BoardFamily::RN, 0xb),
-                 std::string("Firmware Ver. : b.b"));
+        // Too short a library version leaves empty pieces.
+        const std::pair<int, const char*> library[] = {
+            {10203, "1.2.3.3"}, {123456, "1.3.5.6"}, {123, "1.3..3"}, {7, "7...7"}};
+        for (const auto& [value, text] : library)
+            QCOMPARE(BoardTexts::libraryVersionText(value), std::string("Dll Ver. : ") + text);
+        // 0x51 means no firmware on RM, 0x50 on RN; RL shows both.
+        const std::tuple<BoardFamily, int, const char*> firmware[] = {
+            {BoardFamily::RL, 0x51, "5.1"}, {BoardFamily::RM, 0x51, "0.0"},
+            {BoardFamily::RM, 0x50, "5.0"}, {BoardFamily::RN, 0x50, "0.0"},
+            {BoardFamily::RL, 0, "0.0"},    {BoardFamily::RL, 0x1a3, "1.3"},
+            {BoardFamily::RN, 0xb, "b.b"}};
+        for (const auto& [family, value, text] : firmware)
+            QCOMPARE(BoardTexts::firmwareText(family, value),
+                     std::string("Firmware Ver. : ") + text);
     }
 
     void registry_countsFromLoadResults()

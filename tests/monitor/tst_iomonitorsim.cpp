@@ -1,6 +1,5 @@
 #include "AppState.h"
 #include "BoardApi.h"
-#include "BoardLoader.h"
 #include "CLedButton.h"
 #include "COV_DIoWnd.h"
 #include "COV_SnMtnWnd.h"
@@ -9,13 +8,11 @@
 #include "PaintCounter.h"
 #include "RecordingFrame.h"
 #include "ScriptedPrompt.h"
+#include "SimBoardsRig.h"
 
 #include <QApplication>
-#include <QDir>
-#include <QFile>
 #include <QLineEdit>
 #include <QTabBar>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <memory>
@@ -29,10 +26,9 @@ class TestIoMonitorSim : public QObject
 private:
     struct Rig
     {
-        QTemporaryDir folder;
-        BoardLoader loader{QStringLiteral(ORVANE_SIM_DIR)};
         BoardApi api;
         AppState state;
+        SimBoardsRig sim{api, state};
         ScriptedPrompt prompt;
         RecordingFrame frame;
         ToolContext context{state, api, prompt, frame};
@@ -41,31 +37,14 @@ private:
 
         explicit Rig(int card)
         {
-            QFile boards(folder.filePath(QStringLiteral("NrxSimBoards.ini")));
-            if (boards.open(QIODevice::WriteOnly))
-                boards.write("[RL]\nCards=3\n[RL.Card0]\nAxes=4\nIO=16\n[RL.Card1]\nAxes=2\nIO=24\n"
-                             "[RL.Card2]\nAxes=8\nIO=64\n");
-            boards.close();
-            loader.loadAll();
-            api.setTable(BoardFamily::RL, loader.table(BoardFamily::RL));
-            QLibrary extras(QDir(QStringLiteral(ORVANE_SIM_DIR))
-                                .filePath(BoardLoader::libraryFileName(BoardFamily::RL)));
-            if (auto setFolder = reinterpret_cast<nrx_i32 (*)(const char*)>(
-                    extras.resolve("NRXSIM520L_SetDataFolder")))
-                setFolder(QFile::encodeName(folder.path()).constData());
-            state.registry.setLoadResult(BoardFamily::RL, api.LoadDevice(BoardFamily::RL));
-            for (CardNo c = 0; c < 3; ++c) {
-                nrx_i32 reserved = 0, firmware = 0, axes = 0, info = 0, io = 0;
-                api.BoardInfo(BoardFamily::RL, c, &reserved, &firmware, &axes, &info, &io);
-                state.registry.setCardInfo(BoardFamily::RL, c, axes, info, io);
-            }
+            sim.start(true, "[RL]\nCards=3\n[RL.Card0]\nAxes=4\nIO=16\n[RL.Card1]\nAxes=2\nIO=24\n"
+                            "[RL.Card2]\nAxes=8\nIO=64\n");
             state.active.card = card;
         }
         ~Rig()
         {
             dio.reset();
             sysIo.reset();
-            api.UnloadDevice(BoardFamily::RL);
         }
         COV_DIoWnd& openDio()
         {

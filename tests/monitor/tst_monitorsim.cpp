@@ -2,18 +2,14 @@
 #include "BitLamp.h"
 #include "BitLampPainter.h"
 #include "BoardApi.h"
-#include "BoardLoader.h"
 #include "COV_AxStMonWnd.h"
 #include "COV_SysDbgWnd.h"
 #include "DiagnosisGrid.h"
 #include "RecordingFrame.h"
 #include "ScriptedPrompt.h"
+#include "SimBoardsRig.h"
 
-#include <QDir>
-#include <QFile>
-#include <QLibrary>
 #include <QLineEdit>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <array>
@@ -30,48 +26,20 @@ private:
 
     struct Rig
     {
-        QTemporaryDir folder;
-        BoardLoader loader{QStringLiteral(ORVANE_SIM_DIR)};
-        QLibrary extras{QDir(QStringLiteral(ORVANE_SIM_DIR))
-                            .filePath(BoardLoader::libraryFileName(BoardFamily::RL))};
         BoardApi api;
         AppState state;
+        SimBoardsRig sim{api, state};
         ScriptedPrompt prompt;
         RecordingFrame frame;
         std::unique_ptr<COV_AxStMonWnd> status;
         std::unique_ptr<COV_SysDbgWnd> diagnosis;
-        nrx_i32 (*advanceClock)(nrx_i32) = nullptr;
-        nrx_i32 (*setSignal)(nrx_u16, nrx_u16, nrx_u16, nrx_u16) = nullptr;
 
         // One RL card of 4 axes whose limit switches sit at +-6000 pulses.
         bool start()
         {
-            QFile boards(folder.filePath(QStringLiteral("NrxSimBoards.ini")));
-            if (!boards.open(QIODevice::WriteOnly))
+            if (!sim.start(true, "[RL]\nCards=1\n[RL.Card0]\nAxes=4\nIO=24\n"
+                                 "[Axes]\nPlusLimit=6000\nMinusLimit=-6000\nZPeriod=0\n"))
                 return false;
-            boards.write("[RL]\nCards=1\n[RL.Card0]\nAxes=4\nIO=24\n"
-                         "[Axes]\nPlusLimit=6000\nMinusLimit=-6000\nZPeriod=0\n");
-            boards.close();
-            loader.loadAll();
-            api.setTable(BoardFamily::RL, loader.table(BoardFamily::RL));
-            auto setManualClock =
-                reinterpret_cast<nrx_i32 (*)(nrx_i32)>(extras.resolve("NRXSIM520L_SetManualClock"));
-            auto setDataFolder = reinterpret_cast<nrx_i32 (*)(const char*)>(
-                extras.resolve("NRXSIM520L_SetDataFolder"));
-            advanceClock =
-                reinterpret_cast<nrx_i32 (*)(nrx_i32)>(extras.resolve("NRXSIM520L_AdvanceClock"));
-            setSignal = reinterpret_cast<nrx_i32 (*)(nrx_u16, nrx_u16, nrx_u16, nrx_u16)>(
-                extras.resolve("NRXSIM520L_SetSignal"));
-            if (!api.hasLibrary(BoardFamily::RL) || !setManualClock || !setDataFolder ||
-                !advanceClock || !setSignal)
-                return false;
-            setManualClock(1);
-            setDataFolder(QFile::encodeName(folder.path()).constData());
-            const nrx_i32 result = api.LoadDevice(BoardFamily::RL);
-            state.registry.setLoadResult(BoardFamily::RL, result);
-            nrx_i32 reserved = 0, firmware = 0, axes = 0, info = 0, io = 0;
-            api.BoardInfo(BoardFamily::RL, 0, &reserved, &firmware, &axes, &info, &io);
-            state.registry.setCardInfo(BoardFamily::RL, 0, axes, info, io);
             state.active.axis = kAxis;
             const ToolContext context{state, api, prompt, frame};
             status = std::make_unique<COV_AxStMonWnd>(context);
@@ -81,13 +49,12 @@ private:
                 window->show();
             status->timer().stop();
             diagnosis->timer().stop();
-            return result == 0 && axes == 4;
+            return state.registry.axisCount(BoardFamily::RL, 0) == 4;
         }
         ~Rig()
         {
             status.reset();
             diagnosis.reset();
-            api.UnloadDevice(BoardFamily::RL);
         }
 
         void move(std::int32_t distance)
@@ -100,7 +67,7 @@ private:
             for (int ms = 0; ms < 60000; ++ms) {
                 if (api.Done(BoardFamily::RL, 0, kAxis) == 0)
                     return true;
-                advanceClock(1);
+                sim.advance(BoardFamily::RL, 1);
             }
             return false;
         }
@@ -156,7 +123,7 @@ private slots:
         Rig rig;
         QVERIFY(rig.start());
         rig.move(-4000);
-        rig.advanceClock(40);
+        rig.sim.advance(BoardFamily::RL, 40);
         verifyShownWords(rig);
         QVERIFY(rig.lampWord(StatusWordKind::Card) & 0x100);         // RUN
         QVERIFY(rig.lampWord(StatusWordKind::Main) & (1u << kAxis)); // RUN of slot 1
@@ -187,7 +154,7 @@ private slots:
         rig.api.PutSvOn(BoardFamily::RL, 0, kAxis, 1);
         verifyShownWords(rig);
         QVERIFY(rig.lampWord(StatusWordKind::Input) & 0x100); // RDY of the odd axis
-        rig.setSignal(0, kAxis, 0, 1);
+        rig.sim.setSignal[0](0, kAxis, 0, 1);
         verifyShownWords(rig);
         QVERIFY(rig.lampWord(StatusWordKind::Card) & 0x10);    // ALM
         QVERIFY(rig.lampWord(StatusWordKind::Input) & 0x8000); // ALM of the odd axis

@@ -3,7 +3,7 @@
 #include "ManualClockwork.h"
 #include "RecordingFrame.h"
 #include "ScriptedPrompt.h"
-#include "SimRlBoard.h"
+#include "SimBoardsRig.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -30,23 +30,18 @@ private:
         RecordingFrame frame;
         ManualClockwork clockwork;
         ToolContext context{state, api, prompt, frame};
-        SimRlBoard sim;
+        SimBoardsRig sim{api, state};
         std::unique_ptr<COV_MnMtnWnd> window;
 
         bool start()
         {
-            if (!sim.load(api, state,
-                          "[RL]\nCards=1\n[Axes]\nPlusLimit=900000\nMinusLimit=-900000\n"
-                          "[RL.Card0.Axis3]\nSlip=20\n"))
+            if (!sim.start(true, "[RL]\nCards=1\n[Axes]\nPlusLimit=900000\nMinusLimit=-900000\n"
+                                 "[RL.Card0.Axis3]\nSlip=20\n"))
                 return false;
             window = std::make_unique<COV_MnMtnWnd>(context, clockwork);
             return true;
         }
-        ~Rig()
-        {
-            window.reset();
-            api.UnloadDevice(BoardFamily::RL);
-        }
+        ~Rig() { window.reset(); }
         template <typename T> T* find(const char* name) const
         {
             return window->findChild<T*>(QLatin1String(name));
@@ -84,7 +79,7 @@ private:
                 if (!window->sequencer().isMoving() && !clockwork.anyActive())
                     return true;
                 clockwork.run(1, [&] {
-                    sim.advanceClock(1);
+                    sim.advance(BoardFamily::RL, 1);
                     window->onGantryTick();
                 });
             }
@@ -172,7 +167,7 @@ private slots:
         // Jog two axes; the user unchecks one and changes the motion type before letting go.
         rig.check({2});
         QTest::mousePress(plus, Qt::LeftButton);
-        rig.clockwork.run(100, [&] { rig.sim.advanceClock(1); });
+        rig.clockwork.run(100, [&] { rig.sim.advance(BoardFamily::RL, 1); });
         QVERIFY(rig.position(1) > 0 && rig.position(2) > 0);
         rig.find<QListWidget>("axisList")->item(2)->setCheckState(Qt::Unchecked);
         rig.window->onListWatch();

@@ -1,5 +1,5 @@
 #include "COV_SnMtnPtpWnd.h"
-#include "SimRlBoard.h"
+#include "SimBoardsRig.h"
 #include "SnMtnWindowRig.h"
 
 #include <QTest>
@@ -13,27 +13,23 @@ class TestSnMtnSim : public QObject
 private:
     struct Rig : SnMtnWindowRig
     {
-        SimRlBoard sim;
-        nrx_i32 (*advanceClock)(nrx_i32) = nullptr;
+        SimBoardsRig sim{api, state};
+        SimBoardsRig::Clock advanceClock = nullptr;
 
         // RL cards of 4 axes whose limit switches sit at +-6000 pulses, without Z marks.
         bool start(int cards = 1)
         {
             const QByteArray boards = "[RL]\nCards=" + QByteArray::number(cards) +
                                       "\n[Axes]\nPlusLimit=6000\nMinusLimit=-6000\nZPeriod=0\n";
-            if (!sim.load(api, state, boards))
+            if (!sim.start(true, boards))
                 return false;
-            advanceClock = sim.advanceClock;
+            advanceClock = sim.advanceClock[0];
             state.active.axis = 1;
             open();
             return state.registry.axisCount(BoardFamily::RL, 0) == 4;
         }
-        ~Rig()
-        {
-            // The window stops what it holds on the board before the library goes.
-            window.reset();
-            api.UnloadDevice(BoardFamily::RL);
-        }
+        // The window stops what it holds on the board before the library goes.
+        ~Rig() { window.reset(); }
 
         void click(const char* name) { QTest::mouseClick(button(name), Qt::LeftButton); }
         std::int32_t commandPosition() { return api.GetCommandPos(BoardFamily::RL, 0, 1); }
@@ -62,10 +58,20 @@ private:
     };
 
 private slots:
-    void relativeRepeat_threeStepsOfOneThousand()
+    void relativeRepeat_threeStepsOfOneThousandWithTheSelectorsLocked()
     {
         Rig rig;
-        QVERIFY(rig.start());
+        QVERIFY(rig.start(2));
+        const QList<QWidget*> lockable{
+            rig.find<QComboBox>("cardCombo"), rig.find<QComboBox>("axisCombo"),
+            rig.find<QTabBar>("tabBar"),      rig.find<QComboBox>("motionType"),
+            rig.find<QCheckBox>("repeat"),    rig.find<QCheckBox>("infinite")};
+        const auto enabled = [&] {
+            QList<bool> states;
+            for (QWidget* widget : lockable)
+                states << widget->isEnabled();
+            return states;
+        };
         rig.pointToPoint(MotionType::Relative, true);
         auto* page = rig.window->findChild<COV_SnMtnPtpWnd*>();
         page->findChild<QLineEdit*>("setCommand")->setText("-700");
@@ -84,7 +90,8 @@ private slots:
                 rig.api.GetCommandSpeed(BoardFamily::RL, 0, 1) > 0) {
                 // Let the layout settle first: nothing else runs the event loop here.
                 QCoreApplication::processEvents();
-                shot = rig.window->grab().save(QStringLiteral("/tmp/snmtnwnd_sim_moving.png"));
+                shot = rig.window->grab().save(QStringLiteral("/tmp/snmtnwnd_sim_moving.png")) &&
+                       enabled() == QList<bool>(6, false);
             }
         }));
         QVERIFY(shot);
@@ -92,6 +99,7 @@ private slots:
         QCOMPARE(rig.text("repeatCount"), QStringLiteral("3"));
         QVERIFY(rig.text("cycleTime").toInt() > 300);
         QVERIFY(!rig.axesMoving() && rig.prompt.messages().isEmpty());
+        QCOMPARE(enabled(), QList<bool>(6, true));
     }
 
     void absoluteRepeat_alternatesAndEndsAtPosition1()

@@ -8,7 +8,7 @@
 #include <QVBoxLayout>
 
 // The single-axis window: its selectors, buttons and layout rules, the prompts on every way
-// out, the lock while a repeat runs, and every way a jog ends.
+// out, and every way a jog ends.
 class TestSnMtnWnd : public QObject
 {
     Q_OBJECT
@@ -255,34 +255,6 @@ private slots:
         QVERIFY(rig.rl.calls().isEmpty());
         rig.window->handleUserMessage(UM_VIEW_COMMAND, ToolSingleAxis);
         QCOMPARE(rig.rl.calls({"GetSvOn"}), QStringList{"GetSvOn(1,0)"});
-    }
-
-    void repeat_locksControlsAndAxesMovingUntilLastDwell()
-    {
-        Rig rig({4, 4});
-        rig.open();
-        rig.pointToPoint(MotionType::Relative, true);
-        rig.setText("count", "2");
-        rig.setText("delayTime", "50");
-        const QList<QWidget*> lockable{
-            rig.find<QComboBox>("cardCombo"), rig.find<QComboBox>("axisCombo"),
-            rig.find<QTabBar>("tabBar"),      rig.find<QComboBox>("motionType"),
-            rig.find<QCheckBox>("repeat"),    rig.find<QCheckBox>("infinite")};
-        const auto enabled = [&] {
-            QList<bool> states;
-            for (QWidget* widget : lockable)
-                states << widget->isEnabled();
-            return states;
-        };
-        QTest::mouseClick(rig.button("plusButton"), Qt::LeftButton);
-        QVERIFY(rig.axesMoving() && enabled() == QList<bool>(6, false));
-        // Poll, dwell, second step, poll: the last dwell still holds the lock.
-        rig.clockwork.run(10 + 50 + 10 + 49);
-        QCOMPARE(rig.rl.count("Inc_Move"), 2);
-        QVERIFY(rig.axesMoving() && enabled() == QList<bool>(6, false));
-        rig.clockwork.run(1);
-        QVERIFY(!rig.axesMoving() && enabled() == QList<bool>(6, true));
-        QCOMPARE(rig.text("repeatCount"), QStringLiteral("2"));
     }
 };
 

@@ -131,6 +131,20 @@ private slots:
               "figures");
     }
 
+    void calculation_roundsItsRegistersToTheNearestStep()
+    {
+        // 9900 pps in 130 ms at R 2: 76153.8 pps/s = register 304.6 -> 305; no speed change
+        // still gives the smallest register, not zero.
+        QCOMPARE(Calc::calculate(request(10000, 100, 130, 200, 0, 0, 100)).accelRegister, 305);
+        QCOMPARE(Calc::calculate(request(5000, 5000, 100, 100, 0, 0, 100)).accelRegister, 1);
+        // J = 4 * 9900 / 0.1^2 = 3.96e6 -> round(62.5e6 / J * 2) = 32, a 100 ms ramp; the
+        // S-curve does not use the decel input.
+        const Calc::Result s = Calc::calculate(request(10000, 100, 100, 900, 1, 0, 100));
+        QCOMPARE(s.jerkRegister, 32);
+        QCOMPARE(int(s.accelTimeMs), 100);
+        QCOMPARE(s.decelTimeMs, s.accelTimeMs);
+    }
+
     void dialog_readsTheRangeFromItsBoxAndNumbersLikeAtoi()
     {
         AppState state;

@@ -6,12 +6,11 @@
 #include "RecordingBoardSet.h"
 #include "RecordingFrame.h"
 #include "ScriptedPrompt.h"
-#include "SimLibrary.h"
+#include "SimBoardsRig.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QTableWidget>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <functional>
@@ -28,41 +27,26 @@ private:
     // RL: one card of 4 axes; RM: one card of 8; RN: two cards of 4.
     struct Rig
     {
-        QTemporaryDir folder;
-        std::unique_ptr<SimLibrary> libs[kFamilyCount];
         AppState state;
         BoardApi api;
+        SimBoardsRig sim{api, state};
         ScriptedPrompt prompt;
         RecordingFrame frame;
         ToolContext context{state, api, prompt, frame};
 
         bool start()
         {
-            if (!SimLibrary::writeBoards(folder.path(), "[RL]\nCards=1\n[RL.Card0]\nAxes=4\n"
-                                                        "[RM]\nCards=1\n[RM.Card0]\nAxes=8\n"
-                                                        "[RN]\nCards=2\n[RN.Card0]\nAxes=4\n"
-                                                        "[RN.Card1]\nAxes=4\n"))
-                return false;
-            for (BoardFamily family : kAllFamilies) {
-                auto& lib = libs[familyIndex(family)];
-                lib = std::make_unique<SimLibrary>(familyIndex(family));
-                const int result = lib->loadIn(folder.path());
-                state.registry.setLoadResult(family, result);
-                for (int card = 0; card <= result; ++card) {
-                    nrx_i32 reserved = 0, firmware = 0, axes = 0, info = 0, io = 0;
-                    lib->nrx.BoardInfo(card, &reserved, &firmware, &axes, &info, &io);
-                    state.registry.setCardInfo(family, CardNo(card), axes, info, io);
-                }
-                api.setTable(family, &lib->nrx);
-            }
-            return state.registry.cardCount(BoardFamily::RN) == 2;
+            return sim.start(true, "[RL]\nCards=1\n[RL.Card0]\nAxes=4\n[RM]\nCards=1\n"
+                                   "[RM.Card0]\nAxes=8\n[RN]\nCards=2\n[RN.Card0]\nAxes=4\n"
+                                   "[RN.Card1]\nAxes=4\n") &&
+                   state.registry.cardCount(BoardFamily::RN) == 2;
         }
-        NrxFunctionTable& board(BoardFamily family) { return libs[familyIndex(family)]->nrx; }
+        const NrxFunctionTable& board(BoardFamily family) { return *sim.loader.table(family); }
 
         // One setting of each page, read back as the board holds it.
         QList<int> probe(int page, BoardFamily family, int card, int axis)
         {
-            NrxFunctionTable& b = board(family);
+            const NrxFunctionTable& b = board(family);
             const nrx_u16 c = nrx_u16(card), a = nrx_u16(axis);
             nrx_u16 use = 0, level = 0;
             nrx_i32 plus = 0, minus = 0;
@@ -76,7 +60,7 @@ private:
         }
         void setProbe(int page, BoardFamily family, int card, int axis)
         {
-            NrxFunctionTable& b = board(family);
+            const NrxFunctionTable& b = board(family);
             const nrx_u16 c = nrx_u16(card), a = nrx_u16(axis);
             if (page == 0)
                 b.SetSvAlm(c, a, 7, 1);

@@ -1,6 +1,7 @@
 #include "ParameterCatalog.h"
 #include "SimBoardsRig.h"
 
+#include <QDir>
 #include <QTest>
 
 #include <map>
@@ -75,14 +76,21 @@ private slots:
         QVERIFY(rig.start());
         const AxisNo axis = 1;
         const Snapshot factory = readAll(rig.api, family, axis);
+        const Snapshot neighbour = readAll(rig.api, family, 0);
         const Snapshot wanted = changed(factory);
         QCOMPARE(wanted.size(), family == BoardFamily::RN ? 31u : 30u);
         for (const auto& [call, values] : wanted)
             ParameterCatalog::write(rig.api, family, call, 0, axis, values);
         QVERIFY(readAll(rig.api, family, axis) == wanted);
 
+        // Saved files are whole (no temporary left) and the other axes kept their settings.
         QVERIFY(rig.saveAndReload());
         QVERIFY(readAll(rig.api, family, axis) == wanted);
+        QVERIFY(QDir(rig.folder.path()).entryList({"*.new"}, QDir::Files).isEmpty());
+        for (const auto& [call, values] : readAll(rig.api, family, 0)) {
+            const bool card = ParameterCatalog::levelOf(call) == ParameterLevel::Card;
+            QVERIFY(card || values == neighbour.at(call));
+        }
 
         rig.api.SetSystemDefault(family, 0, axis);
         const Snapshot restored = readAll(rig.api, family, axis);

@@ -50,18 +50,9 @@ private:
     // Boards of two families only (RN missing), RM with a smaller model than RL.
     static bool startTwoFamilies(SimBoardsRig& rig)
     {
-        if (!rig.start(false) ||
-            !TextFile::write(rig.folder.filePath(QStringLiteral("NrxSimBoards.ini")),
-                             "[RL]\nCards=1\n[RL.Card0]\nAxes=4\n"
-                             "[RM]\nCards=1\n[RM.Card0]\nAxes=2\n"))
-            return false;
-        for (BoardFamily family : {BoardFamily::RL, BoardFamily::RM}) {
-            rig.state.registry.setLoadResult(family, rig.api.LoadDevice(family));
-            nrx_i32 reserved = 0, firmware = 0, axes = 0, info = 0, io = 0;
-            rig.api.BoardInfo(family, 0, &reserved, &firmware, &axes, &info, &io);
-            rig.state.registry.setCardInfo(family, 0, axes, info, io);
-        }
-        return rig.api.LoadDevice(BoardFamily::RN) == -1;
+        return rig.start(true, "[RL]\nCards=1\n[RL.Card0]\nAxes=4\n"
+                               "[RM]\nCards=1\n[RM.Card0]\nAxes=2\n") &&
+               !rig.state.registry.hasBoards(BoardFamily::RN);
     }
 
     // A different valid value for every parameter of every axis and card.

@@ -1,8 +1,8 @@
+#include "../support/TextFile.h"
 #include "SimConstants.h"
 #include "SimLibrary.h"
 
 #include <QDir>
-#include <QFile>
 #include <QRandomGenerator>
 #include <QSet>
 #include <QTemporaryDir>
@@ -16,19 +16,6 @@
 using namespace nrxsim;
 
 namespace {
-
-void writeFile(const QString& path, const QByteArray& text)
-{
-    QFile f(path);
-    QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    f.write(text);
-}
-
-QByteArray readFile(const QString& path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
 
 const char* const TwoCards = R"(
 [RL]
@@ -48,31 +35,6 @@ Alarm=DO2
 Axes=2
 IO=bogus
 )";
-
-// Every stored setting of one axis and its card, as the getters read them.
-QList<int> settings(NrxFunctionTable& n, nrx_u16 card, nrx_u16 axis)
-{
-    nrx_i32 v[4] = {};
-    nrx_u16 u[3] = {};
-    QList<int> all;
-    n.GetPosSpeed(card, axis, &v[0], &v[1], &v[2], &v[3]);
-    all << v[0] << v[1] << v[2] << v[3];
-    n.GetJogSpeed(card, axis, &v[0], &v[1], &v[2]);
-    all << v[0] << v[1] << v[2];
-    n.GetHomeSpeed(card, axis, &v[0], &v[1], &v[2]);
-    all << v[0] << v[1] << v[2];
-    n.GetSlmt(card, axis, &v[0], &v[1], &u[0]);
-    n.GetCounterRing(card, axis, &v[2], &v[3], &u[1]);
-    all << v[0] << v[1] << u[0] << v[2] << v[3] << u[1];
-    for (auto get : {n.GetHlmt, n.GetSvAlm, n.GetSvInpos, n.GetSvCClr}) {
-        get(card, axis, &u[0], &u[1]);
-        all << u[0] << u[1];
-    }
-    all << n.GetHomeOffset(card, axis) << n.GetHomeMode(card, axis) << n.GetHomeDir(card, axis)
-        << n.GetRangeMode(card, axis) << n.GetFilterTime(card, axis) << n.GetEmergency(card)
-        << n.GetDiFilter(card) << n.GetDiFilterTime(card);
-    return all;
-}
 
 } // namespace
 
@@ -107,20 +69,6 @@ private slots:
     {
         for (auto& l : lib_)
             l->nrx.UnloadDevice();
-    }
-
-    void exports_followTheFamilies()
-    {
-        for (int family = 0; family < 3; ++family) {
-            const SimLibrary& l = *lib_[family];
-#define CHECK_EXPORT_(ret, name, params, args, fam)                                                \
-    QVERIFY2((l.nrx.name != nullptr) == (((fam) >> family & 1) != 0), #name);
-            NRX_FOR_EACH_OPERATION(CHECK_EXPORT_)
-#undef CHECK_EXPORT_
-#define CHECK_EXTRA_(ret, name, params, args) QVERIFY2(l.sim.name != nullptr, #name);
-            NRXSIM_FOR_EACH_EXTRA(CHECK_EXTRA_)
-#undef CHECK_EXTRA_
-        }
     }
 
     void defaultSet_coversEveryFamilyAndSize()
@@ -215,77 +163,6 @@ private slots:
         QCOMPARE(axisCount, -1);
     }
 
-    void parameters_everyPairStoresItsValue()
-    {
-        for (int family = 0; family < 3; ++family) {
-            SimLibrary& l = *lib_[family];
-            QVERIFY(l.loadIn(dir_->path()) >= 0);
-            nrx_u16 value = 2;
-#define SET_PAIR_(name, fam)                                                                       \
-    if (l.nrx.Set##name)                                                                           \
-        l.nrx.Set##name(0, 1, value++);
-            NRX_FOR_EACH_PARAMETER_PAIR(SET_PAIR_)
-#undef SET_PAIR_
-            value = 2;
-#define CHECK_PAIR_(name, fam)                                                                     \
-    if (l.nrx.Get##name) {                                                                         \
-        QCOMPARE(l.nrx.Get##name(0, 1), value);                                                    \
-        QCOMPARE(l.nrx.Get##name(0, 0), nrx_u16(#name == QByteArray("RangeMode") ? 100 : 0));      \
-        ++value;                                                                                   \
-    }
-            NRX_FOR_EACH_PARAMETER_PAIR(CHECK_PAIR_)
-#undef CHECK_PAIR_
-            // The defaults come back for that axis only.
-            l.nrx.SetPosSpeed(0, 1, 7, 8, 9, 10);
-            l.nrx.SetSystemDefault(0, 1);
-            QCOMPARE(l.nrx.GetRangeMode(0, 1), 100);
-            QCOMPARE(l.nrx.GetPulseMode(0, 1), 0);
-            nrx_i32 initial, drive, accel, decel;
-            l.nrx.GetPosSpeed(0, 1, &initial, &drive, &accel, &decel);
-            QCOMPARE(drive, 10000);
-            QCOMPARE(initial, 100);
-            QCOMPARE(accel, 100);
-        }
-    }
-
-    void parameters_surviveUnloadAndLoad()
-    {
-        QCOMPARE(rl().loadIn(dir_->path()), 1);
-        NrxFunctionTable& n = rl().nrx;
-        const QList<int> defaults = settings(n, 0, 3);
-        n.SetPosSpeed(0, 3, 300, 45000, 250, 350);
-        n.SetJogSpeed(0, 3, 200, 30000, 150);
-        n.SetHomeSpeed(0, 3, 1500, 25000, 80);
-        n.SetHomeOffset(0, 3, -1234);
-        n.SetHomeMode(0, 3, 7);
-        n.SetHomeDir(0, 3, 0);
-        n.SetHlmt(0, 3, 1, 1);
-        n.SetSvAlm(0, 3, 0, 1);
-        n.SetSvInpos(0, 3, 1, 1);
-        n.SetSvCClr(0, 3, 0, 1);
-        n.SetSlmt(0, 3, 70000, -80000, 1);
-        n.SetCounterRing(0, 3, 3600, 7200, 1);
-        n.SetRangeMode(0, 3, 250);
-        n.SetFilterTime(0, 3, 6);
-        n.SetEmergency(0, 1);
-        n.SetDiFilter(0, 1);
-        n.SetDiFilterTime(0, 5);
-        n.SetEncoderMode(1, 1, 3);
-        const QList<int> saved = settings(n, 0, 3);
-        for (int i = 0; i < saved.size(); ++i)
-            QVERIFY2(saved[i] != defaults[i], qPrintable(QString::number(i))); // all were set
-        n.SaveFile(0);
-        n.SaveFile(1);
-        QCOMPARE(QDir(dir_->path()).entryList({"*.prm"}, QDir::Files).size(), 2);
-        QCOMPARE(QDir(dir_->path()).entryList({"*.new"}, QDir::Files).size(), 0);
-        n.UnloadDevice();
-
-        QCOMPARE(rl().loadIn(dir_->path()), 1);
-        QCOMPARE(settings(n, 0, 3), saved);
-        QCOMPARE(n.GetEncoderMode(1, 1), 3);
-        QCOMPARE(settings(n, 1, 0), defaults); // an untouched card keeps its defaults
-    }
-
     void parameterFile_damagedOrForeignGivesMinus2_data()
     {
         QTest::addColumn<QString>("damage");
@@ -303,7 +180,7 @@ private slots:
         rl().nrx.SaveFile(0);
         rl().nrx.UnloadDevice();
         const QString file = path("NrxSimRL_Card0.prm");
-        QByteArray text = readFile(file);
+        QByteArray text = TextFile::read(file);
         QVERIFY(text.size() > 1000);
         if (damage == "truncate")
             text.truncate(text.size() / 2);
@@ -316,7 +193,7 @@ private slots:
         if (damage == "axes")
             QVERIFY(SimLibrary::writeBoards(dir_->path(), "[RL]\nCards=1\n[RL.Card0]\nAxes=8\n"));
         else
-            writeFile(file, text);
+            QVERIFY(TextFile::write(file, text));
 
         QCOMPARE(rl().loadIn(dir_->path()), -2);
         // The sound parameters were not half applied.
@@ -332,20 +209,20 @@ private slots:
         const QString log = path("NrxSimRL.log");
         rl().nrx.LogCheck(0);
         rl().nrx.Inc_Move(0, 0, 10);
-        QVERIFY(!readFile(log).contains("Inc_Move"));
+        QVERIFY(!TextFile::read(log).contains("Inc_Move"));
         rl().nrx.LogCheck(1);
         rl().nrx.SetSlmt(0, 1, 50, -50, 1);
         rl().nrx.Inc_Move(0, 1, 100);
         rl().sim.AdvanceClock(1000);
-        QVERIFY(readFile(log).contains("axis 1 stopped with -600"));
-        QVERIFY(!readFile(log).contains("Inc_Move"));
+        QVERIFY(TextFile::read(log).contains("axis 1 stopped with -600"));
+        QVERIFY(!TextFile::read(log).contains("Inc_Move"));
         rl().nrx.LogCheck(2);
         rl().nrx.Inc_Move(0, 2, 10);
-        QVERIFY(readFile(log).contains("axis 2 Inc_Move 10"));
-        QVERIFY(!readFile(log).contains("PulseMode"));
+        QVERIFY(TextFile::read(log).contains("axis 2 Inc_Move 10"));
+        QVERIFY(!TextFile::read(log).contains("PulseMode"));
         rl().nrx.LogCheck(3);
         rl().nrx.SetPulseMode(0, 2, 4);
-        QVERIFY(readFile(log).contains("axis 2 PulseMode=4"));
+        QVERIFY(TextFile::read(log).contains("axis 2 PulseMode=4"));
     }
 
     void refusals_areQuiet()
@@ -501,29 +378,12 @@ private slots:
                           "[Axes]\nPlusLimit=100000\nZPeriod=0x10\nSlip=3\n[RL.Card1.Axis1]\n"
                           "Alarm=DO3\nServoLag=7\n[RM]\nCards=8\nFail.SetPosSpeed=-1\n"
                           "[RM.Card7]\nAxes=8\nIO=64\nEmergency=DO63\n[RN]\nLoadResult=-4\n";
-        const QByteArray pieces[] = {"=",
-                                     "[",
-                                     "]",
-                                     ";",
-                                     "\n",
-                                     "0x",
-                                     "-",
-                                     "DO",
-                                     "99",
-                                     "8",
-                                     "0",
-                                     "1",
-                                     "Cards=",
-                                     "Axes=",
-                                     "IO=",
-                                     "[RN]",
-                                     ".Card",
-                                     ".Axis",
-                                     "\xff",
-                                     QByteArray(1, '\0'),
-                                     "9999999999999999999",
-                                     "Input63=DO64",
-                                     "LoadResult=0"};
+        QList<QByteArray> pieces =
+            QByteArray("= [ ] ; \n 0x - DO 99 8 0 1 Cards= Axes= IO= [RN] .Card "
+                       ".Axis \xff 9999999999999999999 Input63=DO64 "
+                       "LoadResult=0")
+                .split(' ');
+        pieces << QByteArray(1, '\0');
         QRandomGenerator rng(15033);
         for (int round = 0; round < 300; ++round) {
             QByteArray text = base;
@@ -531,7 +391,7 @@ private slots:
                 const int at = int(rng.bounded(int(text.size()) + 1));
                 switch (rng.bounded(3)) {
                 case 0:
-                    text.insert(at, pieces[rng.bounded(int(std::size(pieces)))]);
+                    text.insert(at, pieces[int(rng.bounded(pieces.size()))]);
                     break;
                 case 1:
                     text.remove(at, int(rng.bounded(10)));

@@ -33,9 +33,6 @@ ZPeriod=0
 [RL.Card0.Axis2]
 PlusLimit=20000
 MinusLimit=-20000
-[RL.Card0.Axis3]
-Slip=10
-ServoLag=0
 )";
 
 } // namespace
@@ -80,75 +77,6 @@ private slots:
             QCOMPARE(lib_[family]->loadIn(dir_.path()), 0);
     }
 
-    void move_durationMatchesCalculator_data()
-    {
-        QTest::addColumn<int>("shape");
-        QTest::addColumn<int>("drive");
-        QTest::addColumn<int>("initial");
-        QTest::addColumn<int>("accel");
-        QTest::addColumn<int>("decel");
-        QTest::addColumn<int>("range");
-        QTest::addColumn<int>("fixed");
-        QTest::addColumn<int>("distance");
-        QTest::addColumn<int>("actualDrive"); // the calculator's actual drive speed
-        QTest::addColumn<double>("predictedMs");
-        // R 2, rate registers 396 and 198: ramps of 100 and 200 ms covering 1515 pulses,
-        // then 48485 pulses at 10000 pps.
-        QTest::newRow("trapezoid")
-            << 0 << 10000 << 100 << 100 << 200 << 100 << 0 << 50000 << 10000 << 5148.5;
-        QTest::newRow("trapezoid fast")
-            << 0 << 200000 << 1000 << 300 << 150 << 100 << 0 << -400000 << 200000 << 2224.0;
-        QTest::newRow("trapezoid odd rates")
-            << 0 << 20000 << 300 << 130 << 70 << 100 << 0 << 90000 << 20001 << 4598.3;
-        QTest::newRow("trapezoid fixed R")
-            << 0 << 50000 << 500 << 100 << 100 << 10 << 1 << 120000 << 50000 << 2499.0;
-        // Jerk register 32: 100 ms ramps from 200 pps (the S-curve's lowest start at R 2).
-        QTest::newRow("S-curve") << 1 << 10000 << 100 << 100 << 100 << 100 << 0 << 50000 << 10000
-                                 << 5098.0;
-        QTest::newRow("S-curve fast")
-            << 1 << 100000 << 500 << 250 << 250 << 100 << 0 << -300000 << 99996 << 3245.9;
-    }
-    void move_durationMatchesCalculator()
-    {
-        QFETCH(int, shape);
-        QFETCH(int, drive);
-        QFETCH(int, initial);
-        QFETCH(int, accel);
-        QFETCH(int, decel);
-        QFETCH(int, range);
-        QFETCH(int, fixed);
-        QFETCH(int, distance);
-        QFETCH(int, actualDrive);
-        QFETCH(double, predictedMs);
-        rl_->SetSpeedMode(0, 0, shape);
-        rl_->SetRangeMode(0, 0, range);
-        rl_->SetFixedRange(0, 0, fixed);
-        rl_->SetPosSpeed(0, 0, initial, drive, accel, decel);
-
-        rl_->Inc_Move(0, 0, distance);
-        QVERIFY(rl_->Done(0, 0) != 0);
-        const int half = int(predictedMs / 2);
-        advance(half);
-        QCOMPARE(rl_->GetCommandSpeed(0, 0), actualDrive);
-        const int midway = rl_->GetCommandPos(0, 0);
-        QVERIFY(qAbs(midway) > 0 && qAbs(midway) < qAbs(distance));
-        QVERIFY((midway > 0) == (distance > 0));
-        // The servo trails the command by its following error: 2 ms at the drive speed.
-        const int trail = (midway - rl_->GetActualPos(0, 0)) * (distance > 0 ? 1 : -1);
-        QVERIFY2(qAbs(trail - 2 * actualDrive / 1000) <= 2, qPrintable(QString::number(trail)));
-        QVERIFY(rl_->GetCardStatus(0, 0) & CardBit::Run);
-        QVERIFY(rl_->GetDrvStatus(0, 0) & DriveBit::Constant);
-
-        const int ms = half + runUntilDone(0, 0);
-        QVERIFY2(qAbs(ms - predictedMs) <= 1.0 + 0.01 * predictedMs,
-                 qPrintable(QString("took %1 ms, calculator says %2 ms").arg(ms).arg(predictedMs)));
-        QCOMPARE(rl_->GetCommandPos(0, 0), distance);
-        QCOMPARE(rl_->GetActualPos(0, 0), distance);
-        QCOMPARE(rl_->GetCommandSpeed(0, 0), 0);
-        QCOMPARE(rl_->GetMotionErrCod(0, 0), 0);
-        QVERIFY(!(rl_->GetCardStatus(0, 0) & CardBit::Run));
-    }
-
     void move_shortDistanceIsTriangular()
     {
         for (const int shape : {0, 1}) {
@@ -178,6 +106,10 @@ private slots:
         QCOMPARE(rl_->GetCommandSpeed(0, 0), 10000);
         const int before = rl_->GetCommandPos(0, 0);
         QVERIFY(qAbs(before - (50000 - 505)) <= 10); // 5 s at 10000 pps less the ramp
+        // The servo trails the command by its following error: 2 ms at the drive speed.
+        QVERIFY(qAbs(before - rl_->GetActualPos(0, 0) - 20) <= 2);
+        QVERIFY(rl_->GetCardStatus(0, 0) & CardBit::Run);
+        QVERIFY(rl_->GetDrvStatus(0, 0) & DriveBit::Constant);
         rl_->Decel_Stop(0, 0);
         advance(50);
         QVERIFY(rl_->Done(0, 0)); // still ramping down
@@ -386,19 +318,6 @@ private slots:
         QCOMPARE(rl_->GetMotionErrCod(0, 0), 0);
     }
 
-    void slippingAxis_losesActualPulses()
-    {
-        rl_->SetPosSpeed(0, 3, 100, 10000, 100, 100);
-        rl_->Inc_Move(0, 3, 20000);
-        runUntilDone(0, 3);
-        QCOMPARE(rl_->GetCommandPos(0, 3), 20000);
-        QCOMPARE(rl_->GetActualPos(0, 3), 20000 - 200); // 10 per 1000
-        rl_->SetActualPos(0, 3, 0);
-        rl_->Inc_Move(0, 3, -1000);
-        runUntilDone(0, 3);
-        QCOMPARE(rl_->GetActualPos(0, 3), -990);
-    }
-
     void counters_ringAndEncoder()
     {
         rl_->SetCounterRing(0, 0, 1000, 400, 1);
@@ -455,20 +374,8 @@ private slots:
         QVERIFY(!(w & MainBit::RnInterpolationRun));
     }
 
-    void statusWords_inputWordAndOutputs()
+    void statusWords_servoOutputsAndCounterClearPulse()
     {
-        auto& sim = lib_[0]->sim;
-        sim.SetSignal(0, 1, NRXSIM_SIGNAL_ALARM, 1);
-        rl_->PutSvOn(0, 0, 1);
-        // Axis 1 is the odd axis of the pair 0/1: its signals sit in bits 9..15.
-        const nrx_u16 w = rl_->GetInputStatus(0, 1);
-        QCOMPARE(w, rl_->GetInputStatus(0, 0));
-        QVERIFY(w & (InputBit::Alm << InputBit::OddAxisShift));
-        QVERIFY(!(w & InputBit::Alm));
-        QVERIFY(w & InputBit::Ready);
-        QVERIFY(!(w & (InputBit::Ready << InputBit::OddAxisShift)));
-        QVERIFY(w & InputBit::Inp);
-
         rl_->PutSvOn(0, 3, 1);
         rl_->PutSvRun(0, 3, 1);
         QCOMPARE(rl_->GetSvOn(0, 3), 1);
