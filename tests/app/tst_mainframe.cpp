@@ -463,14 +463,6 @@ private slots:
         QCOMPARE(rig.rm.count(QStringLiteral("UnloadDevice")), 1);
         QCOMPARE(rig.rn.count(QStringLiteral("UnloadDevice")), 1);
     }
-
-    void start_noBoardEndsTheProgram()
-    {
-        Rig rig(-1, -1, -1);
-        QVERIFY(!rig.create());
-        QCOMPARE(rig.prompt.messages(), QStringList{"FAIL! LOAD DEVICE DRIVER ...."});
-        QCOMPARE(rig.frame->tree()->topLevelItemCount(), 0);
-    }
 };
 
 QTEST_MAIN(TestMainFrame)

@@ -54,19 +54,6 @@ private slots:
                      std::string("Firmware Ver. : ") + text);
     }
 
-    void registry_countsFromLoadResults()
-    {
-        CardRegistry registry;
-        registry.setLoadResult(BoardFamily::RL, -4);
-        registry.setLoadResult(BoardFamily::RM, 0);
-        registry.setLoadResult(BoardFamily::RN, 8); // a ninth card has no slot
-        QCOMPARE(registry.count(BoardFamily::RL), -3);
-        QCOMPARE(registry.cardCount(BoardFamily::RL), 0);
-        QVERIFY(!registry.hasBoards(BoardFamily::RL));
-        QCOMPARE(registry.count(BoardFamily::RM), 1);
-        QCOMPARE(registry.count(BoardFamily::RN), 8);
-    }
-
     void registry_cardInfoAndOutOfRangeCards()
     {
         CardRegistry registry;

@@ -1,10 +1,6 @@
 #pragma once
 
-#include "AppState.h"
-#include "BoardApi.h"
-#include "SimLibrary.h"
-
-#include <QTemporaryDir>
+#include "SimBoardsRig.h"
 
 // One simulated RL card of 4 axes on the manual clock, with the registry filled as the
 // program fills it, and the move settings a case needs.
@@ -13,23 +9,16 @@ struct ScopeSimRig
     static constexpr BoardFamily Rl = BoardFamily::RL;
     static constexpr AxisNo Axis = 1;
 
-    QTemporaryDir folder;
-    SimLibrary rl{0};
     BoardApi api;
     AppState state;
+    SimBoardsRig sim{api, state};
+    QTemporaryDir& folder = sim.folder;
     int nowMs = 0;
 
     bool start()
     {
-        if (!SimLibrary::writeBoards(folder.path(), "[RL]\nCards=1\n[RL.Card0]\nAxes=4\nIO=16\n"
-                                                    "[Axes]\nZPeriod=0\n") ||
-            rl.loadIn(folder.path()) != 0)
-            return false;
-        api.setTable(Rl, &rl.nrx);
-        state.registry.setLoadResult(Rl, 0);
-        state.registry.setCardInfo(Rl, 0, 4, 0, 16);
         state.active.axis = Axis;
-        return true;
+        return sim.start(true, "[RL]\nCards=1\n[RL.Card0]\nAxes=4\nIO=16\n[Axes]\nZPeriod=0\n");
     }
     // Drive, initial, accel and decel as typed; mode 0 trapezoid, 1 S-curve.
     void setSpeeds(int drive, int initial, int accel, int decel, int mode)
@@ -39,7 +28,7 @@ struct ScopeSimRig
     }
     void advance(int ms)
     {
-        rl.sim.AdvanceClock(ms);
+        sim.advance(Rl, ms);
         nowMs += ms;
     }
 };

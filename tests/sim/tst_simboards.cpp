@@ -227,7 +227,7 @@ private slots:
 
     void refusals_areQuiet()
     {
-        QCOMPARE(rl().loadIn(dir_->path()), 1); // card 1 has 2 axes and 24 I/O
+        QCOMPARE(rl().loadIn(dir_->path()), 1); // card 1 has 2 axes
         NrxFunctionTable& n = rl().nrx;
         const nrx_i32 sentinel = 0x5A5A5A;
         nrx_i32 a = sentinel, b = sentinel, c = sentinel, d = sentinel, e = sentinel;
@@ -242,14 +242,6 @@ private slots:
         QCOMPARE(n.GetCardStatus(65535, 65535), 0);
         QCOMPARE(n.GetMainStatus(1, 2), 0);
         QCOMPARE(n.GetInputStatus(1, 7), 0);
-        // The 24 points are 0..7 and 16..31.
-        for (nrx_u16 bit : {8, 15, 32}) {
-            n.PutDOBit(1, bit, 1);
-            QCOMPARE(n.GetDOBit(1, bit), 0);
-            QCOMPARE(n.GetDIBit(1, bit), 0);
-        }
-        n.PutDOBit(1, 31, 1);
-        QCOMPARE(n.GetDOBit(1, 31), 1);
         // Null out-pointers are skipped, the others written.
         n.GetPosSpeed(0, 0, nullptr, &b, nullptr, nullptr);
         QCOMPARE(b, 10000);
