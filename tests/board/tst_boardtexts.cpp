@@ -12,28 +12,15 @@ class TestBoardTexts : public QObject
     Q_OBJECT
 
 private slots:
-    void modelName_data()
+    void modelName_axesThenTwoDigitsOfPoints()
     {
-        QTest::addColumn<int>("family");
-        QTest::addColumn<int>("axes");
-        QTest::addColumn<int>("io");
-        QTest::addColumn<QString>("name");
-        QTest::newRow("few io") << 0 << 4 << 2 << "NRX-RL402V";
-        QTest::newRow("sixteen io") << 0 << 4 << 16 << "NRX-RL416V";
-        QTest::newRow("nine io") << 1 << 2 << 9 << "NRX-RM209V";
-        QTest::newRow("ten io") << 1 << 2 << 10 << "NRX-RM210V";
-        QTest::newRow("sixty-four io") << 2 << 8 << 64 << "NRX-RN864V";
-        QTest::newRow("no io") << 2 << 8 << 0 << "NRX-RN800V";
-    }
-    void modelName()
-    {
-        QFETCH(int, family);
-        QFETCH(int, axes);
-        QFETCH(int, io);
-        QFETCH(QString, name);
-        QCOMPARE(QString::fromStdString(
-                     BoardTexts::modelName(static_cast<BoardFamily>(family), axes, io)),
-                 name);
+        using F = BoardFamily;
+        const std::tuple<BoardFamily, int, int, const char*> models[] = {
+            {F::RL, 4, 2, "NRX-RL402V"},  {F::RL, 4, 16, "NRX-RL416V"},
+            {F::RM, 2, 9, "NRX-RM209V"},  {F::RM, 2, 10, "NRX-RM210V"},
+            {F::RN, 8, 64, "NRX-RN864V"}, {F::RN, 8, 0, "NRX-RN800V"}};
+        for (const auto& [family, axes, io, name] : models)
+            QCOMPARE(BoardTexts::modelName(family, axes, io), std::string(name));
     }
 
     void versions_libraryDropsDigitsOneAndThreeFirmwareHasAFamilyBlank()

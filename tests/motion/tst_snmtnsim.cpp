@@ -158,7 +158,6 @@ private slots:
         QTest::newRow("motion type") << 0;
         QTest::newRow("tab") << 1;
         QTest::newRow("axis") << 2;
-        QTest::newRow("window closed") << 3;
     }
     void heldJog_stopsAtReleaseWhateverChangedMeanwhile()
     {
@@ -177,12 +176,7 @@ private slots:
             rig.selectTab(MotionTab::Home);
         else if (change == 2)
             rig.choose("axisCombo", 2);
-        if (change == 3) {
-            rig.find<QComboBox>("axisCombo")->setFocus();
-            rig.window.reset();
-        } else {
-            QTest::mouseRelease(rig.button("plusButton"), Qt::LeftButton);
-        }
+        QTest::mouseRelease(rig.button("plusButton"), Qt::LeftButton);
         for (int ms = 0; ms < 2000 && rig.api.Done(BoardFamily::RL, 0, 1) != 0; ++ms)
             rig.advanceClock(1);
         QCOMPARE(rig.api.Done(BoardFamily::RL, 0, 1), 0);

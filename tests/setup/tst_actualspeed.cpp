@@ -4,13 +4,12 @@
 #include "PlotWidget.h"
 #include "RecordingFrame.h"
 #include "ScriptedPrompt.h"
-#include "SimLibrary.h"
+#include "SimBoardsRig.h"
 #include "SpeedProfile.h"
 
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTemporaryDir>
 #include <QTest>
 
 Q_DECLARE_METATYPE(ActualSpeedCalculator::Request)
@@ -64,21 +63,17 @@ private slots:
         QCOMPARE(result.decelRegister, board.decelRegister());
 
         // The same settings on a simulated RM axis, read by the dialog.
-        QTemporaryDir folder;
-        QVERIFY(SimLibrary::writeBoards(folder.path(), "[RM]\nCards=2\n[RM.Card1]\nAxes=4\n"
-                                                       "[Axes]\nPlusLimit=100000000\n"));
-        SimLibrary rm(1);
-        QCOMPARE(rm.loadIn(folder.path()), 1);
-        rm.nrx.SetSpeedMode(1, 3, nrx_u16(request.speedMode));
-        rm.nrx.SetRangeMode(1, 3, nrx_u16(request.range));
-        rm.nrx.SetFixedRange(1, 3, nrx_u16(request.rangeMode));
-        rm.nrx.SetPosSpeed(1, 3, request.initial, request.drive, request.accelMs, request.decelMs);
-        AppState state;
-        state.active = {BoardFamily::RM, BoardFamily::RM, 1, 3, {}};
-        state.registry.setLoadResult(BoardFamily::RM, 1);
-        state.registry.setCardInfo(BoardFamily::RM, 1, 4, 0, 16);
         BoardApi api;
-        api.setTable(BoardFamily::RM, &rm.nrx);
+        AppState state;
+        SimBoardsRig sim{api, state};
+        QVERIFY(
+            sim.start(true, "[RM]\nCards=2\n[RM.Card1]\nAxes=4\n[Axes]\nPlusLimit=100000000\n"));
+        const BoardFamily rm = BoardFamily::RM;
+        api.SetSpeedMode(rm, 1, 3, nrx_u16(request.speedMode));
+        api.SetRangeMode(rm, 1, 3, nrx_u16(request.range));
+        api.SetFixedRange(rm, 1, 3, nrx_u16(request.rangeMode));
+        api.SetPosSpeed(rm, 1, 3, request.initial, request.drive, request.accelMs, request.decelMs);
+        state.active = {rm, rm, 1, 3, {}};
         ScriptedPrompt prompt;
         RecordingFrame frame;
         COV_ActSpdCalDlg dialog({state, api, prompt, frame});
@@ -97,10 +92,10 @@ private slots:
         const int distance = int(qMax(vd * ramps * 2.0, vd * 0.2));
         const double predictedMs =
             1000.0 * (ramps + (distance - (shown.initialSpeed + vd) / 2.0 * ramps) / vd);
-        rm.nrx.Inc_Move(1, 3, distance);
+        api.Inc_Move(rm, 1, 3, distance);
         int ms = 0;
-        for (; rm.nrx.Done(1, 3) != 0 && ms < 600000; ++ms)
-            rm.sim.AdvanceClock(1);
+        for (; api.Done(rm, 1, 3) != 0 && ms < 600000; ++ms)
+            sim.advance(rm, 1);
         QVERIFY2(qAbs(ms - predictedMs) <= 2.0 + 0.01 * predictedMs,
                  qPrintable(QStringLiteral("took %1 ms, predicted %2").arg(ms).arg(predictedMs)));
     }

@@ -48,34 +48,32 @@ private slots:
     {
         QTest::addColumn<bool>("allCards");
         QTest::addColumn<bool>("answer");
-        QTest::addColumn<int>("typeIndex");
         QTest::addColumn<int>("card");
         QTest::addColumn<QStringList>("rlCalls");
         QTest::addColumn<QStringList>("rnCalls");
         QTest::addColumn<QString>("rlFlags");
         QTest::addColumn<QString>("rnFlags");
-        QTest::newRow("one card") << false << false << 0 << 1 << QStringList{"SaveFile(1)"}
+        QTest::newRow("one card") << false << false << 1 << QStringList{"SaveFile(1)"}
                                   << QStringList{} << "101"
                                   << "111";
         QTest::newRow("all cards, yes")
-            << true << true << 0 << 0 << QStringList{"SaveFile(0)", "SaveFile(1)"}
+            << true << true << 0 << QStringList{"SaveFile(0)", "SaveFile(1)"}
             << QStringList{"SaveFile(0)"} << "001"
             << "011";
         QTest::newRow("all cards, no")
-            << true << false << 0 << 0 << QStringList{} << QStringList{} << "111"
+            << true << false << 0 << QStringList{} << QStringList{} << "111"
             << "111";
     }
     void save_writesTheFilesAndClearsTheirFlags()
     {
         QFETCH(bool, allCards);
         QFETCH(bool, answer);
-        QFETCH(int, typeIndex);
         QFETCH(int, card);
         Rig rig;
         rig.prompt.queueAnswers({answer});
         COV_SavePrmDlg dialog(rig.context);
         QCOMPARE(dialog.selector()->family(), BoardFamily::RN);
-        dialog.selector()->typeList()->setCurrentIndex(typeIndex);
+        dialog.selector()->typeList()->setCurrentIndex(0);
         dialog.selector()->fillCards(card);
         dialog.allCardsBox()->setChecked(allCards);
         dialog.save();
