@@ -463,6 +463,13 @@ private slots:
         QCOMPARE(rig.rm.count(QStringLiteral("UnloadDevice")), 1);
         QCOMPARE(rig.rn.count(QStringLiteral("UnloadDevice")), 1);
     }
+
+    void start_noBoardEndsTheProgram()
+    {
+        Rig rig(-1, -1, -1);
+        QVERIFY(!rig.create());
+        QCOMPARE(rig.prompt.messages(), QStringList{"FAIL! LOAD DEVICE DRIVER ...."});
+    }
 };
 
 QTEST_MAIN(TestMainFrame)

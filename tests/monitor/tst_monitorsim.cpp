@@ -44,9 +44,8 @@ private:
             const ToolContext context{state, api, prompt, frame};
             status = std::make_unique<COV_AxStMonWnd>(context);
             diagnosis = std::make_unique<COV_SysDbgWnd>(context);
-            for (ToolView* window :
-                 {static_cast<ToolView*>(status.get()), static_cast<ToolView*>(diagnosis.get())})
-                window->show();
+            status->show();
+            diagnosis->show();
             status->timer().stop();
             diagnosis->timer().stop();
             return state.registry.axisCount(BoardFamily::RL, 0) == 4;

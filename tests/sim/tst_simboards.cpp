@@ -86,9 +86,6 @@ private slots:
                 QVERIFY(firmware != 0 && firmware != 0x50 && firmware != 0x51);
                 axes.insert(axisCount);
                 io.insert(ioCount);
-                // Inputs follow outputs out of the box.
-                l.nrx.PutDOBit(card, 1, 1);
-                QCOMPARE(l.nrx.GetDIBit(card, 1), 1);
             }
         }
         QVERIFY(axes.contains(2) && axes.contains(4) && axes.contains(8));
