@@ -18,3 +18,15 @@ void NumberList::fillActiveCards(QComboBox& combo, const AppState& state)
     combo.setCurrentIndex(state.active.card);
     combo.setEnabled(cards > 1);
 }
+
+int NumberList::fillAxes(QComboBox& combo, AppState& state, int card, int axis)
+{
+    const int axes = state.registry.axisCount(state.active.family, card);
+    fill(combo, axes);
+    if (axis > axes - 1) {
+        axis = 0;
+        state.active.axis = 0;
+    }
+    combo.setCurrentIndex(axis);
+    return axis;
+}

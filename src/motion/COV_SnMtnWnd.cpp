@@ -223,13 +223,7 @@ void COV_SnMtnWnd::reload()
     AppState& state = m_context.state;
     setWindowTitle(
         QStringLiteral("Single Axis Motion - %1(%2)").arg(state.modelName(m_card)).arg(m_card));
-    const int axes = state.registry.axisCount(state.active.family, m_card);
-    NumberList::fill(*m_axisCombo, axes);
-    if (m_axis > axes - 1) {
-        m_axis = 0;
-        state.active.axis = 0;
-    }
-    m_axisCombo->setCurrentIndex(m_axis);
+    m_axis = static_cast<AxisNo>(NumberList::fillAxes(*m_axisCombo, state, m_card, m_axis));
     updateServoCaption();
     loadPages();
 }
