@@ -19,8 +19,13 @@ public:
     virtual ToolKind kind() const = 0;
     // A notification relayed by the frame (UM_CONTROLLER_CHANGED, UM_AXIS_CHANGED, ...).
     virtual void handleUserMessage(UserMessage message, int wParam) = 0;
-    // The frame (or "Close All") asks the view to close.
-    virtual void requestClose() { emit closeRequested(); }
+    // The frame (or "Close All") asks the view to close: it makes ready, asks its question
+    // and emits closeRequested() for the frame to close its child (a view may decline).
+    virtual void requestClose()
+    {
+        prepareToClose();
+        emit closeRequested();
+    }
     // The frame has stopped every axis: a window that runs motion sequences ends them.
     virtual void endMotion() {}
     // The window's own periodic poll, if it has one: benchmarks and tests fire it by hand.
@@ -28,4 +33,29 @@ public:
 
 signals:
     void closeRequested();
+
+protected:
+    // What the window must do before it goes, every time it is asked to (end a held jog).
+    virtual void beforeClose() {}
+    // The question about unsaved values; asked once, however the window is closed.
+    virtual void askBeforeClose() {}
+
+    // The frame may close the child directly; the window still makes ready and asks once.
+    void closeEvent(QCloseEvent* event) override
+    {
+        prepareToClose();
+        QWidget::closeEvent(event);
+    }
+
+    void prepareToClose()
+    {
+        beforeClose();
+        if (m_closeAsked)
+            return;
+        m_closeAsked = true;
+        askBeforeClose();
+    }
+
+private:
+    bool m_closeAsked = false;
 };

@@ -297,24 +297,7 @@ void COV_DIoWnd::handleUserMessage(UserMessage message, int wParam)
     }
 }
 
-bool COV_DIoWnd::closePrompted()
+void COV_DIoWnd::askBeforeClose()
 {
-    if (m_closeConfirmed)
-        return false;
     checkUnsavedFilter();
-    m_closeConfirmed = true;
-    return true;
-}
-
-void COV_DIoWnd::requestClose()
-{
-    closePrompted();
-    emit closeRequested();
-}
-
-void COV_DIoWnd::closeEvent(QCloseEvent* event)
-{
-    // The frame may close the child directly; the question is still asked once.
-    closePrompted();
-    event->accept();
 }

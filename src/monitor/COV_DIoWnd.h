@@ -27,7 +27,6 @@ public:
     ToolKind kind() const override { return ToolDigitalIo; }
     QTimer* pollTimer() override { return &m_timer; }
     void handleUserMessage(UserMessage message, int wParam) override;
-    void requestClose() override;
 
     // The 10 ms poll: the input word gathered last time, then the inputs, then the outputs.
     // Returns how many lamps and buttons changed.
@@ -36,7 +35,7 @@ public:
     const DigitalIoModel& model() const { return m_model; }
 
 protected:
-    void closeEvent(QCloseEvent* event) override;
+    void askBeforeClose() override;
 
 private:
     QWidget* createCardRow();
@@ -53,14 +52,12 @@ private:
     void onLockToggled(bool locked);
     void setFilterParameters();
     void checkUnsavedFilter();
-    bool closePrompted();
 
     ToolContext m_context;
     DigitalIoModel m_model;
     QTimer m_timer;
     int m_card = 0;
     QString m_shownInputWord;
-    bool m_closeConfirmed = false;
 
     QComboBox* m_cardCombo = nullptr;
     QTabBar* m_inputTabs = nullptr;

@@ -453,28 +453,6 @@ void COV_MnMtnWnd::handleUserMessage(UserMessage message, int wParam)
     }
 }
 
-bool COV_MnMtnWnd::closePrompted()
-{
-    m_sequencer.endHeldJog();
-    if (m_closeConfirmed)
-        return false;
-    promptIfChanged(family());
-    m_closeConfirmed = true;
-    return true;
-}
-
-void COV_MnMtnWnd::requestClose()
-{
-    closePrompted();
-    emit closeRequested();
-}
-
-void COV_MnMtnWnd::closeEvent(QCloseEvent* event)
-{
-    closePrompted();
-    event->accept();
-}
-
 void COV_MnMtnWnd::hideEvent(QHideEvent* event)
 {
     m_sequencer.endHeldJog();
@@ -571,4 +549,14 @@ void COV_MnMtnWnd::setSequenceLocked(bool locked)
                                          m_form.repeat, m_form.infinite})
         control->setEnabled(!locked);
     m_editingState = -1; // the list watch gives the editing controls their state again
+}
+
+void COV_MnMtnWnd::beforeClose()
+{
+    m_sequencer.endHeldJog();
+}
+
+void COV_MnMtnWnd::askBeforeClose()
+{
+    promptIfChanged(family());
 }

@@ -35,7 +35,6 @@ public:
     ToolKind kind() const override { return ToolMultiAxis; }
     QTimer* pollTimer() override { return &m_listWatch; }
     void handleUserMessage(UserMessage message, int wParam) override;
-    void requestClose() override;
     void endMotion() override { m_sequencer.endSequence(); }
 
     MotionSequencer& sequencer() { return m_sequencer; }
@@ -47,8 +46,9 @@ public:
     const std::vector<AxisNo>& checkedAxes() const { return m_checked; }
 
 protected:
+    void beforeClose() override;
+    void askBeforeClose() override;
     bool eventFilter(QObject* watched, QEvent* event) override;
-    void closeEvent(QCloseEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
 private:
@@ -78,7 +78,6 @@ private:
     void checkGantry();
     void onErrorLimitEdited(const QString& text);
     void forEachChecked(const std::function<void(AxisNo)>& act);
-    bool closePrompted();
 
     // MotionPanel
     MotionTab currentTab() const override { return MotionTab::PointToPoint; }
@@ -109,7 +108,6 @@ private:
     int m_editingState = -1; // what the list watch last gave the editing controls
     std::int32_t m_errorLimit = 100;
     QString m_lastValidLimit = QStringLiteral("100");
-    bool m_closeConfirmed = false;
 
     QTimer m_listWatch;
     GantryWatch m_gantry;

@@ -369,29 +369,6 @@ void COV_SnMtnWnd::handleUserMessage(UserMessage message, int wParam)
     }
 }
 
-bool COV_SnMtnWnd::closePrompted()
-{
-    m_sequencer.endHeldJog();
-    if (m_closeConfirmed)
-        return false;
-    promptForVisiblePage(m_context.state.active.family);
-    m_closeConfirmed = true;
-    return true;
-}
-
-void COV_SnMtnWnd::requestClose()
-{
-    closePrompted();
-    emit closeRequested();
-}
-
-void COV_SnMtnWnd::closeEvent(QCloseEvent* event)
-{
-    // The frame may close the child directly; the prompt is still asked once.
-    closePrompted();
-    event->accept();
-}
-
 void COV_SnMtnWnd::hideEvent(QHideEvent* event)
 {
     m_sequencer.endHeldJog();
@@ -472,4 +449,14 @@ void COV_SnMtnWnd::setSequenceLocked(bool locked)
     m_axisCombo->setEnabled(!locked);
     m_tabBar->setEnabled(!locked);
     m_ptpPage->setSequenceLocked(locked);
+}
+
+void COV_SnMtnWnd::beforeClose()
+{
+    m_sequencer.endHeldJog();
+}
+
+void COV_SnMtnWnd::askBeforeClose()
+{
+    promptForVisiblePage(m_context.state.active.family);
 }

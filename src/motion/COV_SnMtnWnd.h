@@ -32,14 +32,14 @@ public:
 
     ToolKind kind() const override { return ToolSingleAxis; }
     void handleUserMessage(UserMessage message, int wParam) override;
-    void requestClose() override;
     void endMotion() override { m_sequencer.endSequence(); }
 
     SingleAxisSequencer& sequencer() { return m_sequencer; }
 
 protected:
+    void beforeClose() override;
+    void askBeforeClose() override;
     bool eventFilter(QObject* watched, QEvent* event) override;
-    void closeEvent(QCloseEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void changeEvent(QEvent* event) override;
 
@@ -60,7 +60,6 @@ private:
     void updateServoCaption();
     void layoutMotionButtons();
     void promptForVisiblePage(BoardFamily family);
-    bool closePrompted();
 
     void onTabChanged(int index);
     void onCardActivated(int index);
@@ -89,7 +88,6 @@ private:
     AxisNo m_axis = 0;
     MotionTab m_currentTab = MotionTab::Home;
     bool m_servoOn = false;
-    bool m_closeConfirmed = false;
 
     QComboBox* m_cardCombo = nullptr;
     QComboBox* m_axisCombo = nullptr;

@@ -252,24 +252,7 @@ void COV_PrmSuWnd::handleUserMessage(UserMessage message, int wParam)
     }
 }
 
-bool COV_PrmSuWnd::closePrompted()
+void COV_PrmSuWnd::askBeforeClose()
 {
-    if (m_closeConfirmed)
-        return false;
     leaveCheck(m_context.state.active.family);
-    m_closeConfirmed = true;
-    return true;
-}
-
-void COV_PrmSuWnd::requestClose()
-{
-    closePrompted();
-    emit closeRequested();
-}
-
-void COV_PrmSuWnd::closeEvent(QCloseEvent* event)
-{
-    // The frame may close the child directly; the question is still asked once.
-    closePrompted();
-    event->accept();
 }

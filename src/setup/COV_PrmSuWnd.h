@@ -25,13 +25,12 @@ public:
 
     ToolKind kind() const override { return ToolParameter; }
     void handleUserMessage(UserMessage message, int wParam) override;
-    void requestClose() override;
 
     // The shown page (0 System IO, 1 Motion Parameter, 2 Filter).
     int paramPage() const { return m_page; }
 
 protected:
-    void closeEvent(QCloseEvent* event) override;
+    void askBeforeClose() override;
 
 private:
     QWidget* createSelectorRow();
@@ -51,13 +50,11 @@ private:
     void onAxisChanged(int axis);
     void onDefaultClicked();
     void onCopyClicked();
-    bool closePrompted();
 
     ToolContext m_context;
     CardNo m_card = 0;
     AxisNo m_axis = 0;
     int m_page = 0;
-    bool m_closeConfirmed = false;
 
     QComboBox* m_cardCombo = nullptr;
     QComboBox* m_axisCombo = nullptr;
