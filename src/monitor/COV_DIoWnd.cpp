@@ -4,8 +4,10 @@
 #include "CLedButton.h"
 #include "FrameRelay.h"
 #include "LedFaces.h"
+#include "NamedButton.h"
 #include "NumberList.h"
 #include "PromptService.h"
+#include "PromptTexts.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -21,21 +23,6 @@
 #include <QTabBar>
 #include <QVBoxLayout>
 #include <QtGlobal>
-
-namespace {
-const QString kParametersChanged =
-    QStringLiteral("Parameters are changed. Do you want to set parameter?");
-const QString kInputIncorrect = QStringLiteral("Input value is incorrect!");
-
-QPushButton* makeButton(const QString& caption, const char* name, const QString& tip)
-{
-    auto* button = new QPushButton(caption);
-    button->setObjectName(QLatin1String(name));
-    button->setAutoDefault(false);
-    button->setToolTip(tip);
-    return button;
-}
-} // namespace
 
 COV_DIoWnd::COV_DIoWnd(const ToolContext& context, QWidget* parent)
     : ToolView(parent), m_context(context), m_model(context.board)
@@ -118,8 +105,8 @@ QWidget* COV_DIoWnd::createFilterGroup()
     for (int k = 0; k < DigitalIoModel::kFilterTimes; ++k)
         m_filterTime->addItem(QString::number(0.001 * (1 << k), 'f', 3));
     m_filterTime->setToolTip(QStringLiteral("How long an input must hold before it counts"));
-    m_setPrm = makeButton(QStringLiteral("Set Prm"), "setPrmButton",
-                          QStringLiteral("Write the filter settings to the card"));
+    m_setPrm = makeNamedButton(QStringLiteral("Set Prm"), "setPrmButton",
+                               QStringLiteral("Write the filter settings to the card"));
     grid->addWidget(new QLabel(QStringLiteral("Enable")), 0, 0);
     grid->addWidget(m_filterEnable, 0, 1, 1, 2);
     grid->addWidget(new QLabel(QStringLiteral("Filter Time")), 1, 0);
@@ -137,15 +124,17 @@ QWidget* COV_DIoWnd::createButtonColumn()
     m_outputDisable = new QCheckBox(QStringLiteral(" Output Disable"));
     m_outputDisable->setObjectName(QStringLiteral("outputDisable"));
     m_outputDisable->setToolTip(QStringLiteral("Lock every output against clicks and writes"));
-    m_odd = makeButton(QStringLiteral("Odd"), "oddButton",
-                       QStringLiteral("Outputs 1, 3, 5, ... counted from one on, the rest off"));
-    m_even = makeButton(QStringLiteral("Even"), "evenButton",
+    m_odd =
+        makeNamedButton(QStringLiteral("Odd"), "oddButton",
+                        QStringLiteral("Outputs 1, 3, 5, ... counted from one on, the rest off"));
+    m_even =
+        makeNamedButton(QStringLiteral("Even"), "evenButton",
                         QStringLiteral("Outputs 2, 4, 6, ... counted from one on, the rest off"));
-    m_allOn = makeButton(QStringLiteral("All On"), "allOnButton",
-                         QStringLiteral("Every output of the page on"));
-    m_allOff = makeButton(QStringLiteral("All Off"), "allOffButton",
-                          QStringLiteral("Every output of the page off"));
-    m_close = makeButton(QStringLiteral("Close"), "closeButton", QString());
+    m_allOn = makeNamedButton(QStringLiteral("All On"), "allOnButton",
+                              QStringLiteral("Every output of the page on"));
+    m_allOff = makeNamedButton(QStringLiteral("All Off"), "allOffButton",
+                               QStringLiteral("Every output of the page off"));
+    m_close = makeNamedButton(QStringLiteral("Close"), "closeButton");
     layout->addWidget(m_outputDisable);
     for (QPushButton* button : {m_odd, m_even, m_allOn, m_allOff})
         layout->addWidget(button);
@@ -250,7 +239,7 @@ void COV_DIoWnd::onOutputWordEntered()
         return;
     std::uint32_t word = 0;
     if (!DigitalIoModel::parseWord(m_outputWord->text(), word)) {
-        m_context.prompt.inform(kInputIncorrect);
+        m_context.prompt.inform(PromptTexts::kInputIncorrect);
         m_outputWord->setText(QStringLiteral("0"));
         return;
     }
@@ -276,7 +265,7 @@ void COV_DIoWnd::checkUnsavedFilter()
 {
     // The model still names the family and card the combo boxes were read from.
     if (m_model.filterDiffers(m_filterEnable->currentIndex(), m_filterTime->currentIndex()) &&
-        m_context.prompt.askYesNo(kParametersChanged))
+        m_context.prompt.askYesNo(PromptTexts::kParametersChanged))
         setFilterParameters();
 }
 

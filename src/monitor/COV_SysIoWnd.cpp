@@ -3,6 +3,7 @@
 #include "AppState.h"
 #include "CLedButton.h"
 #include "LedFaces.h"
+#include "NamedButton.h"
 #include "NumberList.h"
 #include "OutputButton.h"
 
@@ -50,15 +51,6 @@ QLabel* makeRowLabel(const char* text)
     label->setAutoFillBackground(true);
     label->setMinimumWidth(80);
     return label;
-}
-
-QPushButton* makeButton(const QString& caption, const char* name, const QString& tip)
-{
-    auto* button = new QPushButton(caption);
-    button->setObjectName(QLatin1String(name));
-    button->setAutoDefault(false);
-    button->setToolTip(tip);
-    return button;
 }
 
 CLedButton* makeLamp()
@@ -208,15 +200,15 @@ QWidget* COV_SysIoWnd::createButtonRow()
     m_outputDisable = new QCheckBox(QStringLiteral(" Output Disable"));
     m_outputDisable->setObjectName(QStringLiteral("outputDisable"));
     m_outputDisable->setToolTip(QStringLiteral("Lock every output against clicks"));
-    m_allAlarmResetOn = makeButton(QStringLiteral("All Alm Rst On"), "allAlarmResetOn",
-                                   QStringLiteral("Alarm-reset output of every axis on"));
-    m_allAlarmResetOff = makeButton(QStringLiteral("All Alm Rst Off"), "allAlarmResetOff",
-                                    QStringLiteral("Alarm-reset output of every axis off"));
-    m_allServoOn = makeButton(QStringLiteral("All Servo On"), "allServoOn",
-                              QStringLiteral("Servo-on output of every axis on"));
-    m_allServoOff = makeButton(QStringLiteral("All Servo Off"), "allServoOff",
-                               QStringLiteral("Servo-on output of every axis off"));
-    m_close = makeButton(QStringLiteral("Close"), "closeButton", QString());
+    m_allAlarmResetOn = makeNamedButton(QStringLiteral("All Alm Rst On"), "allAlarmResetOn",
+                                        QStringLiteral("Alarm-reset output of every axis on"));
+    m_allAlarmResetOff = makeNamedButton(QStringLiteral("All Alm Rst Off"), "allAlarmResetOff",
+                                         QStringLiteral("Alarm-reset output of every axis off"));
+    m_allServoOn = makeNamedButton(QStringLiteral("All Servo On"), "allServoOn",
+                                   QStringLiteral("Servo-on output of every axis on"));
+    m_allServoOff = makeNamedButton(QStringLiteral("All Servo Off"), "allServoOff",
+                                    QStringLiteral("Servo-on output of every axis off"));
+    m_close = makeNamedButton(QStringLiteral("Close"), "closeButton");
     layout->addWidget(m_outputDisable, 0, 0);
     layout->addWidget(m_allAlarmResetOn, 0, 1);
     layout->addWidget(m_allAlarmResetOff, 0, 2);

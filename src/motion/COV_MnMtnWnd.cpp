@@ -10,6 +10,7 @@
 #include "MultiAxisForm.h"
 #include "NumberList.h"
 #include "PromptService.h"
+#include "PromptTexts.h"
 #include "QtClockwork.h"
 
 #include <QCheckBox>
@@ -23,8 +24,6 @@
 #include <QSignalBlocker>
 
 namespace {
-const QString kParametersChanged =
-    QStringLiteral("Parameters are changed. Do you want to set parameter?");
 const QString kNotChecked =
     QStringLiteral("Selected axis in not checked !\n Please check selected axis !");
 const QString kTwoAxes = QStringLiteral("Please Select at least 2 axes !");
@@ -256,7 +255,7 @@ bool COV_MnMtnWnd::profileChanged(BoardFamily boardFamily) const
 void COV_MnMtnWnd::promptIfChanged(BoardFamily boardFamily)
 {
     if (m_axisCount > 0 && profileChanged(boardFamily) &&
-        m_context.prompt.askYesNo(kParametersChanged))
+        m_context.prompt.askYesNo(PromptTexts::kParametersChanged))
         setParameters();
 }
 
@@ -431,7 +430,7 @@ void COV_MnMtnWnd::checkGantry()
 void COV_MnMtnWnd::onErrorLimitEdited(const QString& text)
 {
     if (!IsNumericText(text)) {
-        m_context.prompt.inform(QStringLiteral("Input value is incorrect!"));
+        m_context.prompt.inform(PromptTexts::kInputIncorrect);
         m_form.errorLimitEdit->setText(m_lastValidLimit);
         return;
     }

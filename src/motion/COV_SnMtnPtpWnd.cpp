@@ -6,6 +6,7 @@
 #include "IsNumericText.h"
 #include "PageFieldGrid.h"
 #include "PromptService.h"
+#include "PromptTexts.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -15,8 +16,6 @@
 #include <QVBoxLayout>
 
 namespace {
-const QString kParametersChanged =
-    QStringLiteral("Parameters are changed. Do you want to set parameter?");
 const QString kPps = QStringLiteral("[pps]");
 const QString kMsec = QStringLiteral("[msec]");
 const QString kPulse = QStringLiteral("[pulse]");
@@ -268,7 +267,7 @@ void COV_SnMtnPtpWnd::onMotionTypeActivated(int index)
 {
     if (index < 0 || index > static_cast<int>(MotionType::Absolute))
         return;
-    if (parametersChanged(family()) && m_prompt.askYesNo(kParametersChanged)) {
+    if (parametersChanged(family()) && m_prompt.askYesNo(PromptTexts::kParametersChanged)) {
         setParameters(family());
         emit parametersWritten();
     }
@@ -300,7 +299,7 @@ void COV_SnMtnPtpWnd::onDriveSpeedChanged(const QString& text)
         m_lastValidDrive = text;
         return;
     }
-    m_prompt.inform(QStringLiteral("Input value is incorrect!"));
+    m_prompt.inform(PromptTexts::kInputIncorrect);
     m_restoringDrive = true;
     m_drive->setText(m_lastValidDrive);
     m_restoringDrive = false;

@@ -6,8 +6,10 @@
 #include "COV_SnMtnPtpWnd.h"
 #include "FrameRelay.h"
 #include "JogReleaseGuard.h"
+#include "NamedButton.h"
 #include "NumberList.h"
 #include "PromptService.h"
+#include "PromptTexts.h"
 #include "QtClockwork.h"
 
 #include <QCloseEvent>
@@ -22,19 +24,6 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-
-namespace {
-const QString kParametersChanged =
-    QStringLiteral("Parameters are changed. Do you want to set parameter?");
-
-QPushButton* makeButton(const QString& caption, const char* name)
-{
-    auto* button = new QPushButton(caption);
-    button->setObjectName(QLatin1String(name));
-    button->setAutoDefault(false);
-    return button;
-}
-} // namespace
 
 COV_SnMtnWnd::COV_SnMtnWnd(const ToolContext& context, QWidget* parent)
     : COV_SnMtnWnd(context, std::make_unique<QtClockwork>(), nullptr, parent)
@@ -121,8 +110,8 @@ QWidget* COV_SnMtnWnd::createMotionButtons()
     auto* row = new QWidget;
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
-    m_minus = makeButton(QStringLiteral("-"), "minusButton");
-    m_plus = makeButton(QStringLiteral("+"), "plusButton");
+    m_minus = makeNamedButton(QStringLiteral("-"), "minusButton");
+    m_plus = makeNamedButton(QStringLiteral("+"), "plusButton");
     m_minus->setMinimumHeight(48);
     m_plus->setMinimumHeight(48);
     // Equal stretch keeps "-" the size of "+"; alone, "-" takes the whole row.
@@ -136,16 +125,16 @@ QWidget* COV_SnMtnWnd::createButtonColumn()
     auto* column = new QWidget;
     auto* layout = new QVBoxLayout(column);
     layout->setContentsMargins(0, 0, 0, 0);
-    m_eStop = makeButton(QStringLiteral("E-Stop"), "eStopButton");
-    m_sStop = makeButton(QStringLiteral("S-Stop"), "sStopButton");
-    m_servo = makeButton(QStringLiteral("Servo On"), "servoButton");
-    m_alarmReset = makeButton(QStringLiteral("Alarm Reset"), "alarmResetButton");
-    m_counterClear = makeButton(QStringLiteral("Counter Clear"), "counterClearButton");
-    m_setPrm = makeButton(QStringLiteral("Set Prm"), "setPrmButton");
-    m_parameterSetup = makeButton(QStringLiteral("Parameter Setup"), "parameterSetupButton");
-    m_scope = makeButton(QStringLiteral("Scope"), "scopeButton");
+    m_eStop = makeNamedButton(QStringLiteral("E-Stop"), "eStopButton");
+    m_sStop = makeNamedButton(QStringLiteral("S-Stop"), "sStopButton");
+    m_servo = makeNamedButton(QStringLiteral("Servo On"), "servoButton");
+    m_alarmReset = makeNamedButton(QStringLiteral("Alarm Reset"), "alarmResetButton");
+    m_counterClear = makeNamedButton(QStringLiteral("Counter Clear"), "counterClearButton");
+    m_setPrm = makeNamedButton(QStringLiteral("Set Prm"), "setPrmButton");
+    m_parameterSetup = makeNamedButton(QStringLiteral("Parameter Setup"), "parameterSetupButton");
+    m_scope = makeNamedButton(QStringLiteral("Scope"), "scopeButton");
     m_scope->setToolTip(QStringLiteral("Record this axis' positions and speed"));
-    m_close = makeButton(QStringLiteral("Close"), "closeButton");
+    m_close = makeNamedButton(QStringLiteral("Close"), "closeButton");
     m_eStop->setMinimumHeight(40);
     m_sStop->setMinimumHeight(40);
     for (QPushButton* button : {m_eStop, m_sStop, m_servo})
@@ -275,7 +264,7 @@ void COV_SnMtnWnd::promptForVisiblePage(BoardFamily family)
     const bool home = m_currentTab == MotionTab::Home;
     const bool changed =
         home ? m_homePage->parametersChanged(family) : m_ptpPage->parametersChanged(family);
-    if (!changed || !m_context.prompt.askYesNo(kParametersChanged))
+    if (!changed || !m_context.prompt.askYesNo(PromptTexts::kParametersChanged))
         return;
     if (home)
         m_homePage->setParameters(family);

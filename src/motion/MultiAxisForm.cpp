@@ -1,5 +1,6 @@
 #include "MultiAxisForm.h"
 
+#include "NamedButton.h"
 #include "PageFieldGrid.h"
 
 #include <QCheckBox>
@@ -17,14 +18,6 @@ namespace {
 const QString kPps = QStringLiteral("[pps]");
 const QString kMsec = QStringLiteral("[msec]");
 const QString kPulse = QStringLiteral("[pulse]");
-
-QPushButton* makeButton(const QString& caption, const char* name)
-{
-    auto* button = new QPushButton(caption);
-    button->setObjectName(QLatin1String(name));
-    button->setAutoDefault(false);
-    return button;
-}
 
 QCheckBox* makeCheckBox(const QString& caption, const char* name)
 {
@@ -111,7 +104,7 @@ QWidget* MultiAxisForm::createProfileGroup()
     accel = grid.addField(QStringLiteral(" Accel Time"), kMsec, "accelTime", &accelLabel);
     decel = grid.addField(QStringLiteral(" Decel Time"), kMsec, "decelTime");
     setAll = makeCheckBox(QStringLiteral(" Set All Selected Axes"), "setAll");
-    setPrm = makeButton(QStringLiteral("Set Prm"), "setPrmButton");
+    setPrm = makeNamedButton(QStringLiteral("Set Prm"), "setPrmButton");
     addSpanningRow(group, setAll, setPrm);
     compact(group, false);
     return group;
@@ -129,7 +122,7 @@ QWidget* MultiAxisForm::createRepeatGroup()
     position1 = grid.addField(QStringLiteral(" Position 1"), kPulse, "position1");
     position2 = grid.addField(QStringLiteral(" Position 2"), kPulse, "position2", &position2Label);
     applyAll = makeCheckBox(QStringLiteral(" Apply All Selected Axes"), "applyAll");
-    apply = makeButton(QStringLiteral("Apply"), "applyButton");
+    apply = makeNamedButton(QStringLiteral("Apply"), "applyButton");
     addSpanningRow(group, applyAll, apply);
     compact(group, false);
     return group;
@@ -174,19 +167,19 @@ QWidget* MultiAxisForm::createButtonColumn()
     auto* column = new QWidget;
     auto* layout = new QVBoxLayout(column);
     layout->setContentsMargins(0, 0, 0, 0);
-    eStop = makeButton(QStringLiteral("E-Stop"), "eStopButton");
-    sStop = makeButton(QStringLiteral("S-Stop"), "sStopButton");
+    eStop = makeNamedButton(QStringLiteral("E-Stop"), "eStopButton");
+    sStop = makeNamedButton(QStringLiteral("S-Stop"), "sStopButton");
     eStop->setToolTip(QStringLiteral("Stop the checked axes at once"));
     sStop->setToolTip(QStringLiteral("Stop the checked axes with their deceleration"));
-    servo = makeButton(QStringLiteral("Servo On"), "servoButton");
-    minus = makeButton(QStringLiteral("-Jog"), "minusButton");
-    plus = makeButton(QStringLiteral("+Jog"), "plusButton");
-    alarmReset = makeButton(QStringLiteral("Alarm Reset"), "alarmResetButton");
-    counterClear = makeButton(QStringLiteral("Counter Clear"), "counterClearButton");
-    parameterSetup = makeButton(QStringLiteral("Parameter Setup"), "parameterSetupButton");
-    scope = makeButton(QStringLiteral("Scope"), "scopeButton");
+    servo = makeNamedButton(QStringLiteral("Servo On"), "servoButton");
+    minus = makeNamedButton(QStringLiteral("-Jog"), "minusButton");
+    plus = makeNamedButton(QStringLiteral("+Jog"), "plusButton");
+    alarmReset = makeNamedButton(QStringLiteral("Alarm Reset"), "alarmResetButton");
+    counterClear = makeNamedButton(QStringLiteral("Counter Clear"), "counterClearButton");
+    parameterSetup = makeNamedButton(QStringLiteral("Parameter Setup"), "parameterSetupButton");
+    scope = makeNamedButton(QStringLiteral("Scope"), "scopeButton");
     scope->setToolTip(QStringLiteral("Record the axes' positions and speeds"));
-    close = makeButton(QStringLiteral("Close"), "closeButton");
+    close = makeNamedButton(QStringLiteral("Close"), "closeButton");
     for (QPushButton* big : {eStop, sStop})
         big->setMinimumHeight(40);
     for (QPushButton* big : {minus, plus})

@@ -1,6 +1,7 @@
 #include "COV_ScopeWnd.h"
 
 #include "AppState.h"
+#include "NamedButton.h"
 #include "PlotNavigator.h"
 #include "PlotTicks.h"
 #include "PlotWidget.h"
@@ -32,14 +33,6 @@ constexpr int kDefaultPeriod = 1; // index of 2 ms
 constexpr int kLengthsS[] = {1, 2, 5, 10, 30, 60};
 constexpr int kDefaultLength = 3; // index of 10 s
 const QColor kPredictedColour(255, 140, 0);
-
-QPushButton* makeButton(const QString& caption, const char* name, const QString& tip)
-{
-    auto* button = new QPushButton(caption);
-    button->setObjectName(QLatin1String(name));
-    button->setToolTip(tip);
-    return button;
-}
 
 QComboBox* makeCombo(const char* name, const QString& tip)
 {
@@ -145,10 +138,11 @@ QWidget* COV_ScopeWnd::createSettingsRow()
     m_repeat = new QCheckBox(QStringLiteral("Repeat"));
     m_repeat->setObjectName(QStringLiteral("repeat"));
     m_repeat->setToolTip(QStringLiteral("Re-arm after each capture instead of one single shot"));
-    m_run = makeButton(QStringLiteral("Run"), "runButton", QStringLiteral("Start recording"));
-    m_stop = makeButton(QStringLiteral("Stop"), "stopButton", QStringLiteral("Stop recording"));
-    m_clear =
-        makeButton(QStringLiteral("Clear"), "clearButton", QStringLiteral("Forget the record"));
+    m_run = makeNamedButton(QStringLiteral("Run"), "runButton", QStringLiteral("Start recording"));
+    m_stop =
+        makeNamedButton(QStringLiteral("Stop"), "stopButton", QStringLiteral("Stop recording"));
+    m_clear = makeNamedButton(QStringLiteral("Clear"), "clearButton",
+                              QStringLiteral("Forget the record"));
     m_status = new QLabel;
     m_status->setObjectName(QStringLiteral("status"));
     m_status->setMinimumWidth(
@@ -174,13 +168,14 @@ QWidget* COV_ScopeWnd::createFileButtons()
     auto* layout = new QVBoxLayout(column);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(2);
-    m_fit = makeButton(QStringLiteral("Fit"), "fitButton", QStringLiteral("Show the whole record"));
-    m_exportCsv = makeButton(QStringLiteral("Export CSV..."), "exportCsvButton",
-                             QStringLiteral("Write the record to a CSV file"));
-    m_openCsv = makeButton(QStringLiteral("Open CSV..."), "openCsvButton",
-                           QStringLiteral("View a record from a CSV file"));
-    m_savePng = makeButton(QStringLiteral("Save PNG..."), "savePngButton",
-                           QStringLiteral("Save the plot as a picture"));
+    m_fit = makeNamedButton(QStringLiteral("Fit"), "fitButton",
+                            QStringLiteral("Show the whole record"));
+    m_exportCsv = makeNamedButton(QStringLiteral("Export CSV..."), "exportCsvButton",
+                                  QStringLiteral("Write the record to a CSV file"));
+    m_openCsv = makeNamedButton(QStringLiteral("Open CSV..."), "openCsvButton",
+                                QStringLiteral("View a record from a CSV file"));
+    m_savePng = makeNamedButton(QStringLiteral("Save PNG..."), "savePngButton",
+                                QStringLiteral("Save the plot as a picture"));
     // The state sits over the file buttons, out of the way of Run and Stop.
     layout->addWidget(m_status, 0, Qt::AlignHCenter);
     for (QPushButton* button : {m_fit, m_exportCsv, m_openCsv, m_savePng})

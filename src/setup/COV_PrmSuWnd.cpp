@@ -7,8 +7,10 @@
 #include "COV_MtnPrmWnd.h"
 #include "COV_SysIOSetWnd.h"
 #include "FrameRelay.h"
+#include "NamedButton.h"
 #include "NumberList.h"
 #include "PromptService.h"
+#include "PromptTexts.h"
 
 #include <QCloseEvent>
 #include <QComboBox>
@@ -17,20 +19,6 @@
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QVBoxLayout>
-
-namespace {
-const QString kParametersChanged =
-    QStringLiteral("Parameters are changed. Do you want to set parameter?");
-
-QPushButton* makeButton(const QString& caption, const char* name, const QString& tip)
-{
-    auto* button = new QPushButton(caption);
-    button->setObjectName(QLatin1String(name));
-    button->setAutoDefault(false);
-    button->setToolTip(tip);
-    return button;
-}
-} // namespace
 
 COV_PrmSuWnd::COV_PrmSuWnd(const ToolContext& context, QWidget* parent)
     : ToolView(parent), m_context(context)
@@ -97,15 +85,16 @@ QWidget* COV_PrmSuWnd::createButtonColumn()
     auto* column = new QWidget;
     auto* layout = new QVBoxLayout(column);
     layout->setContentsMargins(0, 0, 0, 0);
-    QPushButton* set = makeButton(QStringLiteral("Set Prm"), "setPrmButton",
-                                  QStringLiteral("Write the shown page to the board"));
+    QPushButton* set = makeNamedButton(QStringLiteral("Set Prm"), "setPrmButton",
+                                       QStringLiteral("Write the shown page to the board"));
     QPushButton* copy =
-        makeButton(QStringLiteral("Copy Prm"), "copyPrmButton",
-                   QStringLiteral("Copy the shown page's parameters to axes of another card"));
-    QPushButton* reset = makeButton(QStringLiteral("Default Prm"), "defaultPrmButton",
-                                    QStringLiteral("Restore the factory parameters of this axis"));
+        makeNamedButton(QStringLiteral("Copy Prm"), "copyPrmButton",
+                        QStringLiteral("Copy the shown page's parameters to axes of another card"));
+    QPushButton* reset =
+        makeNamedButton(QStringLiteral("Default Prm"), "defaultPrmButton",
+                        QStringLiteral("Restore the factory parameters of this axis"));
     QPushButton* close =
-        makeButton(QStringLiteral("Close"), "closeButton", QStringLiteral("Close the window"));
+        makeNamedButton(QStringLiteral("Close"), "closeButton", QStringLiteral("Close the window"));
     for (QPushButton* button : {set, copy, reset})
         layout->addWidget(button);
     layout->addStretch();
@@ -151,7 +140,7 @@ bool COV_PrmSuWnd::leaveCheck(BoardFamily family)
     ParameterSetupPage* page = m_pages[std::size_t(m_page)];
     if (!page->IsChanged(family))
         return false;
-    if (!m_context.prompt.askYesNo(kParametersChanged))
+    if (!m_context.prompt.askYesNo(PromptTexts::kParametersChanged))
         return true;
     page->Apply(family);
     m_context.frame.sendToFrame(UM_PARAM_CHANGED, m_card);

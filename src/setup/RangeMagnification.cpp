@@ -1,6 +1,7 @@
 #include "RangeMagnification.h"
 
 #include "IsNumericText.h"
+#include "PromptTexts.h"
 
 #include <cstdlib>
 
@@ -23,7 +24,7 @@ QString RangeMagnification::message(Typed outcome)
 {
     switch (outcome) {
     case Typed::NotNumeric:
-        return QStringLiteral("Input value is incorrect!");
+        return PromptTexts::kInputIncorrect;
     case Typed::TooSmall:
         return QStringLiteral("Speed range is greater than 0!");
     case Typed::TooLarge:
