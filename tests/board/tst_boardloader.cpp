@@ -1,6 +1,5 @@
 #include "BoardLoader.h"
 
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <map>
@@ -47,21 +46,12 @@ private slots:
         // The missing export is named, the present ones are not.
         QVERIFY2(problems.contains(QStringLiteral("NRX520L_Inc_Move")), qPrintable(problems));
         QVERIFY(!problems.contains(QStringLiteral("NRX520L_LoadDevice,")));
-        // RM and RN are absent from that folder altogether.
-        QVERIFY(problems.contains(BoardLoader::libraryFileName(BoardFamily::RM)));
-        QVERIFY(problems.contains(BoardLoader::libraryFileName(BoardFamily::RN)));
-    }
-
-    void load_neverSearchesBeyondItsFolder()
-    {
-        QTemporaryDir empty;
-        QVERIFY(empty.isValid());
-        BoardLoader loader(empty.path());
-        loader.loadAll();
-        for (BoardFamily family : kAllFamilies)
-            QVERIFY(loader.table(family) == nullptr);
+        // RM and RN are absent from that folder and not searched for beyond it.
+        QVERIFY(loader.table(BoardFamily::RM) == nullptr &&
+                loader.table(BoardFamily::RN) == nullptr);
         QCOMPARE(loader.problems().size(), 3);
-        QVERIFY(loader.problems().first().contains(QStringLiteral("not found")));
+        QVERIFY(problems.contains(BoardLoader::libraryFileName(BoardFamily::RM) + " not found"));
+        QVERIFY(problems.contains(BoardLoader::libraryFileName(BoardFamily::RN)));
     }
 };
 
