@@ -13,6 +13,7 @@
 #include <QPushButton>
 #include <QTabBar>
 
+#include <functional>
 #include <memory>
 
 // A motion window on hand-stepped timers, with the test prompts and frame, and its controls
@@ -62,14 +63,25 @@ template <typename Window = COV_SnMtnWnd> struct ToolWindowRig
         return QRect(widget->mapTo(window.get(), QPoint()), widget->size());
     }
     bool axesMoving() const { return state.active.axesMoving[0] != 0; }
-    // Runs until the sequence is over (at most a minute), moving the boards along each ms.
+    // Moves the simulated boards on by one millisecond, where a test has them.
+    std::function<void()> advance = [] {};
+
+    // Runs boards and window together until the sequence is over (at most a minute).
     template <typename F> bool runToEnd(F eachMs)
     {
         for (int ms = 0; ms < 60000; ++ms) {
             if (!window->sequencer().isMoving() && !clockwork.anyActive())
                 return true;
-            clockwork.run(1, eachMs);
+            clockwork.run(1, [&] {
+                advance();
+                eachMs();
+            });
         }
         return false;
     }
+    bool runToEnd()
+    {
+        return runToEnd([] {});
+    }
+    void run(int ms) { clockwork.run(ms, advance); }
 };

@@ -23,6 +23,10 @@ private:
                                  "[RL.Card0.Axis3]\nSlip=20\n"))
                 return false;
             open();
+            advance = [this] {
+                sim.advance(BoardFamily::RL, 1);
+                window->onGantryTick();
+            };
             return true;
         }
         ~Rig() { window.reset(); }
@@ -41,13 +45,6 @@ private:
             setText("accelTime", "100");
             setText("decelTime", "100");
             find<QPushButton>("setPrmButton")->click();
-        }
-        bool runToEnd()
-        {
-            return ToolWindowRig::runToEnd([&] {
-                sim.advance(BoardFamily::RL, 1);
-                window->onGantryTick();
-            });
         }
         std::int32_t position(int axis)
         {

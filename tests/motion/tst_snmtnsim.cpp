@@ -24,6 +24,7 @@ private:
             if (!sim.start(true, boards))
                 return false;
             advanceClock = sim.advanceClock[0];
+            advance = [this] { advanceClock(1); };
             state.active.axis = 1;
             open();
             return state.registry.axisCount(BoardFamily::RL, 0) == 4;
@@ -34,21 +35,6 @@ private:
         void click(const char* name) { QTest::mouseClick(button(name), Qt::LeftButton); }
         std::int32_t commandPosition() { return api.GetCommandPos(BoardFamily::RL, 0, 1); }
         std::int32_t errorCode() { return api.GetMotionErrCod(BoardFamily::RL, 0, 1); }
-        template <typename F> bool runToEnd(F eachMs)
-        {
-            return ToolWindowRig::runToEnd([&] {
-                advanceClock(1);
-                eachMs();
-            });
-        }
-        bool runToEnd()
-        {
-            return runToEnd([] {});
-        }
-        void run(int ms)
-        {
-            clockwork.run(ms, [&] { advanceClock(1); });
-        }
     };
 
 private slots:
