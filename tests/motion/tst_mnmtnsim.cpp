@@ -1,18 +1,9 @@
-#include "AppState.h"
 #include "COV_MnMtnWnd.h"
-#include "ManualClockwork.h"
-#include "RecordingFrame.h"
-#include "ScriptedPrompt.h"
 #include "SimBoardsRig.h"
+#include "ToolWindowRig.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLineEdit>
 #include <QListWidget>
-#include <QPushButton>
 #include <QTest>
-
-#include <memory>
 
 // The multi-axis window on a simulated RL card of four axes, whose axis 3 slips 20 pulses in
 // every 1000; board, window timers and the gantry check move on together a millisecond at a
@@ -22,46 +13,29 @@ class TestMnMtnSim : public QObject
     Q_OBJECT
 
 private:
-    struct Rig
+    struct Rig : ToolWindowRig<COV_MnMtnWnd>
     {
-        BoardApi api;
-        AppState state;
-        ScriptedPrompt prompt;
-        RecordingFrame frame;
-        ManualClockwork clockwork;
-        ToolContext context{state, api, prompt, frame};
         SimBoardsRig sim{api, state};
-        std::unique_ptr<COV_MnMtnWnd> window;
 
         bool start()
         {
             if (!sim.start(true, "[RL]\nCards=1\n[Axes]\nPlusLimit=900000\nMinusLimit=-900000\n"
                                  "[RL.Card0.Axis3]\nSlip=20\n"))
                 return false;
-            window = std::make_unique<COV_MnMtnWnd>(context, clockwork);
+            open();
+            advance = [this] {
+                sim.advance(BoardFamily::RL, 1);
+                window->onGantryTick();
+            };
             return true;
         }
         ~Rig() { window.reset(); }
-        template <typename T> T* find(const char* name) const
-        {
-            return window->findChild<T*>(QLatin1String(name));
-        }
-        void setText(const char* name, const QString& text) const
-        {
-            find<QLineEdit>(name)->setText(text);
-        }
         void check(std::initializer_list<int> rows) const
         {
             for (int row : rows)
                 find<QListWidget>("axisList")->item(row)->setCheckState(Qt::Checked);
         }
         void focus(int row) const { find<QListWidget>("axisList")->setCurrentRow(row); }
-        void choose(const char* name, int index) const
-        {
-            auto* combo = find<QComboBox>(name);
-            combo->setCurrentIndex(index);
-            emit combo->activated(index);
-        }
         // The focused axis's profile, written to it alone.
         void setSpeed(int row, int drive)
         {
@@ -71,19 +45,6 @@ private:
             setText("accelTime", "100");
             setText("decelTime", "100");
             find<QPushButton>("setPrmButton")->click();
-        }
-        // Runs until the sequence is over (at most a minute).
-        bool runToEnd()
-        {
-            for (int ms = 0; ms < 60000; ++ms) {
-                if (!window->sequencer().isMoving() && !clockwork.anyActive())
-                    return true;
-                clockwork.run(1, [&] {
-                    sim.advance(BoardFamily::RL, 1);
-                    window->onGantryTick();
-                });
-            }
-            return false;
         }
         std::int32_t position(int axis)
         {
@@ -186,20 +147,16 @@ private slots:
         QVERIFY(rig.start());
         rig.window->show();
         QCoreApplication::processEvents();
-        const auto place = [&](const char* name) {
-            QWidget* button = rig.find<QPushButton>(name);
-            return QRect(button->mapTo(rig.window.get(), QPoint()), button->size());
-        };
-        const QRect eStop = place("eStopButton");
-        const QRect sStop = place("sStopButton");
+        const QRect eStop = rig.placeOf("eStopButton");
+        const QRect sStop = rig.placeOf("sStopButton");
         const QSize size = rig.window->size();
         for (MotionType type : {MotionType::Relative, MotionType::Absolute, MotionType::Jog}) {
             rig.choose("motionType", int(type));
             for (int click = 0; click < 2 && type != MotionType::Jog; ++click) {
                 rig.find<QCheckBox>("repeat")->click();
                 QCoreApplication::processEvents();
-                QCOMPARE(place("eStopButton"), eStop);
-                QCOMPARE(place("sStopButton"), sStop);
+                QCOMPARE(rig.placeOf("eStopButton"), eStop);
+                QCOMPARE(rig.placeOf("sStopButton"), sStop);
                 QCOMPARE(rig.window->size(), size);
             }
         }

@@ -247,11 +247,9 @@ private slots:
         rig.clockwork.now = 5432;
         rig.sequencer.onCycleClock();
         QCOMPARE(rig.panel.shown, (QPair<int, int>{432, 0}));
+        // The alternation and its count on a board: tst_snmtnsim's absolute repeat.
         while (rig.sequencer.isMoving())
             rig.finishStep();
-        const QString one = "Abs_Move(0,1,-250)", two = "Abs_Move(0,1,4000)";
-        QCOMPARE(rig.moves(), (QStringList{one, two, one, two, one}));
-        QCOMPARE(rig.sequencer.cycleCount(), 2);
         QVERIFY(rig.idle() && !rig.axesMoving());
 
         // Count 0 repeats until stopped; a stop during the dwell issues no further move.

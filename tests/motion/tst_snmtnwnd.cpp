@@ -1,5 +1,5 @@
 #include "RecordingBoard.h"
-#include "SnMtnWindowRig.h"
+#include "ToolWindowRig.h"
 
 #include <QApplication>
 #include <QMouseEvent>
@@ -17,7 +17,7 @@ private:
     static constexpr const char* kChanged = "Parameters are changed. Do you want to set parameter?";
     using Sent = QList<QPair<int, int>>;
 
-    struct Rig : SnMtnWindowRig
+    struct Rig : ToolWindowRig<>
     {
         RecordingBoard rl{BoardFamily::RL};
         RecordingBoard rm{BoardFamily::RM};
@@ -73,16 +73,12 @@ private slots:
         // The stop buttons never move and the window keeps its size while the user works.
         rig.window->show();
         QCoreApplication::processEvents();
-        const auto placeOf = [&](const char* name) {
-            QWidget* button = rig.button(name);
-            return QRect(button->mapTo(rig.window.get(), QPoint()), button->size());
-        };
-        const QRect eStop = placeOf("eStopButton");
-        const QRect sStop = placeOf("sStopButton");
+        const QRect eStop = rig.placeOf("eStopButton");
+        const QRect sStop = rig.placeOf("sStopButton");
         const QSize size = rig.window->size();
         const auto steady = [&] {
             QCoreApplication::processEvents();
-            return placeOf("eStopButton") == eStop && placeOf("sStopButton") == sStop &&
+            return rig.placeOf("eStopButton") == eStop && rig.placeOf("sStopButton") == sStop &&
                    rig.window->size() == size;
         };
 
