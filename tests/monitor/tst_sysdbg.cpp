@@ -105,8 +105,6 @@ private slots:
                                    << "";
         QTest::newRow("24 points read 32") << 24 << 32 << "0x80018001"
                                            << "";
-        QTest::newRow("32 points") << 32 << 32 << "0x80018001"
-                                   << "";
         QTest::newRow("64 points") << 64 << 64 << "0x80018001"
                                    << "0x00000100";
     }
