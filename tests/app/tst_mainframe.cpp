@@ -154,10 +154,30 @@ private slots:
                  QStringLiteral("Motion Status - NRX-RM416V(0)"));
     }
 
-    void activeController_setFromTreeOrCombosMovesBoldTitlesAndCombos()
+    void activeController_refusedWhileAxesMoveThenSetFromTreeOrCombos()
     {
         Rig rig(-1, 0, 1);
         QVERIFY(rig.create());
+        const QString refusal =
+            QStringLiteral("Axes are moving !\nCan not change active controller !");
+        for (MovingOwner owner : {MovingOwner::SingleAxis, MovingOwner::MultiAxis}) {
+            rig.prompt.clear();
+            rig.state.active.axesMoving = {};
+            rig.state.active.setAxesMoving(owner, true);
+            rig.frame->familyCombo()->setCurrentIndex(1);
+            rig.frame->chooseFamily(1);
+            QCOMPARE(rig.frame->familyCombo()->currentIndex(), 0);
+            rig.tree()->setCurrentItem(rig.tree()->cardItem(BoardFamily::RN, 1));
+            rig.frame->setActiveControllerFromTree();
+            rig.frame->cardCombo()->setCurrentIndex(0);
+            rig.frame->chooseCard(0);
+            QCOMPARE(rig.prompt.messages(), (QStringList{refusal, refusal, refusal}));
+            QCOMPARE(rig.state.active.family, BoardFamily::RM);
+            QCOMPARE(rig.boldItems(), (QStringList{"NRX-RMxxxV", "0 : NRX-RM416V"}));
+        }
+        // Once they stop, the tree makes the change.
+        rig.state.active.axesMoving = {};
+        rig.prompt.clear();
         rig.tree()->setCurrentItem(rig.tree()->cardItem(BoardFamily::RN, 1));
         rig.frame->setActiveControllerFromTree();
         QCOMPARE(rig.state.active.family, BoardFamily::RN);
@@ -185,29 +205,6 @@ private slots:
         rig.frame->chooseCard(1);
         QCOMPARE(rig.boldItems(), (QStringList{"NRX-RNxxxV", "1 : NRX-RN416V"}));
         QVERIFY(rig.prompt.texts().isEmpty());
-    }
-
-    void activeController_refusedWhileAxesMove()
-    {
-        Rig rig(-1, 0, 1);
-        QVERIFY(rig.create());
-        const QString refusal =
-            QStringLiteral("Axes are moving !\nCan not change active controller !");
-        for (MovingOwner owner : {MovingOwner::SingleAxis, MovingOwner::MultiAxis}) {
-            rig.prompt.clear();
-            rig.state.active.axesMoving = {};
-            rig.state.active.setAxesMoving(owner, true);
-            rig.frame->familyCombo()->setCurrentIndex(1);
-            rig.frame->chooseFamily(1);
-            QCOMPARE(rig.frame->familyCombo()->currentIndex(), 0);
-            rig.tree()->setCurrentItem(rig.tree()->cardItem(BoardFamily::RN, 1));
-            rig.frame->setActiveControllerFromTree();
-            rig.frame->cardCombo()->setCurrentIndex(0);
-            rig.frame->chooseCard(0);
-            QCOMPARE(rig.prompt.messages(), (QStringList{refusal, refusal, refusal}));
-            QCOMPARE(rig.state.active.family, BoardFamily::RM);
-            QCOMPARE(rig.boldItems(), (QStringList{"NRX-RMxxxV", "0 : NRX-RM416V"}));
-        }
     }
 
     void stopAllAxes_everyAxisOfEveryFamilyAndEverySequence()
@@ -320,6 +317,9 @@ private slots:
         Rig rig(0, -1, -1);
         QVERIFY(rig.create());
         rig.frame->show();
+        // Without a settings file the status pane shows and follows the operated axis.
+        QVERIFY(!rig.frame->statusDock()->isHidden());
+        QCOMPARE(rig.state.statusFollowsOperation, 1);
         rig.frame->openTool(ToolSingleAxis);
         QMdiSubWindow* first = rig.frame->toolWindows().window(ToolSingleAxis);
         QVERIFY(first);
@@ -403,12 +403,6 @@ private slots:
 
     void settings_readAtStartAndDefaultToShowingTheStatusPane()
     {
-        Rig defaults(0, -1, -1);
-        QVERIFY(defaults.create());
-        defaults.frame->show();
-        QVERIFY(!defaults.frame->statusDock()->isHidden());
-        QCOMPARE(defaults.state.statusFollowsOperation, 1);
-
         Rig rig(0, -1, -1);
         const QString path = rig.state.moduleDirectory + QStringLiteral("ZelbrinOrvane.ini");
         QVERIFY(TextFile::write(path, "[System]\r\nDefault_Show_Status_Window=0\r\n"
@@ -424,7 +418,7 @@ private slots:
         QCOMPARE(rig.state.settingsFilePath, path);
     }
 
-    void activeFamilyOnly_monitorTickAndLogLevel()
+    void activeFamilyOnly_monitorTickAndLogLevel_thenExitOffersSaveAndUnloads()
     {
         Rig rig(-1, 0, 1);
         QVERIFY(rig.create());
@@ -439,12 +433,8 @@ private slots:
         QCOMPARE(rig.state.logLevel, 3);
         QCOMPARE(rig.rn.calls(), QStringList());
         QCOMPARE(rig.rl.count(QStringLiteral("LogCheck")), 0);
-    }
 
-    void exit_offersSaveThenUnloadsFamiliesWithBoards()
-    {
-        Rig rig(-1, 0, 1);
-        QVERIFY(rig.create());
+        // The exit offers to save each edited card, then unloads the families with boards.
         rig.frame->sendToFrame(UM_PARAM_CHANGED, 0);
         rig.frame->chooseFamily(1);
         rig.frame->sendToFrame(UM_PARAM_CHANGED, 1);
