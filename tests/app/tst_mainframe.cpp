@@ -312,7 +312,7 @@ private slots:
         QCOMPARE(rig.frame->statusView()->firstAxis(), 0);
     }
 
-    void tools_oneWindowPerKind()
+    void tools_oneWindowPerKindAndCloseAllStopsAtARefusal()
     {
         Rig rig(0, -1, -1);
         QVERIFY(rig.create());
@@ -337,33 +337,9 @@ private slots:
         rig.frame->openTool(ToolSystemDiagnosis);
         QCOMPARE(first->mdiArea()->subWindowList().size(), 2);
 
-        // Every menu and entry can be reached with Alt and a letter of its own.
-        const auto uniqueMnemonics = [](const QList<QAction*>& actions) {
-            QSet<QChar> letters;
-            for (const QAction* action : actions) {
-                if (action->isSeparator())
-                    continue;
-                const int at = action->text().indexOf(QLatin1Char('&'));
-                if (at < 0 || letters.contains(action->text()[at + 1].toLower()))
-                    return false;
-                letters.insert(action->text()[at + 1].toLower());
-            }
-            return true;
-        };
-        const QList<QAction*> menus = rig.frame->menuBar()->actions();
-        QVERIFY(uniqueMnemonics(menus));
-        for (const QAction* menu : menus)
-            QVERIFY2(uniqueMnemonics(menu->menu()->actions()), qPrintable(menu->text()));
-    }
-
-    void tools_closeAskTheViewAndCloseAllStopsAtARefusal()
-    {
-        Rig rig(0, -1, -1);
-        QVERIFY(rig.create());
-        rig.frame->show();
-        for (ToolKind kind : {ToolDigitalIo, ToolParameter, ToolSingleAxis})
-            rig.frame->openTool(kind);
-
+        // Closing asks the view.
+        rig.frame->openTool(ToolDigitalIo);
+        rig.frame->openTool(ToolSingleAxis);
         rig.view(ToolDigitalIo)->agreeToClose = false;
         rig.frame->toolWindows().window(ToolDigitalIo)->close();
         QCOMPARE(rig.view(ToolDigitalIo)->closeRequests, 1);
@@ -382,6 +358,24 @@ private slots:
         // Closed kinds open again.
         rig.frame->openTool(ToolParameter);
         QVERIFY(rig.view(ToolParameter));
+
+        // Every menu and entry can be reached with Alt and a letter of its own.
+        const auto uniqueMnemonics = [](const QList<QAction*>& actions) {
+            QSet<QChar> letters;
+            for (const QAction* action : actions) {
+                if (action->isSeparator())
+                    continue;
+                const int at = action->text().indexOf(QLatin1Char('&'));
+                if (at < 0 || letters.contains(action->text()[at + 1].toLower()))
+                    return false;
+                letters.insert(action->text()[at + 1].toLower());
+            }
+            return true;
+        };
+        const QList<QAction*> menus = rig.frame->menuBar()->actions();
+        QVERIFY(uniqueMnemonics(menus));
+        for (const QAction* menu : menus)
+            QVERIFY2(uniqueMnemonics(menu->menu()->actions()), qPrintable(menu->text()));
     }
 
     void cascade_stepsWrapsAndStepsBack()
