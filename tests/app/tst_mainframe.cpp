@@ -154,10 +154,30 @@ private slots:
                  QStringLiteral("Motion Status - NRX-RM416V(0)"));
     }
 
-    void activeController_setFromTreeOrCombosMovesBoldTitlesAndCombos()
+    void activeController_refusedWhileAxesMoveThenSetFromTreeOrCombos()
     {
         Rig rig(-1, 0, 1);
         QVERIFY(rig.create());
+        const QString refusal =
+            QStringLiteral("Axes are moving !\nCan not change active controller !");
+        for (MovingOwner owner : {MovingOwner::SingleAxis, MovingOwner::MultiAxis}) {
+            rig.prompt.clear();
+            rig.state.active.axesMoving = {};
+            rig.state.active.setAxesMoving(owner, true);
+            rig.frame->familyCombo()->setCurrentIndex(1);
+            rig.frame->chooseFamily(1);
+            QCOMPARE(rig.frame->familyCombo()->currentIndex(), 0);
+            rig.tree()->setCurrentItem(rig.tree()->cardItem(BoardFamily::RN, 1));
+            rig.frame->setActiveControllerFromTree();
+            rig.frame->cardCombo()->setCurrentIndex(0);
+            rig.frame->chooseCard(0);
+            QCOMPARE(rig.prompt.messages(), (QStringList{refusal, refusal, refusal}));
+            QCOMPARE(rig.state.active.family, BoardFamily::RM);
+            QCOMPARE(rig.boldItems(), (QStringList{"NRX-RMxxxV", "0 : NRX-RM416V"}));
+        }
+        // Once they stop, the tree makes the change.
+        rig.state.active.axesMoving = {};
+        rig.prompt.clear();
         rig.tree()->setCurrentItem(rig.tree()->cardItem(BoardFamily::RN, 1));
         rig.frame->setActiveControllerFromTree();
         QCOMPARE(rig.state.active.family, BoardFamily::RN);
@@ -185,29 +205,6 @@ private slots:
         rig.frame->chooseCard(1);
         QCOMPARE(rig.boldItems(), (QStringList{"NRX-RNxxxV", "1 : NRX-RN416V"}));
         QVERIFY(rig.prompt.texts().isEmpty());
-    }
-
-    void activeController_refusedWhileAxesMove()
-    {
-        Rig rig(-1, 0, 1);
-        QVERIFY(rig.create());
-        const QString refusal =
-            QStringLiteral("Axes are moving !\nCan not change active controller !");
-        for (MovingOwner owner : {MovingOwner::SingleAxis, MovingOwner::MultiAxis}) {
-            rig.prompt.clear();
-            rig.state.active.axesMoving = {};
-            rig.state.active.setAxesMoving(owner, true);
-            rig.frame->familyCombo()->setCurrentIndex(1);
-            rig.frame->chooseFamily(1);
-            QCOMPARE(rig.frame->familyCombo()->currentIndex(), 0);
-            rig.tree()->setCurrentItem(rig.tree()->cardItem(BoardFamily::RN, 1));
-            rig.frame->setActiveControllerFromTree();
-            rig.frame->cardCombo()->setCurrentIndex(0);
-            rig.frame->chooseCard(0);
-            QCOMPARE(rig.prompt.messages(), (QStringList{refusal, refusal, refusal}));
-            QCOMPARE(rig.state.active.family, BoardFamily::RM);
-            QCOMPARE(rig.boldItems(), (QStringList{"NRX-RMxxxV", "0 : NRX-RM416V"}));
-        }
     }
 
     void stopAllAxes_everyAxisOfEveryFamilyAndEverySequence()
@@ -315,11 +312,14 @@ private slots:
         QCOMPARE(rig.frame->statusView()->firstAxis(), 0);
     }
 
-    void tools_oneWindowPerKind()
+    void tools_oneWindowPerKindAndCloseAllStopsAtARefusal()
     {
         Rig rig(0, -1, -1);
         QVERIFY(rig.create());
         rig.frame->show();
+        // Without a settings file the status pane shows and follows the operated axis.
+        QVERIFY(!rig.frame->statusDock()->isHidden());
+        QCOMPARE(rig.state.statusFollowsOperation, 1);
         rig.frame->openTool(ToolSingleAxis);
         QMdiSubWindow* first = rig.frame->toolWindows().window(ToolSingleAxis);
         QVERIFY(first);
@@ -331,40 +331,15 @@ private slots:
         QCOMPARE(rig.frame->toolWindows().window(ToolSingleAxis), first);
         QCOMPARE(first->mdiArea()->activeSubWindow(), first);
         QVERIFY(first->isMaximized());
-        QCOMPARE(rig.frame->toolWindows().createdCount(), 2);
         QCOMPARE(first->mdiArea()->subWindowList().size(), 2);
         // Kinds whose windows are not registered open nothing.
         rig.frame->openTool(ToolSystemIo);
         rig.frame->openTool(ToolSystemDiagnosis);
         QCOMPARE(first->mdiArea()->subWindowList().size(), 2);
 
-        // Every menu and entry can be reached with Alt and a letter of its own.
-        const auto uniqueMnemonics = [](const QList<QAction*>& actions) {
-            QSet<QChar> letters;
-            for (const QAction* action : actions) {
-                if (action->isSeparator())
-                    continue;
-                const int at = action->text().indexOf(QLatin1Char('&'));
-                if (at < 0 || letters.contains(action->text()[at + 1].toLower()))
-                    return false;
-                letters.insert(action->text()[at + 1].toLower());
-            }
-            return true;
-        };
-        const QList<QAction*> menus = rig.frame->menuBar()->actions();
-        QVERIFY(uniqueMnemonics(menus));
-        for (const QAction* menu : menus)
-            QVERIFY2(uniqueMnemonics(menu->menu()->actions()), qPrintable(menu->text()));
-    }
-
-    void tools_closeAskTheViewAndCloseAllStopsAtARefusal()
-    {
-        Rig rig(0, -1, -1);
-        QVERIFY(rig.create());
-        rig.frame->show();
-        for (ToolKind kind : {ToolDigitalIo, ToolParameter, ToolSingleAxis})
-            rig.frame->openTool(kind);
-
+        // Closing asks the view.
+        rig.frame->openTool(ToolDigitalIo);
+        rig.frame->openTool(ToolSingleAxis);
         rig.view(ToolDigitalIo)->agreeToClose = false;
         rig.frame->toolWindows().window(ToolDigitalIo)->close();
         QCOMPARE(rig.view(ToolDigitalIo)->closeRequests, 1);
@@ -383,6 +358,24 @@ private slots:
         // Closed kinds open again.
         rig.frame->openTool(ToolParameter);
         QVERIFY(rig.view(ToolParameter));
+
+        // Every menu and entry can be reached with Alt and a letter of its own.
+        const auto uniqueMnemonics = [](const QList<QAction*>& actions) {
+            QSet<QChar> letters;
+            for (const QAction* action : actions) {
+                if (action->isSeparator())
+                    continue;
+                const int at = action->text().indexOf(QLatin1Char('&'));
+                if (at < 0 || letters.contains(action->text()[at + 1].toLower()))
+                    return false;
+                letters.insert(action->text()[at + 1].toLower());
+            }
+            return true;
+        };
+        const QList<QAction*> menus = rig.frame->menuBar()->actions();
+        QVERIFY(uniqueMnemonics(menus));
+        for (const QAction* menu : menus)
+            QVERIFY2(uniqueMnemonics(menu->menu()->actions()), qPrintable(menu->text()));
     }
 
     void cascade_stepsWrapsAndStepsBack()
@@ -404,12 +397,6 @@ private slots:
 
     void settings_readAtStartAndDefaultToShowingTheStatusPane()
     {
-        Rig defaults(0, -1, -1);
-        QVERIFY(defaults.create());
-        defaults.frame->show();
-        QVERIFY(!defaults.frame->statusDock()->isHidden());
-        QCOMPARE(defaults.state.statusFollowsOperation, 1);
-
         Rig rig(0, -1, -1);
         const QString path = rig.state.moduleDirectory + QStringLiteral("ZelbrinOrvane.ini");
         QVERIFY(TextFile::write(path, "[System]\r\nDefault_Show_Status_Window=0\r\n"
@@ -425,7 +412,7 @@ private slots:
         QCOMPARE(rig.state.settingsFilePath, path);
     }
 
-    void activeFamilyOnly_monitorTickAndLogLevel()
+    void activeFamilyOnly_monitorTickAndLogLevel_thenExitOffersSaveAndUnloads()
     {
         Rig rig(-1, 0, 1);
         QVERIFY(rig.create());
@@ -440,12 +427,8 @@ private slots:
         QCOMPARE(rig.state.logLevel, 3);
         QCOMPARE(rig.rn.calls(), QStringList());
         QCOMPARE(rig.rl.count(QStringLiteral("LogCheck")), 0);
-    }
 
-    void exit_offersSaveThenUnloadsFamiliesWithBoards()
-    {
-        Rig rig(-1, 0, 1);
-        QVERIFY(rig.create());
+        // The exit offers to save each edited card, then unloads the families with boards.
         rig.frame->sendToFrame(UM_PARAM_CHANGED, 0);
         rig.frame->chooseFamily(1);
         rig.frame->sendToFrame(UM_PARAM_CHANGED, 1);
@@ -462,13 +445,6 @@ private slots:
         QCOMPARE(rig.rl.count(QStringLiteral("UnloadDevice")), 0);
         QCOMPARE(rig.rm.count(QStringLiteral("UnloadDevice")), 1);
         QCOMPARE(rig.rn.count(QStringLiteral("UnloadDevice")), 1);
-    }
-
-    void start_noBoardEndsTheProgram()
-    {
-        Rig rig(-1, -1, -1);
-        QVERIFY(!rig.create());
-        QCOMPARE(rig.prompt.messages(), QStringList{"FAIL! LOAD DEVICE DRIVER ...."});
     }
 };
 

@@ -79,8 +79,6 @@ private slots:
         const auto input = StatusWordKind::Input;
         QTest::newRow("RM axis 5 main") << BoardFamily::RM << 5 << main
                                         << "NC RUN NC NC NC ERR NC NC NC HOME NC NC NC NC NC NC";
-        QTest::newRow("RL axis 1 main") << BoardFamily::RL << 1 << main
-                                        << "NC RUN NC NC NC ERR NC NC NC HOME NC NC NC NC NC NC";
         QTest::newRow("RN axis 3 main")
             << BoardFamily::RN << 3 << main
             << "NC NC NC RUN NC NC NC ERR EMG I-RUN HOME H-OK SON ALM LMT CMP";

@@ -107,8 +107,6 @@ private slots:
         QVERIFY(rig.edit("inputWord")->text() != word);
         window.tick();
         QCOMPARE(rig.edit("inputWord")->text(), word);
-        QCoreApplication::processEvents();
-        window.grab().save(QDir::temp().filePath(QStringLiteral("diownd_card%1.png").arg(card)));
     }
 
     void wordEdit_writesBitsOrRefusesText_data()
@@ -164,8 +162,6 @@ private slots:
         QTest::mouseClick(window.findChild<QPushButton*>("allServoOff"), Qt::LeftButton);
         window.tick();
         QVERIFY(!window.outputButton(1, SystemIoModel::ServoOn)->isOn());
-        QCoreApplication::processEvents();
-        window.grab().save(QDir::temp().filePath(QStringLiteral("sysiownd_card0.png")));
     }
 
     void unchangedTick_repaintsNothing()

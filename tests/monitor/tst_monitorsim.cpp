@@ -117,7 +117,8 @@ private:
     }
 
 private slots:
-    void words_movingAxis()
+    // One axis through a move, a limit stop and an alarm.
+    void words_movingAxisLimitStopAndAlarm()
     {
         Rig rig;
         QVERIFY(rig.start());
@@ -131,12 +132,7 @@ private slots:
         QVERIFY(rig.runToEnd());
         verifyShownWords(rig);
         QCOMPARE(rig.diagnosisCell(rig.diagnosis->positionGrid(), COV_SysDbgWnd::ActPos), "-4000");
-    }
 
-    void words_limitStop()
-    {
-        Rig rig;
-        QVERIFY(rig.start());
         rig.move(50000);
         QVERIFY(rig.runToEnd());
         QCOMPARE(rig.api.GetMotionErrCod(BoardFamily::RL, 0, kAxis), -620);
@@ -144,12 +140,7 @@ private slots:
         QVERIFY(rig.lampWord(StatusWordKind::Card) & 0x20);    // LMT+
         QVERIFY(rig.lampWord(StatusWordKind::Drive) & 0x1000); // S-LMT+
         QVERIFY(rig.lampWord(StatusWordKind::Error) & 0x4);    // +limit
-    }
 
-    void words_alarm()
-    {
-        Rig rig;
-        QVERIFY(rig.start());
         rig.api.PutSvOn(BoardFamily::RL, 0, kAxis, 1);
         verifyShownWords(rig);
         QVERIFY(rig.lampWord(StatusWordKind::Input) & 0x100); // RDY of the odd axis

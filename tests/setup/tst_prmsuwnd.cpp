@@ -1,11 +1,7 @@
-#include "COV_MainFrame.h"
 #include "COV_PrmSuWnd.h"
-#include "COV_SnMtnWnd.h"
 #include "RecordingFrame.h"
 #include "ScriptedPrompt.h"
 #include "SimBoardsRig.h"
-#include "ToolWindowFactory.h"
-#include "ToolWindowHost.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -211,38 +207,6 @@ private slots:
         rig.window->handleUserMessage(UM_CONTROLLER_CHANGED, 0);
         QVERIFY(!rig.list("cardCombo")->isEnabled());
         QCOMPARE(rig.list("cardCombo")->currentText(), QStringLiteral("0"));
-    }
-
-    void frame_opensFromSingleAxis_andOffersToSaveEditedCard()
-    {
-        SimBoardsRig boards;
-        QVERIFY(boards.start(false));
-        ScriptedPrompt prompt;
-        ToolWindowFactory factory;
-        factory.registerKind(ToolParameter, [](const ToolContext& c, QWidget* p) -> ToolView* {
-            return new COV_PrmSuWnd(c, p);
-        });
-        factory.registerKind(ToolSingleAxis, [](const ToolContext& c, QWidget* p) -> ToolView* {
-            return new COV_SnMtnWnd(c, p);
-        });
-        COV_MainFrame frame(boards.state, boards.api, prompt, factory);
-        QVERIFY(frame.create());
-        frame.monitorTimer().stop();
-        frame.sendToFrame(UM_OPEN_TOOL, ToolSingleAxis);
-        frame.toolWindows()
-            .view(ToolSingleAxis)
-            ->findChild<QPushButton*>("parameterSetupButton")
-            ->click();
-        auto* window = static_cast<COV_PrmSuWnd*>(frame.toolWindows().view(ToolParameter));
-        QVERIFY(window);
-        window->findChild<QComboBox*>("LimitLevel")->setCurrentIndex(1);
-        window->findChild<QPushButton*>("setPrmButton")->click();
-        prompt.queueAnswers({true});
-        frame.close();
-        QCOMPARE(prompt.questions(),
-                 QStringList{QStringLiteral("NRX-RLxxxV(0) board parameters are changed.\n"
-                                            "Do you want to save parameter to file?")});
-        QVERIFY(QFile::exists(boards.folder.filePath(QStringLiteral("NrxSimRL_Card0.prm"))));
     }
 };
 
