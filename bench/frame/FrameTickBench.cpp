@@ -227,8 +227,8 @@ int main(int argc, char* argv[])
     const QStringList size = options.value("size").split(QLatin1Char('x'));
     frame.resize(size.value(0).toInt(), size.value(1).toInt());
     frame.show();
-    for (int kind = kToolKindFirst; kind <= kToolKindLast; ++kind)
-        frame.sendToFrame(UM_OPEN_TOOL, kind);
+    for (const ToolWindowKind& entry : toolWindowKinds())
+        frame.sendToFrame(UM_OPEN_TOOL, entry.kind);
     QApplication::processEvents();
     const std::vector<QTimer*> polls = takePollTimers(frame.toolWindows());
 

@@ -13,6 +13,7 @@
 #include "PromptService.h"
 #include "ToolView.h"
 #include "ToolWindowHost.h"
+#include "ToolWindowKinds.h"
 
 #include <QAction>
 #include <QApplication>
@@ -128,15 +129,12 @@ void COV_MainFrame::createMenus()
     QMenuBar* bar = menuBar();
     bar->setObjectName(QStringLiteral("Menu Bar"));
     bar->addMenu(createSystemMenu());
-    bar->addMenu(createToolMenu(QStringLiteral("IO Monitoring"),
-                                {{"System IO", ToolSystemIo}, {"Digital IO", ToolDigitalIo}}));
-    QMenu* setup = createToolMenu(QStringLiteral("Setup"), {{"Parameter", ToolParameter}});
+    bar->addMenu(createToolMenu(QStringLiteral("IO Monitoring"), ToolMenu::IoMonitoring));
+    QMenu* setup = createToolMenu(QStringLiteral("Setup"), ToolMenu::Setup);
     setup->addAction(QStringLiteral("Actual Speed Calculator"), this,
                      [this] { runCommand(FrameCommand::ActualSpeedCalculator); });
     bar->addMenu(setup);
-    QMenu* motion = createToolMenu(
-        QStringLiteral("Motion"),
-        {{"Single Axis", ToolSingleAxis}, {"Multi Axis", ToolMultiAxis}, {"Scope", ToolScope}});
+    QMenu* motion = createToolMenu(QStringLiteral("Motion"), ToolMenu::Motion);
     motion->addSeparator();
     motion->addAction(m_stopAll);
     bar->addMenu(motion);
@@ -168,22 +166,26 @@ QMenu* COV_MainFrame::createSystemMenu()
     return menu;
 }
 
-QMenu* COV_MainFrame::createToolMenu(const QString& title,
-                                     std::initializer_list<std::pair<const char*, ToolKind>> tools)
+QMenu* COV_MainFrame::createToolMenu(const QString& title, ToolMenu tools)
 {
     auto* menu = new QMenu(title, this);
-    for (const auto& [text, kind] : tools) {
-        const ToolKind chosen = kind;
-        menu->addAction(QString::fromLatin1(text), this, [this, chosen] { openTool(chosen); });
-    }
+    addToolActions(*menu, tools);
     return menu;
+}
+
+void COV_MainFrame::addToolActions(QMenu& menu, ToolMenu tools)
+{
+    for (const ToolWindowKind& entry : toolWindowKinds()) {
+        if (entry.menu != tools)
+            continue;
+        const ToolKind chosen = entry.kind;
+        menu.addAction(toolWindowCaption(chosen), this, [this, chosen] { openTool(chosen); });
+    }
 }
 
 QMenu* COV_MainFrame::createStatusMenu()
 {
-    QMenu* menu =
-        createToolMenu(QStringLiteral("Status"), {{"Axis Status", ToolAxisStatus},
-                                                  {"System Diagnosis", ToolSystemDiagnosis}});
+    QMenu* menu = createToolMenu(QStringLiteral("Status"), ToolMenu::Status);
     menu->addSeparator();
     menu->addAction(QStringLiteral("Card"), this,
                     [this] { m_statusView->showPage(COV_StBaseWnd::CardPage); });
@@ -224,7 +226,7 @@ QMenu* COV_MainFrame::createWindowMenu()
         }
     });
     menu->addSeparator();
-    menu->addAction(QStringLiteral("Board Calls"), this, [this] { openTool(ToolBoardCalls); });
+    addToolActions(*menu, ToolMenu::Window);
     return menu;
 }
 

@@ -22,6 +22,7 @@ class QDockWidget;
 class QMdiArea;
 class QMenu;
 class ToolWindowHost;
+enum class ToolMenu;
 struct AppState;
 
 // The main window: menus, the "Main" toolbar with the family and card combos, the three
@@ -84,8 +85,9 @@ protected:
 private:
     void createMenus();
     QMenu* createSystemMenu();
-    QMenu* createToolMenu(const QString& title,
-                          std::initializer_list<std::pair<const char*, ToolKind>> tools);
+    // A menu of the tool-window kinds that live in it, in kind order.
+    QMenu* createToolMenu(const QString& title, ToolMenu tools);
+    void addToolActions(QMenu& menu, ToolMenu tools);
     QMenu* createStatusMenu();
     QMenu* createWindowMenu();
     QMenu* createHelpMenu();

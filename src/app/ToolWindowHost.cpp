@@ -3,6 +3,7 @@
 #include "BoardApi.h"
 #include "ToolView.h"
 #include "ToolWindowFactory.h"
+#include "ToolWindowKinds.h"
 
 #include <QCloseEvent>
 #include <QMdiArea>
@@ -22,28 +23,9 @@ ToolWindowHost::~ToolWindowHost()
 
 QString ToolWindowHost::callerName(ToolKind kind)
 {
-    switch (kind) {
-    case ToolSystemIo:
-        return QStringLiteral("System IO");
-    case ToolDigitalIo:
-        return QStringLiteral("Digital IO");
-    case ToolParameter:
-        return QStringLiteral("Parameter");
-    case ToolSingleAxis:
-        return QStringLiteral("Single Axis");
-    case ToolMultiAxis:
-        return QStringLiteral("Multi Axis");
-    case ToolAxisStatus:
-        return QStringLiteral("Axis Status");
-    case ToolSystemDiagnosis:
-        return QStringLiteral("System Diagnosis");
-    case ToolScope:
-        return QStringLiteral("Scope");
-    case ToolBoardCalls:
-        return QStringLiteral("Board Calls");
-    default:
-        break;
-    }
+    // The trace keeps the program's own words, whatever the user's language.
+    if (const ToolWindowKind* entry = findToolWindowKind(kind))
+        return QString::fromLatin1(entry->caption);
     return QStringLiteral("Window %1").arg(static_cast<int>(kind));
 }
 

@@ -15,8 +15,8 @@
 #include "COV_SysDbgWnd.h"
 #include "COV_SysIoWnd.h"
 #include "COV_SysRstDlg.h"
-#include "ToolWindowFactory.h"
 
+#include <QCoreApplication>
 #include <QFileDialog>
 
 namespace {
@@ -38,17 +38,50 @@ template <typename Dialog> ToolWindowFactory::Command dialogOf()
 
 } // namespace
 
+const std::vector<ToolWindowKind>& toolWindowKinds()
+{
+    static const std::vector<ToolWindowKind> kinds{
+        {ToolSystemIo, QT_TRANSLATE_NOOP("ToolWindowKinds", "System IO"), ToolMenu::IoMonitoring,
+         makerOf<COV_SysIoWnd>()},
+        {ToolDigitalIo, QT_TRANSLATE_NOOP("ToolWindowKinds", "Digital IO"), ToolMenu::IoMonitoring,
+         makerOf<COV_DIoWnd>()},
+        {ToolParameter, QT_TRANSLATE_NOOP("ToolWindowKinds", "Parameter"), ToolMenu::Setup,
+         makerOf<COV_PrmSuWnd>()},
+        {ToolSingleAxis, QT_TRANSLATE_NOOP("ToolWindowKinds", "Single Axis"), ToolMenu::Motion,
+         makerOf<COV_SnMtnWnd>()},
+        {ToolMultiAxis, QT_TRANSLATE_NOOP("ToolWindowKinds", "Multi Axis"), ToolMenu::Motion,
+         makerOf<COV_MnMtnWnd>()},
+        {ToolAxisStatus, QT_TRANSLATE_NOOP("ToolWindowKinds", "Axis Status"), ToolMenu::Status,
+         makerOf<COV_AxStMonWnd>()},
+        {ToolSystemDiagnosis, QT_TRANSLATE_NOOP("ToolWindowKinds", "System Diagnosis"),
+         ToolMenu::Status, makerOf<COV_SysDbgWnd>()},
+        {ToolScope, QT_TRANSLATE_NOOP("ToolWindowKinds", "Scope"), ToolMenu::Motion,
+         makerOf<COV_ScopeWnd>()},
+        {ToolBoardCalls, QT_TRANSLATE_NOOP("ToolWindowKinds", "Board Calls"), ToolMenu::Window,
+         makerOf<COV_BoardCallWnd>()},
+    };
+    return kinds;
+}
+
+const ToolWindowKind* findToolWindowKind(int kind)
+{
+    for (const ToolWindowKind& entry : toolWindowKinds()) {
+        if (entry.kind == kind)
+            return &entry;
+    }
+    return nullptr;
+}
+
+QString toolWindowCaption(ToolKind kind)
+{
+    const ToolWindowKind* entry = findToolWindowKind(kind);
+    return entry ? QCoreApplication::translate("ToolWindowKinds", entry->caption) : QString();
+}
+
 void registerToolWindows(ToolWindowFactory& factory)
 {
-    factory.registerKind(ToolSingleAxis, makerOf<COV_SnMtnWnd>());
-    factory.registerKind(ToolMultiAxis, makerOf<COV_MnMtnWnd>());
-    factory.registerKind(ToolParameter, makerOf<COV_PrmSuWnd>());
-    factory.registerKind(ToolSystemIo, makerOf<COV_SysIoWnd>());
-    factory.registerKind(ToolDigitalIo, makerOf<COV_DIoWnd>());
-    factory.registerKind(ToolAxisStatus, makerOf<COV_AxStMonWnd>());
-    factory.registerKind(ToolSystemDiagnosis, makerOf<COV_SysDbgWnd>());
-    factory.registerKind(ToolScope, makerOf<COV_ScopeWnd>());
-    factory.registerKind(ToolBoardCalls, makerOf<COV_BoardCallWnd>());
+    for (const ToolWindowKind& entry : toolWindowKinds())
+        factory.registerKind(entry.kind, entry.make);
     factory.registerCommand(FrameCommand::SaveParameter, dialogOf<COV_SavePrmDlg>());
     factory.registerCommand(FrameCommand::SystemReset, dialogOf<COV_SysRstDlg>());
     factory.registerCommand(FrameCommand::ActualSpeedCalculator, dialogOf<COV_ActSpdCalDlg>());

@@ -325,8 +325,8 @@ private slots:
     void toolWindow_data()
     {
         QTest::addColumn<int>("kind");
-        for (int kind = kToolKindFirst; kind <= kToolKindLast; ++kind)
-            QTest::newRow(qPrintable(QString::number(kind))) << kind;
+        for (const ToolWindowKind& entry : toolWindowKinds())
+            QTest::newRow(entry.caption) << int(entry.kind);
     }
     void toolWindow()
     {
