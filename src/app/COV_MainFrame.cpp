@@ -10,6 +10,7 @@
 #include "COV_WsSysWnd.h"
 #include "MenuMnemonics.h"
 #include "OrvaneSettings.h"
+#include "PollInterval.h"
 #include "PromptService.h"
 #include "ToolView.h"
 #include "ToolWindowHost.h"
@@ -81,7 +82,7 @@ COV_MainFrame::COV_MainFrame(AppState& state, BoardApi& board, PromptService& pr
 {
     setWindowTitle(QStringLiteral("Orvane"));
     m_monitorTimer.setObjectName(QStringLiteral("MonitorTick"));
-    m_monitorTimer.setInterval(kMonitorIntervalMs);
+    m_monitorTimer.setInterval(kPollIntervalMs);
     connect(&m_monitorTimer, &QTimer::timeout, this, [this] { MonitorTick(); });
 }
 

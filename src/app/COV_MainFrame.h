@@ -33,7 +33,6 @@ class COV_MainFrame : public QMainWindow, public FrameRelay
     Q_OBJECT
 
 public:
-    static constexpr int kMonitorIntervalMs = 10;
     static constexpr int kStatusPaneWidth = 200;
     static constexpr int kMotionPaneHeight = 96;
     static constexpr int kFailureNoteMs = 5000;

@@ -3,6 +3,7 @@
 #include "AppState.h"
 #include "BoardApi.h"
 #include "FrameRelay.h"
+#include "PollInterval.h"
 
 #include <QComboBox>
 #include <QGridLayout>
@@ -43,7 +44,7 @@ COV_AxStMonWnd::COV_AxStMonWnd(const ToolContext& context, QWidget* parent)
     column(StatusWordKind::Error).loadImages(state.active.family, 0);
     rebuild();
 
-    m_timer.setInterval(kTickMs);
+    m_timer.setInterval(kPollIntervalMs);
     connect(&m_timer, &QTimer::timeout, this, [this] { tick(); });
     m_timer.start();
 }

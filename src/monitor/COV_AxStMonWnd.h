@@ -19,7 +19,6 @@ class COV_AxStMonWnd : public ToolView
     Q_OBJECT
 
 public:
-    static constexpr int kTickMs = 10;
     static constexpr int kWords = 5;
 
     explicit COV_AxStMonWnd(const ToolContext& context, QWidget* parent = nullptr);

@@ -3,6 +3,7 @@
 #include "BoardApi.h"
 #include "BoardCallModel.h"
 #include "BoardCallText.h"
+#include "PollInterval.h"
 #include "PromptService.h"
 
 #include <QApplication>
@@ -56,7 +57,7 @@ COV_BoardCallWnd::COV_BoardCallWnd(const ToolContext& context, QWidget* parent)
     layout->addWidget(m_table, 1);
     applyFilters();
 
-    m_timer.setInterval(kRefreshIntervalMs);
+    m_timer.setInterval(kPollIntervalMs);
     connect(&m_timer, &QTimer::timeout, this, [this] { tick(); });
     m_timer.start();
 }

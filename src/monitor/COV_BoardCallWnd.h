@@ -20,7 +20,6 @@ class COV_BoardCallWnd : public ToolView
     Q_OBJECT
 
 public:
-    static constexpr int kRefreshIntervalMs = 10;
     // The table takes in new calls on every tenth tick: a list scrolling faster than ten
     // times a second can't be read, and every scroll repaints each visible cell.
     static constexpr int kTicksPerUpdate = 10;

@@ -6,6 +6,7 @@
 #include "LedFaces.h"
 #include "NamedButton.h"
 #include "NumberList.h"
+#include "PollInterval.h"
 #include "PromptService.h"
 #include "PromptTexts.h"
 
@@ -39,7 +40,7 @@ COV_DIoWnd::COV_DIoWnd(const ToolContext& context, QWidget* parent)
 
     fillCardCombo();
     setUp();
-    m_timer.setInterval(kTickMs);
+    m_timer.setInterval(kPollIntervalMs);
     connect(&m_timer, &QTimer::timeout, this, [this] { tick(); });
     m_timer.start();
 }

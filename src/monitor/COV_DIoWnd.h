@@ -20,8 +20,6 @@ class COV_DIoWnd : public ToolView
     Q_OBJECT
 
 public:
-    static constexpr int kTickMs = 10;
-
     explicit COV_DIoWnd(const ToolContext& context, QWidget* parent = nullptr);
 
     ToolKind kind() const override { return ToolDigitalIo; }

@@ -5,6 +5,7 @@
 #include "DiagnosisGrid.h"
 #include "DigitalIoWords.h"
 #include "NumberList.h"
+#include "PollInterval.h"
 
 #include <QComboBox>
 #include <QGridLayout>
@@ -65,7 +66,7 @@ COV_SysDbgWnd::COV_SysDbgWnd(const ToolContext& context, QWidget* parent)
     connect(m_cardCombo, &QComboBox::activated, this, [this](int index) { chooseCard(index); });
     connect(m_close, &QPushButton::clicked, this, [this] { requestClose(); });
 
-    m_timer.setInterval(kTickMs);
+    m_timer.setInterval(kPollIntervalMs);
     connect(&m_timer, &QTimer::timeout, this, [this] { tick(); });
     m_timer.start();
 }

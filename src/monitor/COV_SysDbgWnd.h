@@ -24,7 +24,6 @@ class COV_SysDbgWnd : public ToolView
     Q_OBJECT
 
 public:
-    static constexpr int kTickMs = 10;
     enum PositionRow
     {
         CmdPos = 0,

@@ -6,6 +6,7 @@
 #include "NamedButton.h"
 #include "NumberList.h"
 #include "OutputButton.h"
+#include "PollInterval.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -104,7 +105,7 @@ COV_SysIoWnd::COV_SysIoWnd(const ToolContext& context, QWidget* parent)
 
     fillCardCombo();
     setUpLamps();
-    m_timer.setInterval(kTickMs);
+    m_timer.setInterval(kPollIntervalMs);
     connect(&m_timer, &QTimer::timeout, this, [this] { tick(); });
     m_timer.start();
 }

@@ -22,7 +22,6 @@ class COV_SysIoWnd : public ToolView
     Q_OBJECT
 
 public:
-    static constexpr int kTickMs = 10;
     static constexpr int kAxes = SystemIoModel::kAxes;
 
     explicit COV_SysIoWnd(const ToolContext& context, QWidget* parent = nullptr);

@@ -9,6 +9,7 @@
 #include "JogReleaseGuard.h"
 #include "MultiAxisForm.h"
 #include "NumberList.h"
+#include "PollInterval.h"
 #include "PromptService.h"
 #include "PromptTexts.h"
 #include "QtClockwork.h"
@@ -60,7 +61,7 @@ COV_MnMtnWnd::COV_MnMtnWnd(const ToolContext& context, std::unique_ptr<QtClockwo
     m_form.gantrySource->setCurrentIndex(0);
     fillCardCombo();
     reload();
-    m_listWatch.setInterval(kListWatchIntervalMs);
+    m_listWatch.setInterval(kPollIntervalMs);
     m_listWatch.start();
 }
 

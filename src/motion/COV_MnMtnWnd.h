@@ -24,8 +24,6 @@ class COV_MnMtnWnd : public ToolView, private MotionPanel
     Q_OBJECT
 
 public:
-    static constexpr int kListWatchIntervalMs = 10;
-
     explicit COV_MnMtnWnd(const ToolContext& context, QWidget* parent = nullptr);
     // Runs the sequences on the given timers and clock instead of its own.
     COV_MnMtnWnd(const ToolContext& context, SequencerClockwork& clockwork,

@@ -3,6 +3,7 @@
 #include "BoardApi.h"
 #include "MotionErrorCode.h"
 #include "MotionPanel.h"
+#include "PollInterval.h"
 #include "PromptService.h"
 #include "SequenceTimer.h"
 #include "SequencerClockwork.h"
@@ -374,7 +375,7 @@ void MotionSequencer::startCycleClock()
 {
     m_elapsedMs = 0;
     m_startTick = m_clockwork.clock().tickCount();
-    m_clockwork.cycleClock().start(kCycleClockIntervalMs);
+    m_clockwork.cycleClock().start(kPollIntervalMs);
 }
 
 void MotionSequencer::lock()

@@ -21,8 +21,6 @@ class SequencerClockwork;
 class MotionSequencer
 {
 public:
-    static constexpr int kPollIntervalMs = 10;
-    static constexpr int kCycleClockIntervalMs = 10;
     // Card status bit that reports a completed home search.
     static constexpr std::uint16_t kHomeCompleteBit = 0x800;
 
