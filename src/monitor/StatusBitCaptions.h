@@ -15,7 +15,8 @@ enum class StatusWordKind
     Input
 };
 
-// What each bit of the card and drive status words is called, as drawn in its lamp.
+// What each bit of the status words is called, as drawn in its lamp, and what it means, from
+// one table of caption and meaning per bit.
 class StatusBitCaptions
 {
 public:
@@ -37,8 +38,4 @@ public:
     // Which slot of its group an axis takes in the main word: RL boards group axes in pairs,
     // RM and RN boards in fours.
     static int mainWordSlot(BoardFamily family, int axis);
-
-private:
-    static QString mainCaption(int bit, BoardFamily family, int axis);
-    static QString inputCaption(int bit, BoardFamily family, int axis);
 };
