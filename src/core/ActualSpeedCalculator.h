@@ -2,6 +2,9 @@
 
 // The pulse rates and ramp times a board really produces for requested ones: speeds are
 // whole multiples of the range magnification and ramps are integer rate or jerk registers.
+// The simulator (SpeedProfile in src/sim) does the same arithmetic on purpose: it stands on
+// the board contract alone and must behave like a board, while this predicts what a real
+// board does. tst_actualspeed holds the two together.
 class ActualSpeedCalculator
 {
 public:

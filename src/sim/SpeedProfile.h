@@ -5,6 +5,9 @@
 namespace nrxsim {
 
 // The board's speed registers for a requested profile, as the speed calculator shows them.
+// It repeats ActualSpeedCalculator's arithmetic on purpose: the simulator stands on the board
+// contract alone and must behave like a board, whatever the program predicts; tst_actualspeed
+// holds the two together.
 class SpeedProfile
 {
 public:
