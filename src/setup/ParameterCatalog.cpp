@@ -2,132 +2,183 @@
 
 #include "BoardApi.h"
 
+#include <iterator>
 #include <limits>
+#include <tuple>
+#include <utility>
 
 namespace {
 
-using Call = ParameterCall;
-using Page = ParameterPage;
-using Texts = std::vector<const char*>;
+// What a parameter may hold, as the list in ParameterCalls.h writes it.
+struct Domain
+{
+    std::int32_t minimum;
+    std::int32_t maximum;
+    std::vector<const char*> choices;
+    bool shown = true;
+};
 
-constexpr std::int32_t kIntMin = std::numeric_limits<std::int32_t>::min();
-constexpr std::int32_t kIntMax = std::numeric_limits<std::int32_t>::max();
-constexpr unsigned kRnOnly = 0x4;
+using Texts = std::vector<const char*>;
 
 const Texts kLevels{"Low Active", "High Active"};
 const Texts kEnable{"Disable", "Enable"};
 const Texts kUse{"Unused", "Use"};
 const Texts kDirections{"CW", "CCW"};
 
-ParameterInfo list(const char* name, Call call, int slot, Page page, Texts choices,
-                   unsigned families = kEveryFamily)
+Domain oneOf(Texts choices)
 {
     const auto last = static_cast<std::int32_t>(choices.size()) - 1;
-    return {name,     call, slot, ParameterLevel::Axis, page, true,
-            families, 0,    last, std::move(choices)};
+    return {0, last, std::move(choices)};
 }
 
-ParameterInfo number(const char* name, Call call, int slot, Page page, std::int32_t minimum,
-                     std::int32_t maximum)
+Domain between(std::int32_t minimum, std::int32_t maximum)
 {
-    return {name, call, slot, ParameterLevel::Axis, page, true, kEveryFamily, minimum, maximum, {}};
+    return {minimum, maximum, {}};
 }
 
-ParameterInfo onCard(ParameterInfo info)
+const Domain anyNumber =
+    between(std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max());
+const Domain notNegative = between(0, std::numeric_limits<std::int32_t>::max());
+
+Domain hidden(Domain domain)
 {
-    info.level = ParameterLevel::Card;
-    return info;
+    domain.shown = false;
+    return domain;
 }
 
-ParameterInfo notShown(ParameterInfo info)
+// The families that export an operation, by BoardOp.
+constexpr unsigned kOperationFamilies[] = {
+#define ORVANE_OPERATION_FAMILIES_(ret, name, params, args, families) families,
+    NRX_FOR_EACH_OPERATION(ORVANE_OPERATION_FAMILIES_)
+#undef ORVANE_OPERATION_FAMILIES_
+};
+static_assert(NRX_FAMILIES_RN == (1u << familyIndex(BoardFamily::RN)),
+              "the contract's family masks count families as familyBit() does");
+
+// The prototype and number of a BoardApi operation, from the type of its member.
+template <typename Member> struct Operation;
+template <typename Fn, Fn NrxFunctionTable::*Entry, BoardOp Op>
+struct Operation<detail::BoardOperation<Fn, Entry, Op> BoardApi::*>
 {
-    info.shown = false;
-    return info;
+    using Prototype = Fn;
+    static constexpr unsigned families = kOperationFamilies[static_cast<std::size_t>(Op)];
+};
+
+template <typename Fn> struct Prototype;
+template <typename R, typename... A> struct Prototype<R (*)(A...)>
+{
+    static constexpr std::size_t count = sizeof...(A);
+    template <std::size_t I> using Arg = std::tuple_element_t<I, std::tuple<A...>>;
+};
+
+std::int32_t at(const CallValues& values, std::size_t i)
+{
+    return i < values.size() ? values[i] : 0;
+}
+
+// Reads and writes one call pair whatever its shape: GetX(card) and GetX(card, axis) return
+// the one value, GetX(card, axis, &a, &b, ...) fill in several; SetX takes them after the
+// card and, for an axis call, the axis.
+template <auto Get, auto Set> struct CallPair
+{
+    using Getter = Prototype<typename Operation<decltype(Get)>::Prototype>;
+    using Setter = Prototype<typename Operation<decltype(Set)>::Prototype>;
+    static constexpr bool onCard = Getter::count == 1;
+    static constexpr std::size_t address = onCard ? 1 : 2; // card, or card and axis
+    static constexpr std::size_t carried = Setter::count - address;
+    static_assert(Getter::count == address || Getter::count == address + carried,
+                  "a getter returns one value or fills in each value its setter takes");
+
+    static CallValues read(BoardApi& board, BoardFamily f, CardNo c, AxisNo a)
+    {
+        if constexpr (onCard)
+            return {(board.*Get)(f, c)};
+        else if constexpr (Getter::count == 2)
+            return {(board.*Get)(f, c, a)};
+        else
+            return readFilled(board, f, c, a, std::make_index_sequence<carried>());
+    }
+
+    static void write(BoardApi& board, BoardFamily f, CardNo c, AxisNo a, const CallValues& v)
+    {
+        writeEach(board, f, c, a, v, std::make_index_sequence<carried>());
+    }
+
+private:
+    template <std::size_t... I>
+    static CallValues readFilled(BoardApi& board, BoardFamily f, CardNo c, AxisNo a,
+                                 std::index_sequence<I...>)
+    {
+        std::tuple<std::remove_pointer_t<typename Getter::template Arg<I + 2>>...> out{};
+        (board.*Get)(f, c, a, &std::get<I>(out)...);
+        return {static_cast<std::int32_t>(std::get<I>(out))...};
+    }
+
+    template <std::size_t... I>
+    static void writeEach(BoardApi& board, BoardFamily f, CardNo c, AxisNo a, const CallValues& v,
+                          std::index_sequence<I...>)
+    {
+        if constexpr (onCard)
+            (board.*Set)(f, c, static_cast<typename Setter::template Arg<I + 1>>(at(v, I))...);
+        else
+            (board.*Set)(f, c, a, static_cast<typename Setter::template Arg<I + 2>>(at(v, I))...);
+    }
+};
+
+// What the catalogue knows of one call pair, by ParameterCall.
+struct CallEntry
+{
+    const char* name;
+    ParameterPage page;
+    ParameterLevel level;
+    unsigned families;
+    CallValues (*read)(BoardApi&, BoardFamily, CardNo, AxisNo);
+    void (*write)(BoardApi&, BoardFamily, CardNo, AxisNo, const CallValues&);
+};
+
+template <auto Get, auto Set> constexpr CallEntry callEntry(const char* name, ParameterPage page)
+{
+    using Pair = CallPair<Get, Set>;
+    return {name,
+            page,
+            Pair::onCard ? ParameterLevel::Card : ParameterLevel::Axis,
+            Operation<decltype(Get)>::families & Operation<decltype(Set)>::families,
+            &Pair::read,
+            &Pair::write};
+}
+
+constexpr CallEntry kCalls[] = {
+#define ORVANE_CALL_ENTRY_(pair, page)                                                             \
+    callEntry<&BoardApi::Get##pair, &BoardApi::Set##pair>(#pair, ParameterPage::page),
+#define ORVANE_CALL_SKIP_(name, domain)
+    ORVANE_FOR_EACH_STORED_PARAMETER(ORVANE_CALL_ENTRY_, ORVANE_CALL_SKIP_)
+#undef ORVANE_CALL_ENTRY_
+#undef ORVANE_CALL_SKIP_
+};
+
+const CallEntry& entry(ParameterCall call)
+{
+    return kCalls[static_cast<std::size_t>(call)];
 }
 
 std::vector<ParameterInfo> makeCatalog()
 {
-    const Texts clearTimes{"0.01", "0.02", "0.1", "0.2", "1", "2", "10", "20"};
-    const Texts filterTimes{"0.002", "0.256", "0.512", "1.024",
-                            "2.048", "4.096", "8.192", "16.384"};
-    const Texts inputFilterTimes{"0.001", "0.002", "0.004",  "0.008", "0.016", "0.032",
-                                 "0.064", "0.128", "0.256",  "0.512", "1.024", "2.048",
-                                 "4.096", "8.192", "16.384", "32.768"};
-    const Texts homeModes{"0 : LowHome (ORG)",    "1 : LowHome (ORG+EZ)",
-                          "2 : HighHome (ORG)",   "3 : HighHome (ORG+EZ)",
-                          "4 : LowHome (Limit)",  "5 : LowHome (Limit+EZ)",
-                          "6 : HighHome (Limit)", "7 : HighHome (Limit+EZ)",
-                          "8 : LowHome (EZ)",     "9 : CurPos (ORG)"};
-    const auto io = Page::SystemIo;
-    const auto motion = Page::MotionParameter;
-    const auto filter = Page::Filter;
-    return {
-        // System IO, in the page's order.
-        list("AlarmUse", Call::SvAlm, 0, io, kEnable),
-        list("AlarmLevel", Call::SvAlm, 1, io, kLevels),
-        list("InpositionUse", Call::SvInpos, 0, io, kEnable),
-        list("InpositionLevel", Call::SvInpos, 1, io, kLevels),
-        list("LimitStopMode", Call::Hlmt, 0, io, {"E-Stop", "S-Stop"}),
-        list("LimitLevel", Call::Hlmt, 1, io, kLevels),
-        list("OriginLevel", Call::Org, 0, io, kLevels),
-        list("EncoderZLevel", Call::EncoderZ, 0, io, kLevels),
-        // The page always writes use 1 and has no control for it.
-        notShown(list("CounterClearUse", Call::SvCClr, 0, io, kEnable)),
-        list("CounterClearLevel", Call::SvCClr, 1, io, kLevels),
-        list("CounterClearTime", Call::SvCClrTime, 0, io, clearTimes),
-        onCard(list("EmergencyLevel", Call::Emergency, 0, io, kLevels)),
-        // Motion Parameter.
-        number("RangeMagnification", Call::RangeMode, 0, motion, 1, 500),
-        list("RangeMode", Call::FixedRange, 0, motion, {"Automatic Range", "Fixed Range"}),
-        list("SpeedMode", Call::SpeedMode, 0, motion, {"Trapezoid", "Paravola(S-Curve)"}),
-        list("PulseMode", Call::PulseMode, 0, motion,
-             {"CW/CCW Positive", "CW/CCW Negative", "PLS POS/DIR Low", "PLS POS/DIR HI",
-              "PLS NEG/DIR Low", "PLS NEG/DIR HI"}),
-        list("EncoderDirection", Call::EncoderDir, 0, motion, kDirections),
-        list("EncoderMode", Call::EncoderMode, 0, motion,
-             {"x4(EA/EB)", "x2(EA/EB)", "x1(EA/EB)", "Up/Down"}),
-        list("OriginDirection", Call::HomeDir, 0, motion, kDirections),
-        list("CompareCounter", Call::CompCountMode, 0, motion, {"Command", "Actual"}),
-        number("SoftLimitPlus", Call::Slmt, 0, motion, kIntMin, kIntMax),
-        number("SoftLimitMinus", Call::Slmt, 1, motion, kIntMin, kIntMax),
-        list("SoftLimitUse", Call::Slmt, 2, motion, kUse),
-        number("CounterRingCommand", Call::CounterRing, 0, motion, kIntMin, kIntMax),
-        number("CounterRingActual", Call::CounterRing, 1, motion, kIntMin, kIntMax),
-        list("CounterRingUse", Call::CounterRing, 2, motion, kUse),
-        // Filter.
-        list("FilterTime", Call::FilterTime, 0, filter, filterTimes),
-        list("FilterSensor", Call::FilterSensor, 0, filter, kEnable),
-        list("FilterServo", Call::FilterSvIF, 0, filter, kEnable),
-        list("FilterEncoderZ", Call::FilterEncoderZ, 0, filter, kEnable),
-        list("FilterExternal", Call::FilterExt, 0, filter, kEnable),
-        list("FilterStop", Call::FilterStop, 0, filter, kEnable, kRnOnly),
-        // The single-axis window's pages.
-        list("HomeMode", Call::HomeMode, 0, Page::Home, homeModes),
-        number("HomeOffset", Call::HomeOffset, 0, Page::Home, kIntMin, kIntMax),
-        number("HomeLowSpeed", Call::HomeSpeed, 0, Page::Home, 0, kIntMax),
-        number("HomeHighSpeed", Call::HomeSpeed, 1, Page::Home, 0, kIntMax),
-        number("HomeAccDecTime", Call::HomeSpeed, 2, Page::Home, 0, kIntMax),
-        number("PosInitialSpeed", Call::PosSpeed, 0, Page::PointToPoint, 0, kIntMax),
-        number("PosDriveSpeed", Call::PosSpeed, 1, Page::PointToPoint, 0, kIntMax),
-        number("PosAccelTime", Call::PosSpeed, 2, Page::PointToPoint, 0, kIntMax),
-        number("PosDecelTime", Call::PosSpeed, 3, Page::PointToPoint, 0, kIntMax),
-        number("JogInitialSpeed", Call::JogSpeed, 0, Page::PointToPoint, 0, kIntMax),
-        number("JogDriveSpeed", Call::JogSpeed, 1, Page::PointToPoint, 0, kIntMax),
-        number("JogAccelTime", Call::JogSpeed, 2, Page::PointToPoint, 0, kIntMax),
-        // The digital I/O window's card-wide input filter.
-        onCard(list("InputFilter", Call::DiFilter, 0, Page::DigitalIo, kEnable)),
-        onCard(list("InputFilterTime", Call::DiFilterTime, 0, Page::DigitalIo, inputFilterTimes)),
+    std::vector<ParameterInfo> catalog;
+    ParameterCall call{};
+    int slot = 0;
+    const auto add = [&](const char* name, Domain domain) {
+        const CallEntry& e = entry(call);
+        catalog.push_back({name, call, slot++, e.level, e.page, domain.shown, e.families,
+                           domain.minimum, domain.maximum, std::move(domain.choices)});
     };
-}
-
-std::uint16_t u16(const CallValues& values, std::size_t i)
-{
-    return static_cast<std::uint16_t>(i < values.size() ? values[i] : 0);
-}
-
-std::int32_t i32(const CallValues& values, std::size_t i)
-{
-    return i < values.size() ? values[i] : 0;
+#define ORVANE_CATALOG_CALL_(pair, page)                                                           \
+    call = ParameterCall::pair;                                                                    \
+    slot = 0;
+#define ORVANE_CATALOG_VALUE_(name, domain) add(#name, domain);
+    ORVANE_FOR_EACH_STORED_PARAMETER(ORVANE_CATALOG_CALL_, ORVANE_CATALOG_VALUE_)
+#undef ORVANE_CATALOG_CALL_
+#undef ORVANE_CATALOG_VALUE_
+    return catalog;
 }
 
 } // namespace
@@ -167,267 +218,31 @@ std::vector<const ParameterInfo*> ParameterCatalog::carriedBy(ParameterCall call
 std::vector<ParameterCall> ParameterCatalog::callsOf(ParameterPage page, BoardFamily family)
 {
     std::vector<ParameterCall> calls;
-    for (const ParameterInfo& info : all()) {
-        if (info.page == page && info.existsIn(family) &&
-            (calls.empty() || calls.back() != info.call))
-            calls.push_back(info.call);
+    for (std::size_t i = 0; i < std::size(kCalls); ++i) {
+        if (kCalls[i].page == page && (kCalls[i].families & familyBit(family)) != 0)
+            calls.push_back(static_cast<ParameterCall>(i));
     }
     return calls;
 }
 
 ParameterLevel ParameterCatalog::levelOf(ParameterCall call)
 {
-    return call == Call::Emergency || call == Call::DiFilter || call == Call::DiFilterTime
-               ? ParameterLevel::Card
-               : ParameterLevel::Axis;
+    return entry(call).level;
 }
 
 const char* ParameterCatalog::callName(ParameterCall call)
 {
-    switch (call) {
-    case Call::RangeMode:
-        return "RangeMode";
-    case Call::FixedRange:
-        return "FixedRange";
-    case Call::SpeedMode:
-        return "SpeedMode";
-    case Call::PulseMode:
-        return "PulseMode";
-    case Call::EncoderDir:
-        return "EncoderDir";
-    case Call::EncoderMode:
-        return "EncoderMode";
-    case Call::HomeDir:
-        return "HomeDir";
-    case Call::CompCountMode:
-        return "CompCountMode";
-    case Call::Slmt:
-        return "Slmt";
-    case Call::CounterRing:
-        return "CounterRing";
-    case Call::SvAlm:
-        return "SvAlm";
-    case Call::SvInpos:
-        return "SvInpos";
-    case Call::Hlmt:
-        return "Hlmt";
-    case Call::Org:
-        return "Org";
-    case Call::EncoderZ:
-        return "EncoderZ";
-    case Call::SvCClr:
-        return "SvCClr";
-    case Call::SvCClrTime:
-        return "SvCClrTime";
-    case Call::Emergency:
-        return "Emergency";
-    case Call::FilterTime:
-        return "FilterTime";
-    case Call::FilterSensor:
-        return "FilterSensor";
-    case Call::FilterSvIF:
-        return "FilterSvIF";
-    case Call::FilterEncoderZ:
-        return "FilterEncoderZ";
-    case Call::FilterExt:
-        return "FilterExt";
-    case Call::FilterStop:
-        return "FilterStop";
-    case Call::HomeMode:
-        return "HomeMode";
-    case Call::HomeOffset:
-        return "HomeOffset";
-    case Call::HomeSpeed:
-        return "HomeSpeed";
-    case Call::PosSpeed:
-        return "PosSpeed";
-    case Call::JogSpeed:
-        return "JogSpeed";
-    case Call::DiFilter:
-        return "DiFilter";
-    case Call::DiFilterTime:
-        return "DiFilterTime";
-    }
-    return "";
+    return entry(call).name;
 }
 
-CallValues ParameterCatalog::read(BoardApi& board, BoardFamily f, ParameterCall call, CardNo c,
-                                  AxisNo a)
+CallValues ParameterCatalog::read(BoardApi& board, BoardFamily family, ParameterCall call,
+                                  CardNo card, AxisNo axis)
 {
-    std::uint16_t u0 = 0, u1 = 0, u2 = 0;
-    std::int32_t v0 = 0, v1 = 0, v2 = 0, v3 = 0;
-    switch (call) {
-    case Call::RangeMode:
-        return {board.GetRangeMode(f, c, a)};
-    case Call::FixedRange:
-        return {board.GetFixedRange(f, c, a)};
-    case Call::SpeedMode:
-        return {board.GetSpeedMode(f, c, a)};
-    case Call::PulseMode:
-        return {board.GetPulseMode(f, c, a)};
-    case Call::EncoderDir:
-        return {board.GetEncoderDir(f, c, a)};
-    case Call::EncoderMode:
-        return {board.GetEncoderMode(f, c, a)};
-    case Call::HomeDir:
-        return {board.GetHomeDir(f, c, a)};
-    case Call::CompCountMode:
-        return {board.GetCompCountMode(f, c, a)};
-    case Call::Slmt:
-        board.GetSlmt(f, c, a, &v0, &v1, &u2);
-        return {v0, v1, u2};
-    case Call::CounterRing:
-        board.GetCounterRing(f, c, a, &v0, &v1, &u2);
-        return {v0, v1, u2};
-    case Call::SvAlm:
-        board.GetSvAlm(f, c, a, &u0, &u1);
-        return {u0, u1};
-    case Call::SvInpos:
-        board.GetSvInpos(f, c, a, &u0, &u1);
-        return {u0, u1};
-    case Call::Hlmt:
-        board.GetHlmt(f, c, a, &u0, &u1);
-        return {u0, u1};
-    case Call::Org:
-        return {board.GetOrg(f, c, a)};
-    case Call::EncoderZ:
-        return {board.GetEncoderZ(f, c, a)};
-    case Call::SvCClr:
-        board.GetSvCClr(f, c, a, &u0, &u1);
-        return {u0, u1};
-    case Call::SvCClrTime:
-        return {board.GetSvCClrTime(f, c, a)};
-    case Call::Emergency:
-        return {board.GetEmergency(f, c)};
-    case Call::FilterTime:
-        return {board.GetFilterTime(f, c, a)};
-    case Call::FilterSensor:
-        return {board.GetFilterSensor(f, c, a)};
-    case Call::FilterSvIF:
-        return {board.GetFilterSvIF(f, c, a)};
-    case Call::FilterEncoderZ:
-        return {board.GetFilterEncoderZ(f, c, a)};
-    case Call::FilterExt:
-        return {board.GetFilterExt(f, c, a)};
-    case Call::FilterStop:
-        return {board.GetFilterStop(f, c, a)};
-    case Call::HomeMode:
-        return {board.GetHomeMode(f, c, a)};
-    case Call::HomeOffset:
-        return {board.GetHomeOffset(f, c, a)};
-    case Call::HomeSpeed:
-        board.GetHomeSpeed(f, c, a, &v0, &v1, &v2);
-        return {v0, v1, v2};
-    case Call::PosSpeed:
-        board.GetPosSpeed(f, c, a, &v0, &v1, &v2, &v3);
-        return {v0, v1, v2, v3};
-    case Call::JogSpeed:
-        board.GetJogSpeed(f, c, a, &v0, &v1, &v2);
-        return {v0, v1, v2};
-    case Call::DiFilter:
-        return {board.GetDiFilter(f, c)};
-    case Call::DiFilterTime:
-        return {board.GetDiFilterTime(f, c)};
-    }
-    return {};
+    return entry(call).read(board, family, card, axis);
 }
 
-void ParameterCatalog::write(BoardApi& board, BoardFamily f, ParameterCall call, CardNo c, AxisNo a,
-                             const CallValues& v)
+void ParameterCatalog::write(BoardApi& board, BoardFamily family, ParameterCall call, CardNo card,
+                             AxisNo axis, const CallValues& values)
 {
-    switch (call) {
-    case Call::RangeMode:
-        board.SetRangeMode(f, c, a, u16(v, 0));
-        break;
-    case Call::FixedRange:
-        board.SetFixedRange(f, c, a, u16(v, 0));
-        break;
-    case Call::SpeedMode:
-        board.SetSpeedMode(f, c, a, u16(v, 0));
-        break;
-    case Call::PulseMode:
-        board.SetPulseMode(f, c, a, u16(v, 0));
-        break;
-    case Call::EncoderDir:
-        board.SetEncoderDir(f, c, a, u16(v, 0));
-        break;
-    case Call::EncoderMode:
-        board.SetEncoderMode(f, c, a, u16(v, 0));
-        break;
-    case Call::HomeDir:
-        board.SetHomeDir(f, c, a, u16(v, 0));
-        break;
-    case Call::CompCountMode:
-        board.SetCompCountMode(f, c, a, u16(v, 0));
-        break;
-    case Call::Slmt:
-        board.SetSlmt(f, c, a, i32(v, 0), i32(v, 1), u16(v, 2));
-        break;
-    case Call::CounterRing:
-        board.SetCounterRing(f, c, a, i32(v, 0), i32(v, 1), u16(v, 2));
-        break;
-    case Call::SvAlm:
-        board.SetSvAlm(f, c, a, u16(v, 0), u16(v, 1));
-        break;
-    case Call::SvInpos:
-        board.SetSvInpos(f, c, a, u16(v, 0), u16(v, 1));
-        break;
-    case Call::Hlmt:
-        board.SetHlmt(f, c, a, u16(v, 0), u16(v, 1));
-        break;
-    case Call::Org:
-        board.SetOrg(f, c, a, u16(v, 0));
-        break;
-    case Call::EncoderZ:
-        board.SetEncoderZ(f, c, a, u16(v, 0));
-        break;
-    case Call::SvCClr:
-        board.SetSvCClr(f, c, a, u16(v, 0), u16(v, 1));
-        break;
-    case Call::SvCClrTime:
-        board.SetSvCClrTime(f, c, a, u16(v, 0));
-        break;
-    case Call::Emergency:
-        board.SetEmergency(f, c, u16(v, 0));
-        break;
-    case Call::FilterTime:
-        board.SetFilterTime(f, c, a, u16(v, 0));
-        break;
-    case Call::FilterSensor:
-        board.SetFilterSensor(f, c, a, u16(v, 0));
-        break;
-    case Call::FilterSvIF:
-        board.SetFilterSvIF(f, c, a, u16(v, 0));
-        break;
-    case Call::FilterEncoderZ:
-        board.SetFilterEncoderZ(f, c, a, u16(v, 0));
-        break;
-    case Call::FilterExt:
-        board.SetFilterExt(f, c, a, u16(v, 0));
-        break;
-    case Call::FilterStop:
-        board.SetFilterStop(f, c, a, u16(v, 0));
-        break;
-    case Call::HomeMode:
-        board.SetHomeMode(f, c, a, u16(v, 0));
-        break;
-    case Call::HomeOffset:
-        board.SetHomeOffset(f, c, a, i32(v, 0));
-        break;
-    case Call::HomeSpeed:
-        board.SetHomeSpeed(f, c, a, i32(v, 0), i32(v, 1), i32(v, 2));
-        break;
-    case Call::PosSpeed:
-        board.SetPosSpeed(f, c, a, i32(v, 0), i32(v, 1), i32(v, 2), i32(v, 3));
-        break;
-    case Call::JogSpeed:
-        board.SetJogSpeed(f, c, a, i32(v, 0), i32(v, 1), i32(v, 2));
-        break;
-    case Call::DiFilter:
-        board.SetDiFilter(f, c, u16(v, 0));
-        break;
-    case Call::DiFilterTime:
-        board.SetDiFilterTime(f, c, u16(v, 0));
-        break;
-    }
+    entry(call).write(board, family, card, axis, values);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "BoardFamily.h"
+#include "ParameterCalls.h"
 
 #include <cstdint>
 #include <string_view>
@@ -30,44 +31,17 @@ enum class ParameterPage
 // The board calls that store parameters; one call writes every value it carries.
 enum class ParameterCall
 {
-    RangeMode,
-    FixedRange,
-    SpeedMode,
-    PulseMode,
-    EncoderDir,
-    EncoderMode,
-    HomeDir,
-    CompCountMode,
-    Slmt,
-    CounterRing,
-    SvAlm,
-    SvInpos,
-    Hlmt,
-    Org,
-    EncoderZ,
-    SvCClr,
-    SvCClrTime,
-    Emergency,
-    FilterTime,
-    FilterSensor,
-    FilterSvIF,
-    FilterEncoderZ,
-    FilterExt,
-    FilterStop,
-    HomeMode,
-    HomeOffset,
-    HomeSpeed,
-    PosSpeed,
-    JogSpeed,
-    DiFilter,
-    DiFilterTime,
+#define ORVANE_PARAMETER_CALL_ENUM_(pair, page) pair,
+#define ORVANE_PARAMETER_CALL_SKIP_(name, domain)
+    ORVANE_FOR_EACH_STORED_PARAMETER(ORVANE_PARAMETER_CALL_ENUM_, ORVANE_PARAMETER_CALL_SKIP_)
+#undef ORVANE_PARAMETER_CALL_ENUM_
+#undef ORVANE_PARAMETER_CALL_SKIP_
 };
 
 constexpr unsigned familyBit(BoardFamily family)
 {
     return 1u << familyIndex(family);
 }
-constexpr unsigned kEveryFamily = 0x7;
 
 // One stored parameter: its name in text files, where it lives and what it may hold.
 struct ParameterInfo

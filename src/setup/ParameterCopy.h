@@ -11,14 +11,6 @@ class BoardApi;
 class ParameterCopy
 {
 public:
-    // The pages of the parameter setup window, by their index there.
-    enum Page
-    {
-        SystemIoPage = 0,
-        MotionPage = 1,
-        FilterPage = 2
-    };
-
     struct Source
     {
         BoardFamily family = BoardFamily::RL;
@@ -34,12 +26,10 @@ public:
 
     explicit ParameterCopy(BoardApi& board) : m_board(board) {}
 
+    // page is a parameter setup window's page (ParameterPage::SystemIo .. Filter); any other
+    // copies nothing.
     void copy(int page, const Source& source, const Target& target);
 
 private:
-    void copySystemIo(const Source& source, const Target& target);
-    void copyMotion(const Source& source, const Target& target);
-    void copyFilter(const Source& source, const Target& target);
-
     BoardApi& m_board;
 };
