@@ -144,7 +144,7 @@ private slots:
         rig.api.PutSvOn(BoardFamily::RL, 0, kAxis, 1);
         verifyShownWords(rig);
         QVERIFY(rig.lampWord(StatusWordKind::Input) & 0x100); // RDY of the odd axis
-        rig.sim.setSignal[0](0, kAxis, 0, 1);
+        rig.sim.extras[0].SetSignal(0, kAxis, 0, 1);
         verifyShownWords(rig);
         QVERIFY(rig.lampWord(StatusWordKind::Card) & 0x10);    // ALM
         QVERIFY(rig.lampWord(StatusWordKind::Input) & 0x8000); // ALM of the odd axis

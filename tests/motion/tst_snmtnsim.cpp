@@ -14,7 +14,7 @@ private:
     struct Rig : ToolWindowRig<>
     {
         SimBoardsRig sim{api, state};
-        SimBoardsRig::Clock advanceClock = nullptr;
+        nrx_i32 (*advanceClock)(nrx_i32) = nullptr;
 
         // RL cards of 4 axes whose limit switches sit at +-6000 pulses, without Z marks.
         bool start(int cards = 1)
@@ -23,7 +23,7 @@ private:
                                       "\n[Axes]\nPlusLimit=6000\nMinusLimit=-6000\nZPeriod=0\n";
             if (!sim.start(true, boards))
                 return false;
-            advanceClock = sim.advanceClock[0];
+            advanceClock = sim.extras[0].AdvanceClock;
             advance = [this] { advanceClock(1); };
             state.active.axis = 1;
             open();

@@ -1,10 +1,5 @@
 #include "SimLibrary.h"
 
-#include "BoardSetup.h"
-
-#include <QDir>
-#include <QFile>
-
 SimLibrary::SimLibrary(int family) : library_(path(family))
 {
     if (!library_.load())
@@ -14,11 +9,7 @@ SimLibrary::SimLibrary(int family) : library_(path(family))
     nrx.name = reinterpret_cast<nrx_##name##_fn>(library_.resolve(pre + #name));
     NRX_FOR_EACH_OPERATION(SIMLIBRARY_RESOLVE_)
 #undef SIMLIBRARY_RESOLVE_
-    const QByteArray extra = QByteArray("NRXSIM") + pre.mid(3);
-#define SIMLIBRARY_RESOLVE_EXTRA_(ret, name, params, args)                                         \
-    sim.name = reinterpret_cast<ret(*) params>(library_.resolve(extra + #name));
-    NRXSIM_FOR_EACH_EXTRA(SIMLIBRARY_RESOLVE_EXTRA_)
-#undef SIMLIBRARY_RESOLVE_EXTRA_
+    sim = SimExtras::resolve(library_, family);
 }
 
 SimLibrary::~SimLibrary()
@@ -51,10 +42,4 @@ int SimLibrary::loadIn(const QString& folder)
     sim.SetManualClock(1);
     sim.SetDataFolder(folder.toLocal8Bit().constData());
     return nrx.LoadDevice();
-}
-
-bool SimLibrary::writeBoards(const QString& folder, const QByteArray& text)
-{
-    QFile f(QDir(folder).filePath(QString::fromLatin1(nrxsim::BoardSetup::FileName)));
-    return f.open(QIODevice::WriteOnly | QIODevice::Truncate) && f.write(text) == text.size();
 }

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "SimExtras.h"
 #include "nrx_contract.h"
-#include "nrxsim_extras.h"
 
 #include <QByteArray>
 #include <QLibrary>
@@ -11,13 +11,6 @@
 class SimLibrary
 {
 public:
-    struct Extras
-    {
-#define SIMLIBRARY_EXTRA_FIELD_(ret, name, params, args) ret(*name) params = nullptr;
-        NRXSIM_FOR_EACH_EXTRA(SIMLIBRARY_EXTRA_FIELD_)
-#undef SIMLIBRARY_EXTRA_FIELD_
-    };
-
     explicit SimLibrary(int family);
     ~SimLibrary();
     SimLibrary(const SimLibrary&) = delete;
@@ -25,22 +18,14 @@ public:
 
     static QString path(int family);
     static const char* prefix(int family);
-    bool isLoaded() const
-    {
-        return library_.isLoaded();
-    }
-    QString errorString() const
-    {
-        return library_.errorString();
-    }
+    bool isLoaded() const { return library_.isLoaded(); }
+    QString errorString() const { return library_.errorString(); }
 
     // LoadDevice on the given folder with the manual clock on.
     int loadIn(const QString& folder);
-    // Puts a boards file into `folder`; false when it cannot be written.
-    static bool writeBoards(const QString& folder, const QByteArray& text);
 
     NrxFunctionTable nrx{};
-    Extras sim;
+    SimExtras sim;
 
 private:
     QLibrary library_;

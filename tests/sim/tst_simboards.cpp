@@ -95,7 +95,7 @@ private slots:
 
     void boardsFile_describesTheCards()
     {
-        QVERIFY(SimLibrary::writeBoards(dir_->path(), TwoCards));
+        QVERIFY(SimExtras::writeBoards(dir_->path(), TwoCards));
         QCOMPARE(rl().loadIn(dir_->path()), 1);
         QCOMPARE(lib_[1]->loadIn(dir_->path()), -1); // no [RM] section: no board
         QCOMPARE(rl().nrx.GetDllVersion(nullptr), 3040506);
@@ -129,7 +129,7 @@ private slots:
         QByteArray text = "[RN]\nCards=8\n";
         for (int card = 0; card < 8; ++card)
             text += "[RN.Card" + QByteArray::number(card) + "]\nAxes=8\nIO=64\n";
-        QVERIFY(SimLibrary::writeBoards(dir_->path(), text));
+        QVERIFY(SimExtras::writeBoards(dir_->path(), text));
         SimLibrary& rn = *lib_[2];
         QCOMPARE(rn.loadIn(dir_->path()), 7);
         nrx_i32 axisCount = 0, ioCount = 0;
@@ -151,7 +151,7 @@ private slots:
     void boardsFile_forcesTheLoadResult()
     {
         QFETCH(int, code);
-        QVERIFY(SimLibrary::writeBoards(
+        QVERIFY(SimExtras::writeBoards(
             dir_->path(), "[RM]\nCards=2\nLoadResult=" + QByteArray::number(code) + "\n"));
         SimLibrary& rm = *lib_[1];
         QCOMPARE(rm.loadIn(dir_->path()), code);
@@ -188,7 +188,7 @@ private slots:
         else if (damage == "junk")
             text = QByteArray(3000, '\xff') + QByteArray("\0\0", 2);
         if (damage == "axes")
-            QVERIFY(SimLibrary::writeBoards(dir_->path(), "[RL]\nCards=1\n[RL.Card0]\nAxes=8\n"));
+            QVERIFY(SimExtras::writeBoards(dir_->path(), "[RL]\nCards=1\n[RL.Card0]\nAxes=8\n"));
         else
             QVERIFY(TextFile::write(file, text));
 
@@ -389,7 +389,7 @@ private slots:
                     text.insert(at, text.mid(int(rng.bounded(int(text.size()) + 1)), 40));
                 }
             }
-            QVERIFY(SimLibrary::writeBoards(dir_->path(), text));
+            QVERIFY(SimExtras::writeBoards(dir_->path(), text));
             const int family = round % 3;
             SimLibrary& l = *lib_[family];
             const int last = l.loadIn(dir_->path());

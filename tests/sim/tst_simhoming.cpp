@@ -69,7 +69,7 @@ private slots:
     void initTestCase()
     {
         QVERIFY(dir_.isValid());
-        QVERIFY(SimLibrary::writeBoards(dir_.path(), Boards));
+        QVERIFY(SimExtras::writeBoards(dir_.path(), Boards));
         lib_ = std::make_unique<SimLibrary>(0);
         QVERIFY2(lib_->isLoaded(), qPrintable(lib_->errorString()));
         nrx_ = &lib_->nrx;

@@ -63,7 +63,7 @@ private slots:
     void initTestCase()
     {
         QVERIFY(dir_.isValid());
-        QVERIFY(SimLibrary::writeBoards(dir_.path(), Boards));
+        QVERIFY(SimExtras::writeBoards(dir_.path(), Boards));
         for (int family = 0; family < 3; ++family) {
             lib_[family] = std::make_unique<SimLibrary>(family);
             QVERIFY2(lib_[family]->isLoaded(), qPrintable(lib_[family]->errorString()));

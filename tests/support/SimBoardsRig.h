@@ -3,6 +3,7 @@
 #include "AppState.h"
 #include "BoardApi.h"
 #include "BoardLoader.h"
+#include "SimExtras.h"
 
 #include <QDir>
 #include <QFile>
@@ -17,8 +18,6 @@
 // board interface and the state are the rig's own or the test's.
 struct SimBoardsRig
 {
-    using Clock = nrx_i32 (*)(nrx_i32);
-    using Signal = nrx_i32 (*)(nrx_u16, nrx_u16, nrx_u16, nrx_u16);
 
     QTemporaryDir folder;
     BoardLoader loader{QStringLiteral(ORVANE_SIM_DIR)};
@@ -26,8 +25,7 @@ struct SimBoardsRig
     AppState ownState;
     BoardApi& api;
     AppState& state;
-    std::array<Clock, kFamilyCount> advanceClock{};
-    std::array<Signal, kFamilyCount> setSignal{};
+    std::array<SimExtras, kFamilyCount> extras{}; // by familyIndex()
 
     SimBoardsRig() : api(ownApi), state(ownState) {}
     SimBoardsRig(BoardApi& boards, AppState& into) : api(boards), state(into) {}
@@ -38,28 +36,19 @@ struct SimBoardsRig
     // left for a main frame to load.
     bool start(bool loadBoards = true, const QByteArray& boards = {})
     {
-        QFile file(folder.filePath(QStringLiteral("NrxSimBoards.ini")));
-        if (!boards.isEmpty() &&
-            (!file.open(QIODevice::WriteOnly) || file.write(boards) != boards.size()))
+        if (!boards.isEmpty() && !SimExtras::writeBoards(folder.path(), boards))
             return false;
-        file.close();
         loader.loadAll();
         for (BoardFamily family : kAllFamilies) {
             const auto index = std::size_t(familyIndex(family));
-            QLibrary extras(QDir(QStringLiteral(ORVANE_SIM_DIR))
-                                .filePath(BoardLoader::libraryFileName(family)));
-            const QByteArray prefix = QByteArray("NRXSIM5") + "249"[index] + "0L_";
-            auto setManualClock =
-                reinterpret_cast<Clock>(extras.resolve(prefix + "SetManualClock"));
-            auto setDataFolder = reinterpret_cast<nrx_i32 (*)(const char*)>(
-                extras.resolve(prefix + "SetDataFolder"));
-            advanceClock[index] = reinterpret_cast<Clock>(extras.resolve(prefix + "AdvanceClock"));
-            setSignal[index] = reinterpret_cast<Signal>(extras.resolve(prefix + "SetSignal"));
-            if (!setManualClock || !setDataFolder || !loader.table(family) ||
-                !advanceClock[index] || !setSignal[index])
+            QLibrary library(QDir(QStringLiteral(ORVANE_SIM_DIR))
+                                 .filePath(BoardLoader::libraryFileName(family)));
+            SimExtras& sim = extras[index];
+            sim = SimExtras::resolve(library, int(index));
+            if (!sim.complete() || !loader.table(family))
                 return false;
-            setManualClock(1);
-            setDataFolder(QFile::encodeName(folder.path()).constData());
+            sim.SetManualClock(1);
+            sim.SetDataFolder(QFile::encodeName(folder.path()).constData());
             api.setTable(family, loader.table(family));
         }
         return !loadBoards || load();
@@ -97,7 +86,10 @@ struct SimBoardsRig
         return load();
     }
     // Lets the family's boards run on for a while.
-    void advance(BoardFamily family, int ms) { advanceClock[std::size_t(familyIndex(family))](ms); }
+    void advance(BoardFamily family, int ms)
+    {
+        extras[std::size_t(familyIndex(family))].AdvanceClock(ms);
+    }
     ~SimBoardsRig()
     {
         for (BoardFamily family : kAllFamilies)
