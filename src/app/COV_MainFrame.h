@@ -67,8 +67,6 @@ public:
 
     COV_WsSysWnd* tree() const { return m_tree; }
     COV_StBaseWnd* statusView() const { return m_statusView; }
-    COV_UtMtnStWnd* motionPane() const { return m_motionPane; }
-    QDockWidget* treeDock() const { return m_treeDock; }
     QDockWidget* statusDock() const { return m_statusDock; }
     QDockWidget* motionDock() const { return m_motionDock; }
     QComboBox* familyCombo() const { return m_familyCombo; }

@@ -35,7 +35,6 @@ public:
 
     // While paused nothing is kept, but refusals are still counted.
     void setPaused(bool paused) { m_paused = paused; }
-    bool isPaused() const { return m_paused; }
 
     // Refused calls (a negative status) seen so far, and the newest of them.
     std::uint64_t failureCount() const { return m_failures; }

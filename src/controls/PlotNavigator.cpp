@@ -34,14 +34,6 @@ void PlotNavigator::setCursor(int index, double x)
     emit cursorsChanged();
 }
 
-void PlotNavigator::placeCursors()
-{
-    const double span = m_plot->xHigh() - m_plot->xLow();
-    m_cursors = {m_plot->xLow() + span * 0.25, m_plot->xLow() + span * 0.75};
-    m_plot->update();
-    emit cursorsChanged();
-}
-
 void PlotNavigator::paintCursors(QPainter& painter, const PlotWidget& plot) const
 {
     const QRectF area = plot.plotArea();

@@ -21,8 +21,6 @@ public:
 
     double cursor(int index) const { return m_cursors[static_cast<size_t>(index & 1)]; }
     void setCursor(int index, double x);
-    // Both cursors at a quarter and three quarters of the shown time.
-    void placeCursors();
     void paintCursors(QPainter& painter, const PlotWidget& plot) const;
 
 signals:

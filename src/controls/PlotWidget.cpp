@@ -123,14 +123,6 @@ void PlotWidget::setSeriesYRange(int index, double low, double high)
     update();
 }
 
-void PlotWidget::clearSeriesYRange(int index)
-{
-    if (index >= 0 && index < seriesCount()) {
-        m_series[static_cast<size_t>(index)].ownRange = false;
-        update();
-    }
-}
-
 void PlotWidget::setYRange(double low, double high)
 {
     if (high == low)

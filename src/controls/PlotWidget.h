@@ -35,7 +35,6 @@ public:
 
     // A series on its own value range (not labelled), instead of the shared left axis.
     void setSeriesYRange(int index, double low, double high);
-    void clearSeriesYRange(int index);
 
     // Shared value axis: fixed, or fitted to the series on it (rounded to whole ticks).
     void setYRange(double low, double high);

@@ -43,9 +43,6 @@ public:
         int jerkRegister = 1; // S-curve register
         double accelTimeMs = 0.0;
         double decelTimeMs = 0.0;
-        // The range the magnification allows, R .. R x 8000 pps.
-        int rangeLow() const { return magnification; }
-        int rangeHigh() const { return magnification * kRegisterMax; }
     };
 
     static constexpr int kRegisterMax = 8000;

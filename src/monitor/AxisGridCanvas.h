@@ -26,7 +26,6 @@ public:
     // The rectangle of a value cell (row and axis from 0, below the titles).
     QRect cellRect(int row, int axis) const;
     // The row names' column: 55 wide, or wider when the font needs it for a name.
-    int titleWidth() const { return m_titleWidth; }
     QSize sizeHint() const override;
 
 signals:

@@ -42,7 +42,6 @@ public:
     bool setValue(int row, int axis, std::int32_t value);
     // Axes from count on are blank and grey.
     void setPresentAxes(int count);
-    int presentAxes() const { return m_presentAxes; }
     bool isPresent(int axis) const { return axis >= 0 && axis < m_presentAxes; }
 
     static QString format(Format format, std::int32_t value);

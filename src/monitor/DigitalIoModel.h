@@ -50,11 +50,6 @@ public:
     void setOutputPage(int page);
     int inputPage() const { return m_inputPage; }
     int outputPage() const { return m_outputPage; }
-    bool isInputPresent(int position) const { return isPresent(m_ioCount, m_inputPage, position); }
-    bool isOutputPresent(int position) const
-    {
-        return isPresent(m_ioCount, m_outputPage, position);
-    }
 
     // Reads the input page; returns the positions (bit mask) whose lamp changed.
     std::uint32_t pollInputs();

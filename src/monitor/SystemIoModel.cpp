@@ -35,16 +35,6 @@ void SystemIoModel::setCard(BoardFamily family, int card, int axisCount)
     m_runLed = 0;
 }
 
-bool SystemIoModel::inputOn(int axis, int row) const
-{
-    return m_inputs[static_cast<std::size_t>(axis)][static_cast<std::size_t>(row)];
-}
-
-bool SystemIoModel::outputOn(int axis, int row) const
-{
-    return m_outputs[static_cast<std::size_t>(axis)][static_cast<std::size_t>(row)] != 0;
-}
-
 const std::vector<SystemIoModel::Change>& SystemIoModel::refresh()
 {
     m_changes.clear();

@@ -61,11 +61,6 @@ public:
     // Reads the inputs, then the outputs, of every present axis; returns what changed.
     const std::vector<Change>& refresh();
 
-    bool inputOn(int axis, int row) const;
-    bool emergencyOn() const { return m_emergency; }
-    bool outputOn(int axis, int row) const;
-    bool runLedOn() const { return m_runLed != 0; }
-
     // A click on an output button: toggles it, or sends one counter-clear command.
     // Ignored for an absent axis and while locked.
     void clickOutput(int row, int axis);

@@ -29,7 +29,6 @@ public:
     explicit MotionErrorCode(std::int32_t code) : m_code(code) {}
 
     std::int32_t code() const { return m_code; }
-    bool isAbnormal() const { return m_code < 0; }
     // The message for a known stop code; empty for a normal end or an unknown negative code,
     // which end a motion silently.
     QString message(Wording wording) const;

@@ -56,7 +56,6 @@ public:
     bool isIdle() const { return m_idle; }
     bool isJogHeld() const { return m_jogHeld; }
     int cycleCount() const { return m_cycleCount; }
-    int repeatTarget() const { return m_repeatTarget; }
     int elapsedMs() const { return static_cast<int>(m_elapsedMs); }
     // The axes of the running (or last) motion.
     const MotionAxes& target() const { return m_target; }

@@ -27,7 +27,6 @@ public:
 
     QComboBox* cardList() const { return m_cards; }
     QComboBox* axisList() const { return m_axes; }
-    QComboBox* speedModeList() const { return m_speedMode; }
     QComboBox* rangeModeList() const { return m_rangeMode; }
     // Inputs: drive, initial, accel, decel; outputs the same, then the range text.
     QLineEdit* input(int row) const { return m_inputs[row]; }

@@ -26,8 +26,6 @@ public:
     ToolKind kind() const override { return ToolParameter; }
     void handleUserMessage(UserMessage message, int wParam) override;
 
-    // The shown page (0 System IO, 1 Motion Parameter, 2 Filter).
-    int paramPage() const { return m_page; }
 
 protected:
     void askBeforeClose() override;
