@@ -1,6 +1,9 @@
 #pragma once
 
+#include "GantryCheck.h"
 #include "GantryWatch.h"
+#include "MotionButtonActions.h"
+#include "MotionButtonTarget.h"
 #include "MotionPanel.h"
 #include "MotionSequencer.h"
 #include "MultiAxisForm.h"
@@ -12,14 +15,13 @@
 
 #include <memory>
 
-class JogReleaseGuard;
 class QtClockwork;
 class SequencerClockwork;
 
 // The multi-axis motion tool window: moves the checked axes of one card together by jog,
 // relative and absolute steps with repeat, with a gantry check that stops them all when two
 // neighbouring axes drift apart.
-class COV_MnMtnWnd : public ToolView, private MotionPanel
+class COV_MnMtnWnd : public ToolView, private MotionPanel, private MotionButtonTarget
 {
     Q_OBJECT
 
@@ -46,7 +48,6 @@ public:
 protected:
     void beforeClose() override;
     void askBeforeClose() override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
 private:
@@ -69,10 +70,8 @@ private:
     bool focusedChecked(bool tell);
     void updateServoCaption();
     void layoutMotionButtons();
-    void pressMotion(MotionDirection direction);
     void onFocusChanged(int row);
     void onMotionTypeChanged(int index);
-    void onServoClicked();
     void checkGantry();
     void onErrorLimitEdited(const QString& text);
     void forEachChecked(const std::function<void(AxisNo)>& act);
@@ -92,10 +91,16 @@ private:
     void clearCycleDisplay() override;
     void setSequenceLocked(bool locked) override;
 
+    // MotionButtonTarget: the checked axes, and only while the focused one is among them.
+    MotionAxes buttonAxes(bool tell) override;
+    AxisNo servoAxis() const override { return static_cast<AxisNo>(m_focused); }
+    bool mayStartMotion() override;
+
     MultiAxisForm m_form;
     ToolContext m_context;
     std::unique_ptr<QtClockwork> m_ownClockwork;
     MotionSequencer m_sequencer;
+    MotionButtonActions m_actions;
     MultiAxisSlots m_slots;
 
     CardNo m_card = 0;
@@ -104,11 +109,9 @@ private:
     std::vector<AxisNo> m_checked;
     bool m_listChanged = true;
     int m_editingState = -1; // what the list watch last gave the editing controls
-    std::int32_t m_errorLimit = 100;
     QString m_lastValidLimit = QStringLiteral("100");
 
     QTimer m_listWatch;
+    GantryCheck m_gantryCheck;
     GantryWatch m_gantry;
-
-    JogReleaseGuard* m_jogGuard = nullptr;
 };

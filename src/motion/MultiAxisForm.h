@@ -1,5 +1,9 @@
 #pragma once
 
+#include <QCoreApplication>
+
+class CardSelectorRow;
+class MotionButtonColumn;
 class QCheckBox;
 class QComboBox;
 class QLabel;
@@ -12,10 +16,12 @@ class QWidget;
 // profile and positions, the counters and gantry check, and the buttons.
 class MultiAxisForm
 {
+    Q_DECLARE_TR_FUNCTIONS(MultiAxisForm)
+
 public:
     explicit MultiAxisForm(QWidget* window);
 
-    QComboBox* cardCombo = nullptr;
+    CardSelectorRow* cardRow = nullptr;
     QListWidget* axisList = nullptr;
     QCheckBox* allAxes = nullptr;
     QComboBox* motionTypeCombo = nullptr;
@@ -42,17 +48,8 @@ public:
     QCheckBox* gantryBox = nullptr;
     QComboBox* gantrySource = nullptr;
     QLineEdit* errorLimitEdit = nullptr;
-    QPushButton* eStop = nullptr;
-    QPushButton* sStop = nullptr;
-    QPushButton* servo = nullptr;
-    QPushButton* minus = nullptr;
-    QPushButton* plus = nullptr;
-    QPushButton* alarmReset = nullptr;
-    QPushButton* counterClear = nullptr;
-    QPushButton* parameterSetup = nullptr;
-    QPushButton* scope = nullptr;
-    QPushButton* close = nullptr;
     QPushButton* commandButton = nullptr;
+    MotionButtonColumn* buttons = nullptr;
     QPushButton* actualButton = nullptr;
 
 private:
