@@ -45,15 +45,15 @@ COV_MnMtnWnd::COV_MnMtnWnd(const ToolContext& context, std::unique_ptr<QtClockwo
       m_sequencer(context.state.active, context.board, context.prompt,
                   clockwork != nullptr ? *clockwork : *m_ownClockwork, *this,
                   MovingOwner::MultiAxis),
-      m_actions(context.board, m_sequencer, *this), m_gantryCheck(m_sequencer),
-      m_gantry([this] { checkGantry(); })
+      m_actions(context.board, m_sequencer, *this),
+      m_gantry(m_sequencer, context.board, [this] { m_sequencer.abortWith(tr(kGantryError)); })
 {
     connectControls();
 
     m_form.setAll->setChecked(true);
     m_form.applyAll->setChecked(true);
     onMotionTypeChanged(0);
-    setFieldNumber(m_form.errorLimitEdit, m_gantryCheck.limit());
+    setFieldNumber(m_form.errorLimitEdit, m_gantry.limit());
     for (QLineEdit* edit : {m_form.count, m_form.delay, m_form.setCommand, m_form.setActual})
         setFieldNumber(edit, 0);
     clearCycleDisplay();
@@ -108,13 +108,9 @@ void COV_MnMtnWnd::connectControls()
             m_context.board.SetActualPos(family(), m_card, axis, fieldNumber(m_form.setActual));
         });
     });
-    connect(m_form.gantryBox, &QCheckBox::toggled, this, [this](bool on) {
-        m_gantryCheck.setOn(on);
-        m_gantry.setOn(on);
-    });
+    connect(m_form.gantryBox, &QCheckBox::toggled, this, [this](bool on) { m_gantry.setOn(on); });
     connect(m_form.gantrySource, &QComboBox::currentIndexChanged, this, [this](int index) {
-        m_gantryCheck.setSource(index == 1 ? GantryCheck::Source::Actual
-                                           : GantryCheck::Source::Command);
+        m_gantry.setSource(index == 1 ? GantryCheck::Source::Actual : GantryCheck::Source::Command);
     });
     connect(m_form.errorLimitEdit, &QLineEdit::textEdited, this,
             [this](const QString& text) { onErrorLimitEdited(text); });
@@ -370,19 +366,6 @@ MotionAxes COV_MnMtnWnd::buttonAxes(bool tell)
     return selectedAxes();
 }
 
-void COV_MnMtnWnd::checkGantry()
-{
-    BoardApi& board = m_context.board;
-    const auto position = [&board](const MotionAxes& motion, AxisNo axis,
-                                   GantryCheck::Source source) {
-        return source == GantryCheck::Source::Actual
-                   ? board.GetActualPos(motion.family, motion.card, axis)
-                   : board.GetCommandPos(motion.family, motion.card, axis);
-    };
-    if (m_gantryCheck.mustStop(position))
-        m_sequencer.abortWith(tr(kGantryError));
-}
-
 void COV_MnMtnWnd::onErrorLimitEdited(const QString& text)
 {
     if (!IsNumericText(text)) {
@@ -391,7 +374,7 @@ void COV_MnMtnWnd::onErrorLimitEdited(const QString& text)
         return;
     }
     m_lastValidLimit = text;
-    m_gantryCheck.setLimit(fieldNumber(text));
+    m_gantry.setLimit(fieldNumber(text));
 }
 
 void COV_MnMtnWnd::handleUserMessage(UserMessage message, int wParam)

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "GantryCheck.h"
-#include "GantryWatch.h"
 #include "MotionButtonActions.h"
 #include "MotionButtonTarget.h"
 #include "MotionPanel.h"
@@ -42,7 +41,7 @@ public:
     void onListWatch();
     // Timer 6: one period of the gantry check.
     void onGantryTick() { m_gantry.tick(); }
-    const GantryWatch& gantry() const { return m_gantry; }
+    const GantryCheck& gantry() const { return m_gantry; }
     const std::vector<AxisNo>& checkedAxes() const { return m_checked; }
 
 protected:
@@ -72,7 +71,6 @@ private:
     void layoutMotionButtons();
     void onFocusChanged(int row);
     void onMotionTypeChanged(int index);
-    void checkGantry();
     void onErrorLimitEdited(const QString& text);
     void forEachChecked(const std::function<void(AxisNo)>& act);
 
@@ -112,6 +110,5 @@ private:
     QString m_lastValidLimit = QStringLiteral("100");
 
     QTimer m_listWatch;
-    GantryCheck m_gantryCheck;
-    GantryWatch m_gantry;
+    GantryCheck m_gantry;
 };

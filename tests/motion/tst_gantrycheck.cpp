@@ -111,7 +111,8 @@ private slots:
         ManualClockwork clockwork;
         Panel panel;
         MotionSequencer sequencer{active, api, prompt, clockwork, panel, MovingOwner::MultiAxis};
-        GantryCheck check{sequencer};
+        int stopsGiven = 0;
+        GantryCheck check{sequencer, api, [&stopsGiven] { ++stopsGiven; }};
 
         if (motion != QLatin1String("none")) {
             panel.type = motion == QLatin1String("jog") ? MotionType::Jog : MotionType::Absolute;
@@ -126,19 +127,24 @@ private slots:
         check.setSource(source == 1 ? GantryCheck::Source::Actual : GantryCheck::Source::Command);
         check.setLimit(limit);
 
+        const AxisNo started[] = {1, 3, 4};
+        for (int i = 0; i < 3; ++i) {
+            rl.setResultFor("GetCommandPos", 1, started[i], command.at(i));
+            rl.setResultFor("GetActualPos", 1, started[i], actual.at(i));
+        }
+        rl.clearCalls();
+        check.tick();
+
         // Card and axis of every read: always those the motion started on, in their order.
-        QStringList read;
-        const bool stop =
-            check.mustStop([&](const MotionAxes& on, AxisNo axis, GantryCheck::Source counter) {
-                const auto index = static_cast<int>(read.size());
-                read << QStringLiteral("%1:%2").arg(on.card).arg(axis);
-                return counter == GantryCheck::Source::Actual ? actual.at(index)
-                                                              : command.at(index);
-            });
-        const QStringList started{QStringLiteral("1:1"), QStringLiteral("1:3"),
-                                  QStringLiteral("1:4")};
-        QCOMPARE(read, reads ? started : QStringList());
-        QCOMPARE(stop, stops);
+        const QString counter =
+            source == 1 ? QStringLiteral("GetActualPos") : QStringLiteral("GetCommandPos");
+        QStringList expected;
+        if (reads) {
+            for (AxisNo axis : started)
+                expected << QStringLiteral("%1(1,%2)").arg(counter).arg(axis);
+        }
+        QCOMPARE(rl.calls({"GetCommandPos", "GetActualPos"}), expected);
+        QCOMPARE(stopsGiven, stops ? 1 : 0);
     }
 };
 
