@@ -31,12 +31,17 @@ void MotionButtonActions::holdAlarmReset(bool down)
 void MotionButtonActions::stop(bool sudden)
 {
     // The sequencer stops the running motion's axes too when the selection has moved.
-    if (m_target.buttonAxes(true).axes.empty())
+    if (!m_target.buttonAxes(false).axes.empty()) {
+        if (sudden)
+            m_sequencer.suddenStop();
+        else
+            m_sequencer.decelStop();
         return;
-    if (sudden)
-        m_sequencer.suddenStop();
-    else
-        m_sequencer.decelStop();
+    }
+    // The window names no axes now, yet a running motion still stops on the axes it started
+    // on, before the user is told why the buttons did nothing else.
+    m_sequencer.stopRunning(sudden);
+    m_target.buttonAxes(true);
 }
 
 void MotionButtonActions::clearCounters()
