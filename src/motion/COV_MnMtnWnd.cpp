@@ -30,18 +30,10 @@ constexpr const char* kTwoAxes =
 constexpr const char* kGantryError = QT_TRANSLATE_NOOP("COV_MnMtnWnd", "Gantry Limit Error !");
 } // namespace
 
-COV_MnMtnWnd::COV_MnMtnWnd(const ToolContext& context, QWidget* parent)
-    : COV_MnMtnWnd(context, std::make_unique<QtClockwork>(), nullptr, parent)
-{}
-
-COV_MnMtnWnd::COV_MnMtnWnd(const ToolContext& context, SequencerClockwork& clockwork,
-                           QWidget* parent)
-    : COV_MnMtnWnd(context, nullptr, &clockwork, parent)
-{}
-
-COV_MnMtnWnd::COV_MnMtnWnd(const ToolContext& context, std::unique_ptr<QtClockwork> ownClockwork,
-                           SequencerClockwork* clockwork, QWidget* parent)
-    : ToolView(parent), m_form(this), m_context(context), m_ownClockwork(std::move(ownClockwork)),
+COV_MnMtnWnd::COV_MnMtnWnd(const ToolContext& context, QWidget* parent,
+                           SequencerClockwork* clockwork)
+    : ToolView(parent), m_form(this), m_context(context),
+      m_ownClockwork(clockwork != nullptr ? nullptr : std::make_unique<QtClockwork>()),
       m_sequencer(context.state.active, context.board, context.prompt,
                   clockwork != nullptr ? *clockwork : *m_ownClockwork, *this,
                   MovingOwner::MultiAxis),

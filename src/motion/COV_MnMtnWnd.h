@@ -25,10 +25,9 @@ class COV_MnMtnWnd : public ToolView, private MotionPanel, private MotionButtonT
     Q_OBJECT
 
 public:
-    explicit COV_MnMtnWnd(const ToolContext& context, QWidget* parent = nullptr);
-    // Runs the sequences on the given timers and clock instead of its own.
-    COV_MnMtnWnd(const ToolContext& context, SequencerClockwork& clockwork,
-                 QWidget* parent = nullptr);
+    // Runs the sequences on `clockwork` when given (a test's), on its own Qt timers otherwise.
+    explicit COV_MnMtnWnd(const ToolContext& context, QWidget* parent = nullptr,
+                          SequencerClockwork* clockwork = nullptr);
     ~COV_MnMtnWnd() override;
 
     ToolKind kind() const override { return ToolMultiAxis; }
@@ -50,9 +49,6 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
-    COV_MnMtnWnd(const ToolContext& context, std::unique_ptr<QtClockwork> ownClockwork,
-                 SequencerClockwork* clockwork, QWidget* parent);
-
     void connectControls();
 
     BoardFamily family() const;

@@ -20,18 +20,10 @@
 #include <QTabBar>
 #include <QVBoxLayout>
 
-COV_SnMtnWnd::COV_SnMtnWnd(const ToolContext& context, QWidget* parent)
-    : COV_SnMtnWnd(context, std::make_unique<QtClockwork>(), nullptr, parent)
-{}
-
-COV_SnMtnWnd::COV_SnMtnWnd(const ToolContext& context, SequencerClockwork& clockwork,
-                           QWidget* parent)
-    : COV_SnMtnWnd(context, nullptr, &clockwork, parent)
-{}
-
-COV_SnMtnWnd::COV_SnMtnWnd(const ToolContext& context, std::unique_ptr<QtClockwork> ownClockwork,
-                           SequencerClockwork* clockwork, QWidget* parent)
-    : ToolView(parent), m_context(context), m_ownClockwork(std::move(ownClockwork)),
+COV_SnMtnWnd::COV_SnMtnWnd(const ToolContext& context, QWidget* parent,
+                           SequencerClockwork* clockwork)
+    : ToolView(parent), m_context(context),
+      m_ownClockwork(clockwork != nullptr ? nullptr : std::make_unique<QtClockwork>()),
       m_sequencer(context.state.active, context.board, context.prompt,
                   clockwork != nullptr ? *clockwork : *m_ownClockwork, *this),
       m_actions(context.board, m_sequencer, *this)

@@ -26,10 +26,9 @@ class COV_SnMtnWnd : public ToolView, private SingleAxisPanel, private MotionBut
     Q_OBJECT
 
 public:
-    explicit COV_SnMtnWnd(const ToolContext& context, QWidget* parent = nullptr);
-    // Runs the sequences on the given timers and clock instead of its own.
-    COV_SnMtnWnd(const ToolContext& context, SequencerClockwork& clockwork,
-                 QWidget* parent = nullptr);
+    // Runs the sequences on `clockwork` when given (a test's), on its own Qt timers otherwise.
+    explicit COV_SnMtnWnd(const ToolContext& context, QWidget* parent = nullptr,
+                          SequencerClockwork* clockwork = nullptr);
     ~COV_SnMtnWnd() override;
 
     ToolKind kind() const override { return ToolSingleAxis; }
@@ -45,9 +44,6 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    COV_SnMtnWnd(const ToolContext& context, std::unique_ptr<QtClockwork> ownClockwork,
-                 SequencerClockwork* clockwork, QWidget* parent);
-
     QWidget* createPageArea();
     void connectControls();
 
