@@ -11,7 +11,6 @@
 #include "PollInterval.h"
 #include "PromptService.h"
 #include "PromptTexts.h"
-#include "QtClockwork.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -30,12 +29,9 @@ constexpr const char* kTwoAxes =
 constexpr const char* kGantryError = QT_TRANSLATE_NOOP("COV_MnMtnWnd", "Gantry Limit Error !");
 } // namespace
 
-COV_MnMtnWnd::COV_MnMtnWnd(const ToolContext& context, QWidget* parent,
-                           SequencerClockwork* clockwork)
-    : ToolView(parent), m_form(this), m_context(context),
-      m_ownClockwork(clockwork != nullptr ? nullptr : std::make_unique<QtClockwork>()),
-      m_sequencer(context.state.active, context.board, context.prompt,
-                  clockwork != nullptr ? *clockwork : *m_ownClockwork, *this,
+COV_MnMtnWnd::COV_MnMtnWnd(const ToolContext& context, QWidget* parent, SequencerClockwork* given)
+    : MotionToolView(context, parent, given), m_form(this),
+      m_sequencer(context.state.active, context.board, context.prompt, clockwork(), *this,
                   MovingOwner::MultiAxis),
       m_actions(context.board, m_sequencer, *this),
       m_gantry(m_sequencer, context.board, [this] { m_sequencer.abortWith(tr(kGantryError)); })
@@ -383,12 +379,6 @@ void COV_MnMtnWnd::handleUserMessage(UserMessage message, int wParam)
     }
 }
 
-void COV_MnMtnWnd::hideEvent(QHideEvent* event)
-{
-    m_sequencer.endHeldJog();
-    ToolView::hideEvent(event);
-}
-
 MotionType COV_MnMtnWnd::motionType() const
 {
     return static_cast<MotionType>(std::max(0, m_form.motionTypeCombo->currentIndex()));
@@ -457,11 +447,6 @@ void COV_MnMtnWnd::setSequenceLocked(bool locked)
                                          m_form.repeat, m_form.infinite})
         control->setEnabled(!locked);
     m_editingState = -1; // the list watch gives the editing controls their state again
-}
-
-void COV_MnMtnWnd::beforeClose()
-{
-    m_sequencer.endHeldJog();
 }
 
 void COV_MnMtnWnd::askBeforeClose()

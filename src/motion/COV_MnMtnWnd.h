@@ -5,35 +5,31 @@
 #include "MotionButtonTarget.h"
 #include "MotionPanel.h"
 #include "MotionSequencer.h"
+#include "MotionToolView.h"
 #include "MultiAxisForm.h"
 #include "MultiAxisSlots.h"
-#include "ToolContext.h"
-#include "ToolView.h"
 
 #include <QTimer>
 
-#include <memory>
-
-class QtClockwork;
 class SequencerClockwork;
 
 // The multi-axis motion tool window: moves the checked axes of one card together by jog,
 // relative and absolute steps with repeat, with a gantry check that stops them all when two
 // neighbouring axes drift apart.
-class COV_MnMtnWnd : public ToolView, private MotionPanel, private MotionButtonTarget
+class COV_MnMtnWnd : public MotionToolView, private MotionPanel, private MotionButtonTarget
 {
     Q_OBJECT
 
 public:
-    // Runs the sequences on `clockwork` when given (a test's), on its own Qt timers otherwise.
+    // Runs the sequences on `given` clockwork when there is one (a test's), on its own Qt timers
+    // otherwise.
     explicit COV_MnMtnWnd(const ToolContext& context, QWidget* parent = nullptr,
-                          SequencerClockwork* clockwork = nullptr);
+                          SequencerClockwork* given = nullptr);
     ~COV_MnMtnWnd() override;
 
     ToolKind kind() const override { return ToolMultiAxis; }
     QTimer* pollTimer() override { return &m_listWatch; }
     void handleUserMessage(UserMessage message, int wParam) override;
-    void endMotion() override { m_sequencer.endSequence(); }
 
     MotionSequencer& sequencer() { return m_sequencer; }
     // Timer 5: "All Axes", the checked axes and the editing controls follow the list.
@@ -44,9 +40,8 @@ public:
     const std::vector<AxisNo>& checkedAxes() const { return m_checked; }
 
 protected:
-    void beforeClose() override;
     void askBeforeClose() override;
-    void hideEvent(QHideEvent* event) override;
+    MotionSequencer& motion() override { return m_sequencer; }
 
 private:
     void connectControls();
@@ -91,8 +86,6 @@ private:
     bool mayStartMotion() override;
 
     MultiAxisForm m_form;
-    ToolContext m_context;
-    std::unique_ptr<QtClockwork> m_ownClockwork;
     MotionSequencer m_sequencer;
     MotionButtonActions m_actions;
     MultiAxisSlots m_slots;

@@ -10,7 +10,6 @@
 #include "NumberList.h"
 #include "PromptService.h"
 #include "PromptTexts.h"
-#include "QtClockwork.h"
 
 #include <QComboBox>
 #include <QEvent>
@@ -20,12 +19,9 @@
 #include <QTabBar>
 #include <QVBoxLayout>
 
-COV_SnMtnWnd::COV_SnMtnWnd(const ToolContext& context, QWidget* parent,
-                           SequencerClockwork* clockwork)
-    : ToolView(parent), m_context(context),
-      m_ownClockwork(clockwork != nullptr ? nullptr : std::make_unique<QtClockwork>()),
-      m_sequencer(context.state.active, context.board, context.prompt,
-                  clockwork != nullptr ? *clockwork : *m_ownClockwork, *this),
+COV_SnMtnWnd::COV_SnMtnWnd(const ToolContext& context, QWidget* parent, SequencerClockwork* given)
+    : MotionToolView(context, parent, given),
+      m_sequencer(context.state.active, context.board, context.prompt, clockwork(), *this),
       m_actions(context.board, m_sequencer, *this)
 {
     auto* layout = new QHBoxLayout(this);
@@ -220,17 +216,11 @@ void COV_SnMtnWnd::handleUserMessage(UserMessage message, int wParam)
     }
 }
 
-void COV_SnMtnWnd::hideEvent(QHideEvent* event)
-{
-    m_sequencer.endHeldJog();
-    ToolView::hideEvent(event);
-}
-
 void COV_SnMtnWnd::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::ActivationChange && !isActiveWindow())
         m_sequencer.endHeldJog();
-    ToolView::changeEvent(event);
+    MotionToolView::changeEvent(event);
 }
 
 MotionType COV_SnMtnWnd::motionType() const
@@ -284,11 +274,6 @@ void COV_SnMtnWnd::setSequenceLocked(bool locked)
 MotionAxes COV_SnMtnWnd::buttonAxes(bool)
 {
     return MotionAxes{m_context.state.active.family, m_card, {m_axis}};
-}
-
-void COV_SnMtnWnd::beforeClose()
-{
-    m_sequencer.endHeldJog();
 }
 
 void COV_SnMtnWnd::askBeforeClose()

@@ -2,13 +2,10 @@
 
 #include "MotionButtonActions.h"
 #include "MotionButtonTarget.h"
+#include "MotionToolView.h"
 #include "MotionTypes.h"
 #include "SingleAxisPanel.h"
 #include "SingleAxisSequencer.h"
-#include "ToolContext.h"
-#include "ToolView.h"
-
-#include <memory>
 
 class CardSelectorRow;
 class COV_SnMtnHomeWnd;
@@ -17,30 +14,28 @@ class MotionButtonColumn;
 class QComboBox;
 class QStackedWidget;
 class QTabBar;
-class QtClockwork;
 
 // The single-axis motion tool window: moves one axis of the active controller by jog, steps,
 // repeats and homing, with its servo, alarm-reset and counter-clear outputs.
-class COV_SnMtnWnd : public ToolView, private SingleAxisPanel, private MotionButtonTarget
+class COV_SnMtnWnd : public MotionToolView, private SingleAxisPanel, private MotionButtonTarget
 {
     Q_OBJECT
 
 public:
-    // Runs the sequences on `clockwork` when given (a test's), on its own Qt timers otherwise.
+    // Runs the sequences on `given` clockwork when there is one (a test's), on its own Qt timers
+    // otherwise.
     explicit COV_SnMtnWnd(const ToolContext& context, QWidget* parent = nullptr,
-                          SequencerClockwork* clockwork = nullptr);
+                          SequencerClockwork* given = nullptr);
     ~COV_SnMtnWnd() override;
 
     ToolKind kind() const override { return ToolSingleAxis; }
     void handleUserMessage(UserMessage message, int wParam) override;
-    void endMotion() override { m_sequencer.endSequence(); }
 
     SingleAxisSequencer& sequencer() { return m_sequencer; }
 
 protected:
-    void beforeClose() override;
     void askBeforeClose() override;
-    void hideEvent(QHideEvent* event) override;
+    MotionSequencer& motion() override { return m_sequencer; }
     void changeEvent(QEvent* event) override;
 
 private:
@@ -77,8 +72,6 @@ private:
     AxisNo servoAxis() const override { return m_axis; }
     bool mayStartMotion() override { return true; }
 
-    ToolContext m_context;
-    std::unique_ptr<QtClockwork> m_ownClockwork;
     SingleAxisSequencer m_sequencer;
     MotionButtonActions m_actions;
 
