@@ -78,7 +78,7 @@ void COV_MnMtnWnd::connectControls()
         for (int row = 0; row < m_form.axisList->count(); ++row)
             m_form.axisList->item(row)->setCheckState(on ? Qt::Checked : Qt::Unchecked);
     });
-    connect(m_form.motionTypeCombo, &QComboBox::activated, this, [this](int index) {
+    connect(m_form.profile.motionType, &QComboBox::activated, this, [this](int index) {
         promptIfChanged(family());
         onMotionTypeChanged(index);
     });
@@ -156,10 +156,7 @@ void COV_MnMtnWnd::showFocusedFields()
         motionType() == MotionType::Jog
             ? PtpSpeeds::readJog(m_context.board, family(), m_card, axis)
             : PtpSpeeds::readPositioning(m_context.board, family(), m_card, axis);
-    setFieldNumber(m_form.drive, speeds.drive);
-    setFieldNumber(m_form.initial, speeds.initial);
-    setFieldNumber(m_form.accel, speeds.accelMs);
-    setFieldNumber(m_form.decel, speeds.decelMs);
+    m_form.profile.show(speeds);
     const AxisPositions& positions = m_slots.positions(axis);
     setFieldNumber(m_form.position1, positions.position1);
     setFieldNumber(m_form.position2, positions.position2);
@@ -167,8 +164,7 @@ void COV_MnMtnWnd::showFocusedFields()
 
 PtpSpeeds COV_MnMtnWnd::profileFields() const
 {
-    return PtpSpeeds{fieldNumber(m_form.initial), fieldNumber(m_form.drive),
-                     fieldNumber(m_form.accel), fieldNumber(m_form.decel)};
+    return m_form.profile.speeds();
 }
 
 void COV_MnMtnWnd::writeProfiles(const std::vector<AxisNo>& axes, MotionType type)
@@ -263,15 +259,14 @@ void COV_MnMtnWnd::onFocusChanged(int row)
 void COV_MnMtnWnd::onMotionTypeChanged(int index)
 {
     {
-        const QSignalBlocker quiet(m_form.motionTypeCombo);
-        m_form.motionTypeCombo->setCurrentIndex(index);
+        const QSignalBlocker quiet(m_form.profile.motionType);
+        m_form.profile.motionType->setCurrentIndex(index);
     }
     const auto type = static_cast<MotionType>(index);
     const bool jog = type == MotionType::Jog;
-    m_form.accelLabel->setText(jog ? tr(" Acc/Dec Time") : tr(" Accel Time"));
     m_form.position2Label->setText(type == MotionType::Relative ? tr(" Distance")
                                                                 : tr(" Position 2"));
-    m_form.decel->setEnabled(!jog);
+    m_form.profile.showJog(jog);
     if (jog)
         m_form.repeat->setChecked(false);
     m_form.repeat->setEnabled(!jog);
@@ -317,14 +312,14 @@ void COV_MnMtnWnd::onListWatch()
     if (state == m_editingState)
         return;
     m_editingState = state;
-    for (QWidget* control :
-         std::initializer_list<QWidget*>{m_form.drive, m_form.initial, m_form.accel, m_form.setAll,
-                                         m_form.setPrm, m_form.applyAll, m_form.apply})
+    for (QWidget* control : std::initializer_list<QWidget*>{
+             m_form.profile.drive, m_form.profile.initial, m_form.profile.accel, m_form.setAll,
+             m_form.setPrm, m_form.applyAll, m_form.apply})
         control->setEnabled(checked);
     const MotionType type = motionType();
-    m_form.decel->setEnabled(checked && type != MotionType::Jog);
+    m_form.profile.decel->setEnabled(checked && type != MotionType::Jog);
     // While a repeat runs the list is locked, and so stays the motion type.
-    m_form.motionTypeCombo->setEnabled(checked && m_form.axisList->isEnabled());
+    m_form.profile.motionType->setEnabled(checked && m_form.axisList->isEnabled());
     m_form.position1->setEnabled(checked && type == MotionType::Absolute);
     m_form.position2->setEnabled(checked && type != MotionType::Jog);
 }
@@ -381,7 +376,7 @@ void COV_MnMtnWnd::handleUserMessage(UserMessage message, int wParam)
 
 MotionType COV_MnMtnWnd::motionType() const
 {
-    return static_cast<MotionType>(std::max(0, m_form.motionTypeCombo->currentIndex()));
+    return static_cast<MotionType>(std::max(0, m_form.profile.motionType->currentIndex()));
 }
 
 bool COV_MnMtnWnd::repeatTicked() const
@@ -443,7 +438,7 @@ void COV_MnMtnWnd::setSequenceLocked(bool locked)
     QComboBox* cards = m_form.cardRow->combo();
     cards->setEnabled(!locked && cards->count() > 1);
     for (QWidget* control :
-         std::initializer_list<QWidget*>{m_form.axisList, m_form.allAxes, m_form.motionTypeCombo,
+         std::initializer_list<QWidget*>{m_form.axisList, m_form.allAxes, m_form.profile.motionType,
                                          m_form.repeat, m_form.infinite})
         control->setEnabled(!locked);
     m_editingState = -1; // the list watch gives the editing controls their state again

@@ -36,7 +36,7 @@ COV_SnMtnPtpWnd::COV_SnMtnPtpWnd(AppState& state, BoardApi& board, PromptService
     layout->addStretch();
     connectControls();
 
-    m_motionTypeCombo->setCurrentIndex(static_cast<int>(m_motionType));
+    m_profile.motionType->setCurrentIndex(static_cast<int>(m_motionType));
     clearTimeAndCount();
     applyFieldStates();
 }
@@ -45,14 +45,7 @@ QWidget* COV_SnMtnPtpWnd::createProfileGroup()
 {
     auto* group = new QGroupBox;
     PageFieldGrid grid(group);
-    m_motionTypeCombo = new QComboBox;
-    m_motionTypeCombo->setObjectName(QStringLiteral("motionType"));
-    m_motionTypeCombo->addItems({tr("0 : Jog"), tr("1 : Relative"), tr("2 : Absolute")});
-    grid.addRow(tr(" Motion Type"), m_motionTypeCombo);
-    m_drive = grid.addField(tr(" Drive Speed"), tr(kPps), "driveSpeed");
-    m_initial = grid.addField(tr(" Initial Speed"), tr(kPps), "initialSpeed");
-    m_accel = grid.addField(tr(" Accel Time"), tr(kMsec), "accelTime", &m_accelLabel);
-    m_decel = grid.addField(tr(" Decel Time"), tr(kMsec), "decelTime");
+    m_profile.addTo(grid);
     return group;
 }
 
@@ -99,10 +92,10 @@ QWidget* COV_SnMtnPtpWnd::createDisplayGroup()
 
 void COV_SnMtnPtpWnd::connectControls()
 {
-    connect(m_motionTypeCombo, &QComboBox::activated, this,
+    connect(m_profile.motionType, &QComboBox::activated, this,
             [this](int index) { onMotionTypeActivated(index); });
     connect(m_repeat, &QCheckBox::clicked, this, [this](bool ticked) { onRepeatClicked(ticked); });
-    connect(m_drive, &QLineEdit::textChanged, this,
+    connect(m_profile.drive, &QLineEdit::textChanged, this,
             [this](const QString& text) { onDriveSpeedChanged(text); });
 }
 
@@ -125,8 +118,7 @@ void COV_SnMtnPtpWnd::applyFieldStates()
     m_position1->setEnabled(m_motionType == MotionType::Absolute);
     m_position2->setEnabled(!jog);
     m_position2Label->setText(relative ? tr(" Distance") : tr(" Position 2"));
-    m_decel->setEnabled(!jog);
-    m_accelLabel->setText(jog ? tr(" Acc/Dec Time") : tr(" Accel Time"));
+    m_profile.showJog(jog);
     m_repeat->setEnabled(!jog);
     m_repeat->setVisible(!jog);
     if (jog)
@@ -148,10 +140,7 @@ void COV_SnMtnPtpWnd::load()
     const PtpSpeeds speeds = m_motionType == MotionType::Jog
                                  ? PtpSpeeds::readJog(m_board, family(), m_card, m_axis)
                                  : PtpSpeeds::readPositioning(m_board, family(), m_card, m_axis);
-    setFieldNumber(m_drive, speeds.drive);
-    setFieldNumber(m_initial, speeds.initial);
-    setFieldNumber(m_accel, speeds.accelMs);
-    setFieldNumber(m_decel, speeds.decelMs);
+    m_profile.show(speeds);
     setFieldNumber(m_count, remembered(TestValue::Count));
     setFieldNumber(m_delay, remembered(TestValue::DelayTime));
     if (m_motionType == MotionType::Relative) {
@@ -164,12 +153,7 @@ void COV_SnMtnPtpWnd::load()
 
 PtpSpeeds COV_SnMtnPtpWnd::speedFields() const
 {
-    PtpSpeeds speeds;
-    speeds.drive = fieldNumber(m_drive);
-    speeds.initial = fieldNumber(m_initial);
-    speeds.accelMs = fieldNumber(m_accel);
-    speeds.decelMs = fieldNumber(m_decel);
-    return speeds;
+    return m_profile.speeds();
 }
 
 bool COV_SnMtnPtpWnd::parametersChanged(BoardFamily boardFamily) const
@@ -256,7 +240,7 @@ void COV_SnMtnPtpWnd::clearTimeAndCount()
 
 void COV_SnMtnPtpWnd::setSequenceLocked(bool locked)
 {
-    m_motionTypeCombo->setEnabled(!locked);
+    m_profile.motionType->setEnabled(!locked);
     m_repeat->setEnabled(!locked);
     m_infinite->setEnabled(!locked);
 }
@@ -299,6 +283,6 @@ void COV_SnMtnPtpWnd::onDriveSpeedChanged(const QString& text)
     }
     m_prompt.inform(PromptTexts::kInputIncorrect);
     m_restoringDrive = true;
-    m_drive->setText(m_lastValidDrive);
+    m_profile.drive->setText(m_lastValidDrive);
     m_restoringDrive = false;
 }

@@ -92,14 +92,7 @@ QWidget* MultiAxisForm::createProfileGroup()
 {
     auto* group = new QGroupBox;
     PageFieldGrid grid(group);
-    motionTypeCombo = new QComboBox;
-    motionTypeCombo->setObjectName(QStringLiteral("motionType"));
-    motionTypeCombo->addItems({tr("0 : Jog"), tr("1 : Relative"), tr("2 : Absolute")});
-    grid.addRow(tr(" Motion Type"), motionTypeCombo);
-    drive = grid.addField(tr(" Drive Speed"), tr(kPps), "driveSpeed");
-    initial = grid.addField(tr(" Initial Speed"), tr(kPps), "initialSpeed");
-    accel = grid.addField(tr(" Accel Time"), tr(kMsec), "accelTime", &accelLabel);
-    decel = grid.addField(tr(" Decel Time"), tr(kMsec), "decelTime");
+    profile.addTo(grid);
     setAll = makeCheckBox(tr(" Set All Selected Axes"), "setAll");
     setPrm = makeNamedButton(tr("Set Prm"), "setPrmButton");
     addSpanningRow(group, setAll, setPrm);

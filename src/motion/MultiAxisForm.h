@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ProfileFields.h"
+
 #include <QCoreApplication>
 
 class CardSelectorRow;
@@ -24,12 +26,7 @@ public:
     CardSelectorRow* cardRow = nullptr;
     QListWidget* axisList = nullptr;
     QCheckBox* allAxes = nullptr;
-    QComboBox* motionTypeCombo = nullptr;
-    QLineEdit* drive = nullptr;
-    QLineEdit* initial = nullptr;
-    QLineEdit* accel = nullptr;
-    QLineEdit* decel = nullptr;
-    QLabel* accelLabel = nullptr;
+    ProfileFields profile;
     QCheckBox* setAll = nullptr;
     QPushButton* setPrm = nullptr;
     QCheckBox* repeat = nullptr;
