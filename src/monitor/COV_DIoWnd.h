@@ -7,6 +7,7 @@
 
 #include <QTimer>
 
+class CardSelectorRow;
 class QCheckBox;
 class QComboBox;
 class QLineEdit;
@@ -36,7 +37,6 @@ protected:
     void askBeforeClose() override;
 
 private:
-    QWidget* createCardRow();
     QWidget* createSide(DigitalPointPage::Side side);
     QWidget* createButtonColumn();
     QWidget* createFilterGroup();
@@ -57,7 +57,7 @@ private:
     int m_card = 0;
     QString m_shownInputWord;
 
-    QComboBox* m_cardCombo = nullptr;
+    CardSelectorRow* m_cardRow = nullptr;
     QTabBar* m_inputTabs = nullptr;
     QTabBar* m_outputTabs = nullptr;
     COV_DiWnd* m_inputPage = nullptr;

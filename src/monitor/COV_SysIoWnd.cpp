@@ -2,16 +2,15 @@
 
 #include "AppState.h"
 #include "CLedButton.h"
+#include "CardSelectorRow.h"
 #include "LedFaces.h"
 #include "NamedButton.h"
-#include "NumberList.h"
 #include "OutputButton.h"
 #include "PollInterval.h"
 
 #include <QCheckBox>
-#include <QComboBox>
+#include <QCoreApplication>
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
 #include <QPushButton>
@@ -28,23 +27,39 @@ struct RowText
     const char* signal;
 };
 const std::array<RowText, SystemIoModel::kInputRows> kInputRows{{
-    {" Encoder Z", "encoder Z mark"},
-    {" Alarm", "servo alarm input"},
-    {" Inposition", "in-position input"},
-    {" +Limit", "plus limit switch"},
-    {" Origin", "origin switch"},
-    {" -Limit", "minus limit switch"},
+    {QT_TRANSLATE_NOOP("COV_SysIoWnd", " Encoder Z"),
+     QT_TRANSLATE_NOOP("COV_SysIoWnd", "encoder Z mark")},
+    {QT_TRANSLATE_NOOP("COV_SysIoWnd", " Alarm"),
+     QT_TRANSLATE_NOOP("COV_SysIoWnd", "servo alarm input")},
+    {QT_TRANSLATE_NOOP("COV_SysIoWnd", " Inposition"),
+     QT_TRANSLATE_NOOP("COV_SysIoWnd", "in-position input")},
+    {QT_TRANSLATE_NOOP("COV_SysIoWnd", " +Limit"),
+     QT_TRANSLATE_NOOP("COV_SysIoWnd", "plus limit switch")},
+    {QT_TRANSLATE_NOOP("COV_SysIoWnd", " Origin"),
+     QT_TRANSLATE_NOOP("COV_SysIoWnd", "origin switch")},
+    {QT_TRANSLATE_NOOP("COV_SysIoWnd", " -Limit"),
+     QT_TRANSLATE_NOOP("COV_SysIoWnd", "minus limit switch")},
 }};
 const std::array<RowText, SystemIoModel::kOutputRows> kOutputRows{{
-    {" Alm Rst", "alarm-reset output: red while on; click to switch it over"},
-    {" C. Clear", "counter-clear output: click to send one counter-clear pulse; red while the "
-                  "pulse lasts (RN boards cannot report it)"},
-    {" S-On", "servo-on output: red while on; click to switch it over"},
+    {QT_TRANSLATE_NOOP("COV_SysIoWnd", " Alm Rst"),
+     QT_TRANSLATE_NOOP("COV_SysIoWnd",
+                       "alarm-reset output: red while on; click to switch it over")},
+    {QT_TRANSLATE_NOOP("COV_SysIoWnd", " C. Clear"),
+     QT_TRANSLATE_NOOP("COV_SysIoWnd",
+                       "counter-clear output: click to send one counter-clear pulse; red while the "
+                       "pulse lasts (RN boards cannot report it)")},
+    {QT_TRANSLATE_NOOP("COV_SysIoWnd", " S-On"),
+     QT_TRANSLATE_NOOP("COV_SysIoWnd", "servo-on output: red while on; click to switch it over")},
 }};
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("COV_SysIoWnd", text);
+}
 
 QLabel* makeRowLabel(const char* text)
 {
-    auto* label = new QLabel(QLatin1String(text));
+    auto* label = new QLabel(translated(text));
     QPalette colours = label->palette();
     colours.setColor(QPalette::WindowText, kLabelBlue);
     colours.setColor(QPalette::Window, kLabelGrey);
@@ -96,7 +111,8 @@ COV_SysIoWnd::COV_SysIoWnd(const ToolContext& context, QWidget* parent)
 {
     setWindowIcon(QIcon(LedFaces::face(LedLamp::Green, LedGround::White)));
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(createCardRow());
+    m_cardRow = new CardSelectorRow;
+    layout->addWidget(m_cardRow);
     layout->addWidget(createInputGroup());
     layout->addWidget(createOutputGroup());
     layout->addWidget(createButtonRow());
@@ -110,23 +126,10 @@ COV_SysIoWnd::COV_SysIoWnd(const ToolContext& context, QWidget* parent)
     m_timer.start();
 }
 
-QWidget* COV_SysIoWnd::createCardRow()
-{
-    auto* row = new QWidget;
-    auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
-    m_cardCombo = new QComboBox;
-    m_cardCombo->setObjectName(QStringLiteral("cardCombo"));
-    layout->addWidget(new QLabel(QStringLiteral("Card No. : ")));
-    layout->addWidget(m_cardCombo);
-    layout->addStretch();
-    return row;
-}
-
 void COV_SysIoWnd::addAxisTitles(QGridLayout* grid)
 {
     for (int axis = 0; axis < kAxes; ++axis) {
-        auto* title = new QLabel(QStringLiteral("%1 Axis").arg(axis));
+        auto* title = new QLabel(tr("%1 Axis").arg(axis));
         title->setAlignment(Qt::AlignCenter);
         QPalette colours = title->palette();
         colours.setColor(QPalette::Window, Qt::white);
@@ -154,14 +157,14 @@ QWidget* COV_SysIoWnd::createInputGroup()
         }
     }
     const int emergencyRow = SystemIoModel::kInputRows + 1;
-    grid->addWidget(makeRowLabel(" EMG"), emergencyRow, 0);
+    grid->addWidget(makeRowLabel(QT_TRANSLATE_NOOP("COV_SysIoWnd", " EMG")), emergencyRow, 0);
     m_emergency = makeLamp();
     m_emergency->setObjectName(QStringLiteral("emergencyLamp"));
     m_emergency->setToolTip(
-        QStringLiteral("Emergency-stop input of the card: green while the EMG switch is active"));
+        tr("Emergency-stop input of the card: green while the EMG switch is active"));
     grid->addWidget(m_emergency, emergencyRow, 1, Qt::AlignCenter);
     auto* group = new QTabWidget;
-    group->addTab(page, QStringLiteral("Input"));
+    group->addTab(page, tr("Input"));
     return group;
 }
 
@@ -182,14 +185,13 @@ QWidget* COV_SysIoWnd::createOutputGroup()
         }
     }
     const int runLedRow = SystemIoModel::kOutputRows + 1;
-    grid->addWidget(makeRowLabel(" Run Led"), runLedRow, 0);
+    grid->addWidget(makeRowLabel(QT_TRANSLATE_NOOP("COV_SysIoWnd", " Run Led")), runLedRow, 0);
     m_runLed = makeOutput();
     m_runLed->setObjectName(QStringLiteral("runLedButton"));
-    m_runLed->setToolTip(
-        QStringLiteral("Run LED output of the card: red while on; click to switch it over"));
+    m_runLed->setToolTip(tr("Run LED output of the card: red while on; click to switch it over"));
     grid->addWidget(m_runLed, runLedRow, 1, Qt::AlignCenter);
     auto* group = new QTabWidget;
-    group->addTab(page, QStringLiteral("Output"));
+    group->addTab(page, tr("Output"));
     return group;
 }
 
@@ -198,18 +200,18 @@ QWidget* COV_SysIoWnd::createButtonRow()
     auto* row = new QWidget;
     auto* layout = new QGridLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
-    m_outputDisable = new QCheckBox(QStringLiteral(" Output Disable"));
+    m_outputDisable = new QCheckBox(tr(" Output Disable"));
     m_outputDisable->setObjectName(QStringLiteral("outputDisable"));
-    m_outputDisable->setToolTip(QStringLiteral("Lock every output against clicks"));
-    m_allAlarmResetOn = makeNamedButton(QStringLiteral("All Alm Rst On"), "allAlarmResetOn",
-                                        QStringLiteral("Alarm-reset output of every axis on"));
-    m_allAlarmResetOff = makeNamedButton(QStringLiteral("All Alm Rst Off"), "allAlarmResetOff",
-                                         QStringLiteral("Alarm-reset output of every axis off"));
-    m_allServoOn = makeNamedButton(QStringLiteral("All Servo On"), "allServoOn",
-                                   QStringLiteral("Servo-on output of every axis on"));
-    m_allServoOff = makeNamedButton(QStringLiteral("All Servo Off"), "allServoOff",
-                                    QStringLiteral("Servo-on output of every axis off"));
-    m_close = makeNamedButton(QStringLiteral("Close"), "closeButton");
+    m_outputDisable->setToolTip(tr("Lock every output against clicks"));
+    m_allAlarmResetOn = makeNamedButton(tr("All Alm Rst On"), "allAlarmResetOn",
+                                        tr("Alarm-reset output of every axis on"));
+    m_allAlarmResetOff = makeNamedButton(tr("All Alm Rst Off"), "allAlarmResetOff",
+                                         tr("Alarm-reset output of every axis off"));
+    m_allServoOn =
+        makeNamedButton(tr("All Servo On"), "allServoOn", tr("Servo-on output of every axis on"));
+    m_allServoOff = makeNamedButton(tr("All Servo Off"), "allServoOff",
+                                    tr("Servo-on output of every axis off"));
+    m_close = makeNamedButton(tr("Close"), "closeButton");
     layout->addWidget(m_outputDisable, 0, 0);
     layout->addWidget(m_allAlarmResetOn, 0, 1);
     layout->addWidget(m_allAlarmResetOff, 0, 2);
@@ -222,7 +224,7 @@ QWidget* COV_SysIoWnd::createButtonRow()
 
 void COV_SysIoWnd::connectControls()
 {
-    connect(m_cardCombo, &QComboBox::activated, this, [this](int index) {
+    connect(m_cardRow, &CardSelectorRow::cardActivated, this, [this](int index) {
         const AppState& state = m_context.state;
         m_model.setCard(state.active.family, index,
                         state.registry.axisCount(state.active.family, index));
@@ -258,11 +260,10 @@ OutputButton* COV_SysIoWnd::outputButton(int axis, int row) const
 void COV_SysIoWnd::fillCardCombo()
 {
     const AppState& state = m_context.state;
-    NumberList::fillActiveCards(*m_cardCombo, state);
+    m_cardRow->fillActiveCards(state);
     // The title names the card it was built for, until the next controller change.
-    setWindowTitle(QStringLiteral("System IO - %1(%2)")
-                       .arg(state.modelName(state.active.card))
-                       .arg(state.active.card));
+    setWindowTitle(
+        tr("System IO - %1(%2)").arg(state.modelName(state.active.card)).arg(state.active.card));
     m_model.setCard(state.active.family, state.active.card, state.activeAxisCount());
 }
 
@@ -275,19 +276,19 @@ void COV_SysIoWnd::setUpLamps()
             CLedButton* lamp = inputLamp(axis, row);
             setLampFaces(lamp, present);
             const char* signal = kInputRows[static_cast<std::size_t>(row)].signal;
-            lamp->setToolTip(present ? QStringLiteral("Axis %1 %2: green while on, grey while off")
+            lamp->setToolTip(present ? tr("Axis %1 %2: green while on, grey while off")
                                            .arg(axis)
-                                           .arg(QLatin1String(signal))
-                                     : QStringLiteral("Axis %1: not on this card").arg(axis));
+                                           .arg(translated(signal))
+                                     : tr("Axis %1: not on this card").arg(axis));
         }
         for (int row = 0; row < SystemIoModel::kOutputRows; ++row) {
             OutputButton* button = outputButton(axis, row);
             setOutputFaces(button, present);
             button->setToolTip(
-                present ? QStringLiteral("Axis %1 %2")
+                present ? tr("Axis %1 %2")
                               .arg(axis)
-                              .arg(QLatin1String(kOutputRows[static_cast<std::size_t>(row)].signal))
-                        : QStringLiteral("Axis %1: not on this card").arg(axis));
+                              .arg(translated(kOutputRows[static_cast<std::size_t>(row)].signal))
+                        : tr("Axis %1: not on this card").arg(axis));
         }
     }
     setOutputFaces(m_runLed, true);

@@ -8,10 +8,10 @@
 
 #include <array>
 
+class CardSelectorRow;
 class CLedButton;
 class OutputButton;
 class QCheckBox;
-class QComboBox;
 class QGridLayout;
 class QPushButton;
 
@@ -42,7 +42,6 @@ public:
     OutputButton* runLedButton() const { return m_runLed; }
 
 private:
-    QWidget* createCardRow();
     QWidget* createInputGroup();
     QWidget* createOutputGroup();
     QWidget* createButtonRow();
@@ -57,7 +56,7 @@ private:
     SystemIoModel m_model;
     QTimer m_timer;
 
-    QComboBox* m_cardCombo = nullptr;
+    CardSelectorRow* m_cardRow = nullptr;
     CLedButton* m_emergency = nullptr;
     std::array<std::array<CLedButton*, SystemIoModel::kInputRows>, kAxes> m_inputs{};
     std::array<std::array<OutputButton*, SystemIoModel::kOutputRows>, kAxes> m_outputs{};

@@ -2,59 +2,46 @@
 
 #include "AppState.h"
 #include "BoardApi.h"
+#include "CardSelectorRow.h"
 #include "FieldText.h"
 #include "FrameRelay.h"
-#include "GantryCheck.h"
 #include "IsNumericText.h"
-#include "JogReleaseGuard.h"
+#include "MotionButtonColumn.h"
 #include "MultiAxisForm.h"
-#include "NumberList.h"
 #include "PollInterval.h"
 #include "PromptService.h"
 #include "PromptTexts.h"
-#include "QtClockwork.h"
 
 #include <QCheckBox>
-#include <QCloseEvent>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMouseEvent>
 #include <QPushButton>
 #include <QSignalBlocker>
 
 namespace {
-const QString kNotChecked =
-    QStringLiteral("Selected axis in not checked !\n Please check selected axis !");
-const QString kTwoAxes = QStringLiteral("Please Select at least 2 axes !");
-const QString kGantryError = QStringLiteral("Gantry Limit Error !");
-
+constexpr const char* kNotChecked = QT_TRANSLATE_NOOP(
+    "COV_MnMtnWnd", "Selected axis in not checked !\n Please check selected axis !");
+constexpr const char* kTwoAxes =
+    QT_TRANSLATE_NOOP("COV_MnMtnWnd", "Please Select at least 2 axes !");
+constexpr const char* kGantryError = QT_TRANSLATE_NOOP("COV_MnMtnWnd", "Gantry Limit Error !");
 } // namespace
 
-COV_MnMtnWnd::COV_MnMtnWnd(const ToolContext& context, QWidget* parent)
-    : COV_MnMtnWnd(context, std::make_unique<QtClockwork>(), nullptr, parent)
-{}
-
-COV_MnMtnWnd::COV_MnMtnWnd(const ToolContext& context, SequencerClockwork& clockwork,
-                           QWidget* parent)
-    : COV_MnMtnWnd(context, nullptr, &clockwork, parent)
-{}
-
-COV_MnMtnWnd::COV_MnMtnWnd(const ToolContext& context, std::unique_ptr<QtClockwork> ownClockwork,
-                           SequencerClockwork* clockwork, QWidget* parent)
-    : ToolView(parent), m_form(this), m_context(context), m_ownClockwork(std::move(ownClockwork)),
-      m_sequencer(context.state.active, context.board, context.prompt,
-                  clockwork != nullptr ? *clockwork : *m_ownClockwork, *this,
+COV_MnMtnWnd::COV_MnMtnWnd(const ToolContext& context, QWidget* parent, SequencerClockwork* given)
+    : MotionToolView(context, parent, given), m_form(this),
+      m_sequencer(context.state.active, context.board, context.prompt, clockwork(), *this,
                   MovingOwner::MultiAxis),
-      m_gantry([this] { checkGantry(); })
+      m_actions(context.board, m_sequencer, *this),
+      m_gantry(m_sequencer, context.board, [this] { m_sequencer.abortWith(tr(kGantryError)); })
 {
     connectControls();
 
     m_form.setAll->setChecked(true);
     m_form.applyAll->setChecked(true);
     onMotionTypeChanged(0);
-    setFieldNumber(m_form.errorLimitEdit, m_errorLimit);
+    setFieldNumber(m_form.errorLimitEdit, m_gantry.limit());
     for (QLineEdit* edit : {m_form.count, m_form.delay, m_form.setCommand, m_form.setActual})
         setFieldNumber(edit, 0);
     clearCycleDisplay();
@@ -67,9 +54,7 @@ COV_MnMtnWnd::COV_MnMtnWnd(const ToolContext& context, std::unique_ptr<QtClockwo
 
 COV_MnMtnWnd::~COV_MnMtnWnd()
 {
-    // Deleting the children moves the focus; the guard must not outlive the sequencer.
-    delete m_jogGuard;
-    m_jogGuard = nullptr;
+    m_form.buttons->disconnectActions();
     m_gantry.setOn(false);
     m_listWatch.stop();
     m_sequencer.endHeldJog();
@@ -78,14 +63,10 @@ COV_MnMtnWnd::~COV_MnMtnWnd()
 
 void COV_MnMtnWnd::connectControls()
 {
-    for (QPushButton* button : {m_form.minus, m_form.plus, m_form.alarmReset})
-        button->installEventFilter(this);
-    m_jogGuard = new JogReleaseGuard(this, [this] { m_sequencer.endHeldJog(); });
-    m_jogGuard->watchButton(m_form.minus);
-    m_jogGuard->watchButton(m_form.plus);
+    m_form.buttons->connectTo(m_actions, *this, m_context.frame);
 
     connect(&m_listWatch, &QTimer::timeout, this, [this] { onListWatch(); });
-    connect(m_form.cardCombo, &QComboBox::activated, this, [this](int index) {
+    connect(m_form.cardRow, &CardSelectorRow::cardActivated, this, [this](int index) {
         promptIfChanged(family());
         m_card = static_cast<CardNo>(index);
         reload();
@@ -97,7 +78,7 @@ void COV_MnMtnWnd::connectControls()
         for (int row = 0; row < m_form.axisList->count(); ++row)
             m_form.axisList->item(row)->setCheckState(on ? Qt::Checked : Qt::Unchecked);
     });
-    connect(m_form.motionTypeCombo, &QComboBox::activated, this, [this](int index) {
+    connect(m_form.profile.motionType, &QComboBox::activated, this, [this](int index) {
         promptIfChanged(family());
         onMotionTypeChanged(index);
     });
@@ -105,20 +86,6 @@ void COV_MnMtnWnd::connectControls()
             [this] { onMotionTypeChanged(int(motionType())); });
     connect(m_form.setPrm, &QPushButton::clicked, this, [this] { setParameters(); });
     connect(m_form.apply, &QPushButton::clicked, this, [this] { applyPositions(); });
-    connect(m_form.eStop, &QPushButton::clicked, this, [this] {
-        if (focusedChecked(true))
-            m_sequencer.suddenStop();
-    });
-    connect(m_form.sStop, &QPushButton::clicked, this, [this] {
-        if (focusedChecked(true))
-            m_sequencer.decelStop();
-    });
-    connect(m_form.servo, &QPushButton::clicked, this, [this] { onServoClicked(); });
-    connect(m_form.counterClear, &QPushButton::clicked, this, [this] {
-        if (focusedChecked(true))
-            forEachChecked(
-                [this](AxisNo axis) { m_context.board.PutSvCClrCmd(family(), m_card, axis); });
-    });
     connect(m_form.commandButton, &QPushButton::clicked, this, [this] {
         forEachChecked([this](AxisNo axis) {
             m_context.board.SetCommandPos(family(), m_card, axis, fieldNumber(m_form.setCommand));
@@ -130,13 +97,11 @@ void COV_MnMtnWnd::connectControls()
         });
     });
     connect(m_form.gantryBox, &QCheckBox::toggled, this, [this](bool on) { m_gantry.setOn(on); });
+    connect(m_form.gantrySource, &QComboBox::currentIndexChanged, this, [this](int index) {
+        m_gantry.setSource(index == 1 ? GantryCheck::Source::Actual : GantryCheck::Source::Command);
+    });
     connect(m_form.errorLimitEdit, &QLineEdit::textEdited, this,
             [this](const QString& text) { onErrorLimitEdited(text); });
-    connect(m_form.parameterSetup, &QPushButton::clicked, this,
-            [this] { m_context.frame.sendToFrame(UM_OPEN_TOOL, ToolParameter); });
-    connect(m_form.scope, &QPushButton::clicked, this,
-            [this] { m_context.frame.sendToFrame(UM_OPEN_TOOL, ToolScope); });
-    connect(m_form.close, &QPushButton::clicked, this, [this] { requestClose(); });
 }
 
 BoardFamily COV_MnMtnWnd::family() const
@@ -146,21 +111,19 @@ BoardFamily COV_MnMtnWnd::family() const
 
 void COV_MnMtnWnd::fillCardCombo()
 {
-    NumberList::fillActiveCards(*m_form.cardCombo, m_context.state);
-    m_card = static_cast<CardNo>(m_context.state.active.card);
+    m_card = static_cast<CardNo>(m_form.cardRow->fillActiveCards(m_context.state));
 }
 
 void COV_MnMtnWnd::reload()
 {
     const AppState& state = m_context.state;
-    setWindowTitle(
-        QStringLiteral("Multi Axis Motion - %1(%2)").arg(state.modelName(m_card)).arg(m_card));
+    setWindowTitle(tr("Multi Axis Motion - %1(%2)").arg(state.modelName(m_card)).arg(m_card));
     m_axisCount = std::min(state.registry.axisCount(family(), m_card), MultiAxisSlots::kMaxAxes);
     {
         const QSignalBlocker quiet(m_form.axisList);
         m_form.axisList->clear();
         for (int axis = 0; axis < m_axisCount; ++axis) {
-            auto* row = new QListWidgetItem(QStringLiteral("%1 Axis").arg(axis), m_form.axisList);
+            auto* row = new QListWidgetItem(tr("%1 Axis").arg(axis), m_form.axisList);
             row->setFlags(row->flags() | Qt::ItemIsUserCheckable);
             row->setCheckState(Qt::Unchecked);
         }
@@ -193,10 +156,7 @@ void COV_MnMtnWnd::showFocusedFields()
         motionType() == MotionType::Jog
             ? PtpSpeeds::readJog(m_context.board, family(), m_card, axis)
             : PtpSpeeds::readPositioning(m_context.board, family(), m_card, axis);
-    setFieldNumber(m_form.drive, speeds.drive);
-    setFieldNumber(m_form.initial, speeds.initial);
-    setFieldNumber(m_form.accel, speeds.accelMs);
-    setFieldNumber(m_form.decel, speeds.decelMs);
+    m_form.profile.show(speeds);
     const AxisPositions& positions = m_slots.positions(axis);
     setFieldNumber(m_form.position1, positions.position1);
     setFieldNumber(m_form.position2, positions.position2);
@@ -204,8 +164,7 @@ void COV_MnMtnWnd::showFocusedFields()
 
 PtpSpeeds COV_MnMtnWnd::profileFields() const
 {
-    return PtpSpeeds{fieldNumber(m_form.initial), fieldNumber(m_form.drive),
-                     fieldNumber(m_form.accel), fieldNumber(m_form.decel)};
+    return m_form.profile.speeds();
 }
 
 void COV_MnMtnWnd::writeProfiles(const std::vector<AxisNo>& axes, MotionType type)
@@ -266,7 +225,7 @@ bool COV_MnMtnWnd::focusedChecked(bool tell)
     if (row != nullptr && row->checkState() == Qt::Checked)
         return true;
     if (tell)
-        m_context.prompt.inform(kNotChecked);
+        m_context.prompt.inform(tr(kNotChecked));
     return false;
 }
 
@@ -279,27 +238,15 @@ void COV_MnMtnWnd::forEachChecked(const std::function<void(AxisNo)>& act)
 
 void COV_MnMtnWnd::updateServoCaption()
 {
-    const bool on = m_context.board.GetSvOn(family(), m_card, static_cast<AxisNo>(m_focused)) != 0;
-    m_form.servo->setText(on ? QStringLiteral("Servo Off") : QStringLiteral("Servo On"));
-}
-
-void COV_MnMtnWnd::onServoClicked()
-{
-    if (!focusedChecked(true))
-        return;
-    const bool on = m_context.board.GetSvOn(family(), m_card, static_cast<AxisNo>(m_focused)) == 0;
-    forEachChecked(
-        [this, on](AxisNo axis) { m_context.board.PutSvOn(family(), m_card, axis, on ? 1 : 0); });
-    m_form.servo->setText(on ? QStringLiteral("Servo Off") : QStringLiteral("Servo On"));
+    m_form.buttons->showServo(m_context.board.GetSvOn(family(), m_card, servoAxis()) != 0);
 }
 
 void COV_MnMtnWnd::onFocusChanged(int row)
 {
     if (row < 0 || row == m_focused)
         return;
-    m_form.servo->setText(m_context.board.GetSvOn(family(), m_card, static_cast<AxisNo>(row)) != 0
-                              ? QStringLiteral("Servo Off")
-                              : QStringLiteral("Servo On"));
+    m_form.buttons->showServo(m_context.board.GetSvOn(family(), m_card, static_cast<AxisNo>(row)) !=
+                              0);
     promptIfChanged(family());
     if (focusedChecked(false))
         m_slots.setPositions(static_cast<AxisNo>(m_focused), fieldNumber(m_form.position1),
@@ -312,16 +259,14 @@ void COV_MnMtnWnd::onFocusChanged(int row)
 void COV_MnMtnWnd::onMotionTypeChanged(int index)
 {
     {
-        const QSignalBlocker quiet(m_form.motionTypeCombo);
-        m_form.motionTypeCombo->setCurrentIndex(index);
+        const QSignalBlocker quiet(m_form.profile.motionType);
+        m_form.profile.motionType->setCurrentIndex(index);
     }
     const auto type = static_cast<MotionType>(index);
     const bool jog = type == MotionType::Jog;
-    m_form.accelLabel->setText(jog ? QStringLiteral(" Acc/Dec Time")
-                                   : QStringLiteral(" Accel Time"));
-    m_form.position2Label->setText(type == MotionType::Relative ? QStringLiteral(" Distance")
-                                                                : QStringLiteral(" Position 2"));
-    m_form.decel->setEnabled(!jog);
+    m_form.position2Label->setText(type == MotionType::Relative ? tr(" Distance")
+                                                                : tr(" Position 2"));
+    m_form.profile.showJog(jog);
     if (jog)
         m_form.repeat->setChecked(false);
     m_form.repeat->setEnabled(!jog);
@@ -341,24 +286,9 @@ void COV_MnMtnWnd::onMotionTypeChanged(int index)
 
 void COV_MnMtnWnd::layoutMotionButtons()
 {
-    switch (motionType()) {
-    case MotionType::Jog:
-        m_form.minus->setText(QStringLiteral("-Jog"));
-        m_form.plus->setText(QStringLiteral("+Jog"));
-        break;
-    case MotionType::Relative:
-        m_form.minus->setText(QStringLiteral("Dec."));
-        m_form.plus->setText(QStringLiteral("Inc"));
-        break;
-    case MotionType::Absolute:
-        m_form.minus->setText(QStringLiteral("Pos. 1"));
-        m_form.plus->setText(QStringLiteral("Pos. 2"));
-        break;
-    }
-    const bool autoMove = motionType() == MotionType::Absolute && m_form.repeat->isChecked();
-    if (autoMove)
-        m_form.minus->setText(QStringLiteral("Auto Move"));
-    m_form.plus->setVisible(!autoMove);
+    const MotionType type = motionType();
+    m_form.buttons->showMotionCaptions(false, type,
+                                       type == MotionType::Absolute && m_form.repeat->isChecked());
 }
 
 void COV_MnMtnWnd::onListWatch()
@@ -382,50 +312,41 @@ void COV_MnMtnWnd::onListWatch()
     if (state == m_editingState)
         return;
     m_editingState = state;
-    for (QWidget* control :
-         std::initializer_list<QWidget*>{m_form.drive, m_form.initial, m_form.accel, m_form.setAll,
-                                         m_form.setPrm, m_form.applyAll, m_form.apply})
+    for (QWidget* control : std::initializer_list<QWidget*>{
+             m_form.profile.drive, m_form.profile.initial, m_form.profile.accel, m_form.setAll,
+             m_form.setPrm, m_form.applyAll, m_form.apply})
         control->setEnabled(checked);
     const MotionType type = motionType();
-    m_form.decel->setEnabled(checked && type != MotionType::Jog);
+    m_form.profile.decel->setEnabled(checked && type != MotionType::Jog);
     // While a repeat runs the list is locked, and so stays the motion type.
-    m_form.motionTypeCombo->setEnabled(checked && m_form.axisList->isEnabled());
+    m_form.profile.motionType->setEnabled(checked && m_form.axisList->isEnabled());
     m_form.position1->setEnabled(checked && type == MotionType::Absolute);
     m_form.position2->setEnabled(checked && type != MotionType::Jog);
 }
 
-void COV_MnMtnWnd::pressMotion(MotionDirection direction)
+bool COV_MnMtnWnd::mayStartMotion()
 {
     if (m_sequencer.isMoving())
-        return;
+        return false;
     onListWatch();
     // Without checked axes a step button does nothing at all.
     if (m_checked.empty() && motionType() != MotionType::Jog)
-        return;
+        return false;
     if (!focusedChecked(true))
-        return;
+        return false;
     if (m_checked.size() < 2) {
-        m_context.prompt.inform(kTwoAxes);
-        return;
+        m_context.prompt.inform(tr(kTwoAxes));
+        return false;
     }
-    m_sequencer.press(direction);
+    return true;
 }
 
-void COV_MnMtnWnd::checkGantry()
+MotionAxes COV_MnMtnWnd::buttonAxes(bool tell)
 {
-    // A stop already given waits for the poll; the axes are not stopped twice.
-    if (!m_form.gantryBox->isChecked() || !m_sequencer.isMoving() || m_sequencer.isIdle())
-        return;
-    const MotionAxes& target = m_sequencer.target();
-    const bool actual = m_form.gantrySource->currentIndex() == 1;
-    std::vector<std::int32_t> positions;
-    positions.reserve(target.axes.size());
-    for (AxisNo axis : target.axes)
-        positions.push_back(actual
-                                ? m_context.board.GetActualPos(target.family, target.card, axis)
-                                : m_context.board.GetCommandPos(target.family, target.card, axis));
-    if (GantryCheck::firstPairOverLimit(positions, m_errorLimit) >= 0)
-        m_sequencer.abortWith(kGantryError);
+    if (!focusedChecked(tell))
+        return MotionAxes{family(), m_card, {}};
+    onListWatch(); // a box ticked a moment ago counts
+    return selectedAxes();
 }
 
 void COV_MnMtnWnd::onErrorLimitEdited(const QString& text)
@@ -436,7 +357,7 @@ void COV_MnMtnWnd::onErrorLimitEdited(const QString& text)
         return;
     }
     m_lastValidLimit = text;
-    m_errorLimit = fieldNumber(text);
+    m_gantry.setLimit(fieldNumber(text));
 }
 
 void COV_MnMtnWnd::handleUserMessage(UserMessage message, int wParam)
@@ -453,38 +374,9 @@ void COV_MnMtnWnd::handleUserMessage(UserMessage message, int wParam)
     }
 }
 
-void COV_MnMtnWnd::hideEvent(QHideEvent* event)
-{
-    m_sequencer.endHeldJog();
-    ToolView::hideEvent(event);
-}
-
-bool COV_MnMtnWnd::eventFilter(QObject* watched, QEvent* event)
-{
-    const auto type = event->type();
-    if (type != QEvent::MouseButtonPress && type != QEvent::MouseButtonRelease)
-        return ToolView::eventFilter(watched, event);
-    if (static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton)
-        return false;
-    const bool down = type == QEvent::MouseButtonPress;
-    if (watched == m_form.alarmReset) {
-        // The alarm-reset outputs are held for as long as the button is.
-        if (focusedChecked(down))
-            forEachChecked([this, down](AxisNo axis) {
-                m_context.board.PutSvAlmRst(family(), m_card, axis, down ? 1 : 0);
-            });
-    } else if (down) {
-        pressMotion(watched == m_form.minus ? DirectionMinus : DirectionPlus);
-    } else {
-        m_sequencer.release();
-    }
-    // The buttons still get the event, so they look pressed.
-    return false;
-}
-
 MotionType COV_MnMtnWnd::motionType() const
 {
-    return static_cast<MotionType>(std::max(0, m_form.motionTypeCombo->currentIndex()));
+    return static_cast<MotionType>(std::max(0, m_form.profile.motionType->currentIndex()));
 }
 
 bool COV_MnMtnWnd::repeatTicked() const
@@ -543,17 +435,13 @@ void COV_MnMtnWnd::clearCycleDisplay()
 
 void COV_MnMtnWnd::setSequenceLocked(bool locked)
 {
-    m_form.cardCombo->setEnabled(!locked && m_form.cardCombo->count() > 1);
+    QComboBox* cards = m_form.cardRow->combo();
+    cards->setEnabled(!locked && cards->count() > 1);
     for (QWidget* control :
-         std::initializer_list<QWidget*>{m_form.axisList, m_form.allAxes, m_form.motionTypeCombo,
+         std::initializer_list<QWidget*>{m_form.axisList, m_form.allAxes, m_form.profile.motionType,
                                          m_form.repeat, m_form.infinite})
         control->setEnabled(!locked);
     m_editingState = -1; // the list watch gives the editing controls their state again
-}
-
-void COV_MnMtnWnd::beforeClose()
-{
-    m_sequencer.endHeldJog();
 }
 
 void COV_MnMtnWnd::askBeforeClose()

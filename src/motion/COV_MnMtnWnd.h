@@ -1,58 +1,49 @@
 #pragma once
 
-#include "GantryWatch.h"
+#include "GantryCheck.h"
+#include "MotionButtonActions.h"
+#include "MotionButtonTarget.h"
 #include "MotionPanel.h"
 #include "MotionSequencer.h"
+#include "MotionToolView.h"
 #include "MultiAxisForm.h"
 #include "MultiAxisSlots.h"
-#include "ToolContext.h"
-#include "ToolView.h"
 
 #include <QTimer>
 
-#include <memory>
-
-class JogReleaseGuard;
-class QtClockwork;
 class SequencerClockwork;
 
 // The multi-axis motion tool window: moves the checked axes of one card together by jog,
 // relative and absolute steps with repeat, with a gantry check that stops them all when two
 // neighbouring axes drift apart.
-class COV_MnMtnWnd : public ToolView, private MotionPanel
+class COV_MnMtnWnd : public MotionToolView, private MotionPanel, private MotionButtonTarget
 {
     Q_OBJECT
 
 public:
-    explicit COV_MnMtnWnd(const ToolContext& context, QWidget* parent = nullptr);
-    // Runs the sequences on the given timers and clock instead of its own.
-    COV_MnMtnWnd(const ToolContext& context, SequencerClockwork& clockwork,
-                 QWidget* parent = nullptr);
+    // Runs the sequences on `given` clockwork when there is one (a test's), on its own Qt timers
+    // otherwise.
+    explicit COV_MnMtnWnd(const ToolContext& context, QWidget* parent = nullptr,
+                          SequencerClockwork* given = nullptr);
     ~COV_MnMtnWnd() override;
 
     ToolKind kind() const override { return ToolMultiAxis; }
     QTimer* pollTimer() override { return &m_listWatch; }
     void handleUserMessage(UserMessage message, int wParam) override;
-    void endMotion() override { m_sequencer.endSequence(); }
 
     MotionSequencer& sequencer() { return m_sequencer; }
     // Timer 5: "All Axes", the checked axes and the editing controls follow the list.
     void onListWatch();
     // Timer 6: one period of the gantry check.
     void onGantryTick() { m_gantry.tick(); }
-    const GantryWatch& gantry() const { return m_gantry; }
+    const GantryCheck& gantry() const { return m_gantry; }
     const std::vector<AxisNo>& checkedAxes() const { return m_checked; }
 
 protected:
-    void beforeClose() override;
     void askBeforeClose() override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
-    void hideEvent(QHideEvent* event) override;
+    MotionSequencer& motion() override { return m_sequencer; }
 
 private:
-    COV_MnMtnWnd(const ToolContext& context, std::unique_ptr<QtClockwork> ownClockwork,
-                 SequencerClockwork* clockwork, QWidget* parent);
-
     void connectControls();
 
     BoardFamily family() const;
@@ -69,11 +60,8 @@ private:
     bool focusedChecked(bool tell);
     void updateServoCaption();
     void layoutMotionButtons();
-    void pressMotion(MotionDirection direction);
     void onFocusChanged(int row);
     void onMotionTypeChanged(int index);
-    void onServoClicked();
-    void checkGantry();
     void onErrorLimitEdited(const QString& text);
     void forEachChecked(const std::function<void(AxisNo)>& act);
 
@@ -92,10 +80,14 @@ private:
     void clearCycleDisplay() override;
     void setSequenceLocked(bool locked) override;
 
+    // MotionButtonTarget: the checked axes, and only while the focused one is among them.
+    MotionAxes buttonAxes(bool tell) override;
+    AxisNo servoAxis() const override { return static_cast<AxisNo>(m_focused); }
+    bool mayStartMotion() override;
+
     MultiAxisForm m_form;
-    ToolContext m_context;
-    std::unique_ptr<QtClockwork> m_ownClockwork;
     MotionSequencer m_sequencer;
+    MotionButtonActions m_actions;
     MultiAxisSlots m_slots;
 
     CardNo m_card = 0;
@@ -104,11 +96,8 @@ private:
     std::vector<AxisNo> m_checked;
     bool m_listChanged = true;
     int m_editingState = -1; // what the list watch last gave the editing controls
-    std::int32_t m_errorLimit = 100;
     QString m_lastValidLimit = QStringLiteral("100");
 
     QTimer m_listWatch;
-    GantryWatch m_gantry;
-
-    JogReleaseGuard* m_jogGuard = nullptr;
+    GantryCheck m_gantry;
 };

@@ -10,15 +10,16 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QVBoxLayout>
 
 namespace {
-const QString kPps = QStringLiteral("[pps]");
-const QString kMsec = QStringLiteral("[msec]");
-const QString kPulse = QStringLiteral("[pulse]");
+constexpr const char* kPps = QT_TRANSLATE_NOOP("COV_SnMtnPtpWnd", "[pps]");
+constexpr const char* kMsec = QT_TRANSLATE_NOOP("COV_SnMtnPtpWnd", "[msec]");
+constexpr const char* kPulse = QT_TRANSLATE_NOOP("COV_SnMtnPtpWnd", "[pulse]");
 } // namespace
 
 COV_SnMtnPtpWnd::COV_SnMtnPtpWnd(AppState& state, BoardApi& board, PromptService& prompt,
@@ -35,7 +36,7 @@ COV_SnMtnPtpWnd::COV_SnMtnPtpWnd(AppState& state, BoardApi& board, PromptService
     layout->addStretch();
     connectControls();
 
-    m_motionTypeCombo->setCurrentIndex(static_cast<int>(m_motionType));
+    m_profile.motionType->setCurrentIndex(static_cast<int>(m_motionType));
     clearTimeAndCount();
     applyFieldStates();
 }
@@ -44,15 +45,7 @@ QWidget* COV_SnMtnPtpWnd::createProfileGroup()
 {
     auto* group = new QGroupBox;
     PageFieldGrid grid(group);
-    m_motionTypeCombo = new QComboBox;
-    m_motionTypeCombo->setObjectName(QStringLiteral("motionType"));
-    m_motionTypeCombo->addItems({QStringLiteral("0 : Jog"), QStringLiteral("1 : Relative"),
-                                 QStringLiteral("2 : Absolute")});
-    grid.addRow(QStringLiteral(" Motion Type"), m_motionTypeCombo);
-    m_drive = grid.addField(QStringLiteral(" Drive Speed"), kPps, "driveSpeed");
-    m_initial = grid.addField(QStringLiteral(" Initial Speed"), kPps, "initialSpeed");
-    m_accel = grid.addField(QStringLiteral(" Accel Time"), kMsec, "accelTime", &m_accelLabel);
-    m_decel = grid.addField(QStringLiteral(" Decel Time"), kMsec, "decelTime");
+    m_profile.addTo(grid);
     return group;
 }
 
@@ -60,9 +53,9 @@ QWidget* COV_SnMtnPtpWnd::createRepeatGroup()
 {
     auto* group = new QGroupBox;
     PageFieldGrid grid(group);
-    m_repeat = new QCheckBox(QStringLiteral(" Repeat"));
+    m_repeat = new QCheckBox(tr(" Repeat"));
     m_repeat->setObjectName(QStringLiteral("repeat"));
-    m_infinite = new QCheckBox(QStringLiteral("Infinite"));
+    m_infinite = new QCheckBox(tr("Infinite"));
     m_infinite->setObjectName(QStringLiteral("infinite"));
     // Their row keeps its room while they are hidden, so the page does not change height
     // with the motion type.
@@ -72,8 +65,8 @@ QWidget* COV_SnMtnPtpWnd::createRepeatGroup()
         box->setSizePolicy(policy);
     }
     grid.addRow(m_repeat, m_infinite);
-    m_count = grid.addField(QStringLiteral(" Count"), QString(), "count");
-    m_delay = grid.addField(QStringLiteral(" Delay Time"), kMsec, "delayTime");
+    m_count = grid.addField(tr(" Count"), QString(), "count");
+    m_delay = grid.addField(tr(" Delay Time"), tr(kMsec), "delayTime");
     return group;
 }
 
@@ -81,9 +74,8 @@ QWidget* COV_SnMtnPtpWnd::createPositionGroup()
 {
     auto* group = new QGroupBox;
     PageFieldGrid grid(group);
-    m_position1 = grid.addField(QStringLiteral(" Position 1"), kPulse, "position1");
-    m_position2 =
-        grid.addField(QStringLiteral(" Position 2"), kPulse, "position2", &m_position2Label);
+    m_position1 = grid.addField(tr(" Position 1"), tr(kPulse), "position1");
+    m_position2 = grid.addField(tr(" Position 2"), tr(kPulse), "position2", &m_position2Label);
     return group;
 }
 
@@ -91,8 +83,8 @@ QWidget* COV_SnMtnPtpWnd::createDisplayGroup()
 {
     auto* group = new QGroupBox;
     PageFieldGrid grid(group);
-    m_repeatCount = grid.addField(QStringLiteral(" Repeat Count"), QString(), "repeatCount");
-    m_cycleTime = grid.addField(QStringLiteral(" Cycle Time"), kMsec, "cycleTime");
+    m_repeatCount = grid.addField(tr(" Repeat Count"), QString(), "repeatCount");
+    m_cycleTime = grid.addField(tr(" Cycle Time"), tr(kMsec), "cycleTime");
     m_repeatCount->setReadOnly(true);
     m_cycleTime->setReadOnly(true);
     return group;
@@ -100,10 +92,10 @@ QWidget* COV_SnMtnPtpWnd::createDisplayGroup()
 
 void COV_SnMtnPtpWnd::connectControls()
 {
-    connect(m_motionTypeCombo, &QComboBox::activated, this,
+    connect(m_profile.motionType, &QComboBox::activated, this,
             [this](int index) { onMotionTypeActivated(index); });
     connect(m_repeat, &QCheckBox::clicked, this, [this](bool ticked) { onRepeatClicked(ticked); });
-    connect(m_drive, &QLineEdit::textChanged, this,
+    connect(m_profile.drive, &QLineEdit::textChanged, this,
             [this](const QString& text) { onDriveSpeedChanged(text); });
 }
 
@@ -125,10 +117,8 @@ void COV_SnMtnPtpWnd::applyFieldStates()
     const bool relative = m_motionType == MotionType::Relative;
     m_position1->setEnabled(m_motionType == MotionType::Absolute);
     m_position2->setEnabled(!jog);
-    m_position2Label->setText(relative ? QStringLiteral(" Distance")
-                                       : QStringLiteral(" Position 2"));
-    m_decel->setEnabled(!jog);
-    m_accelLabel->setText(jog ? QStringLiteral(" Acc/Dec Time") : QStringLiteral(" Accel Time"));
+    m_position2Label->setText(relative ? tr(" Distance") : tr(" Position 2"));
+    m_profile.showJog(jog);
     m_repeat->setEnabled(!jog);
     m_repeat->setVisible(!jog);
     if (jog)
@@ -150,10 +140,7 @@ void COV_SnMtnPtpWnd::load()
     const PtpSpeeds speeds = m_motionType == MotionType::Jog
                                  ? PtpSpeeds::readJog(m_board, family(), m_card, m_axis)
                                  : PtpSpeeds::readPositioning(m_board, family(), m_card, m_axis);
-    setFieldNumber(m_drive, speeds.drive);
-    setFieldNumber(m_initial, speeds.initial);
-    setFieldNumber(m_accel, speeds.accelMs);
-    setFieldNumber(m_decel, speeds.decelMs);
+    m_profile.show(speeds);
     setFieldNumber(m_count, remembered(TestValue::Count));
     setFieldNumber(m_delay, remembered(TestValue::DelayTime));
     if (m_motionType == MotionType::Relative) {
@@ -166,12 +153,7 @@ void COV_SnMtnPtpWnd::load()
 
 PtpSpeeds COV_SnMtnPtpWnd::speedFields() const
 {
-    PtpSpeeds speeds;
-    speeds.drive = fieldNumber(m_drive);
-    speeds.initial = fieldNumber(m_initial);
-    speeds.accelMs = fieldNumber(m_accel);
-    speeds.decelMs = fieldNumber(m_decel);
-    return speeds;
+    return m_profile.speeds();
 }
 
 bool COV_SnMtnPtpWnd::parametersChanged(BoardFamily boardFamily) const
@@ -258,7 +240,7 @@ void COV_SnMtnPtpWnd::clearTimeAndCount()
 
 void COV_SnMtnPtpWnd::setSequenceLocked(bool locked)
 {
-    m_motionTypeCombo->setEnabled(!locked);
+    m_profile.motionType->setEnabled(!locked);
     m_repeat->setEnabled(!locked);
     m_infinite->setEnabled(!locked);
 }
@@ -301,6 +283,6 @@ void COV_SnMtnPtpWnd::onDriveSpeedChanged(const QString& text)
     }
     m_prompt.inform(PromptTexts::kInputIncorrect);
     m_restoringDrive = true;
-    m_drive->setText(m_lastValidDrive);
+    m_profile.drive->setText(m_lastValidDrive);
     m_restoringDrive = false;
 }

@@ -2,6 +2,7 @@
 
 #include "BoardFamily.h"
 #include "MotionTypes.h"
+#include "ProfileFields.h"
 #include "PtpSpeeds.h"
 
 #include <QWidget>
@@ -73,12 +74,7 @@ private:
     QString m_lastValidDrive;
     bool m_restoringDrive = false;
 
-    QComboBox* m_motionTypeCombo = nullptr;
-    QLineEdit* m_drive = nullptr;
-    QLineEdit* m_initial = nullptr;
-    QLineEdit* m_accel = nullptr;
-    QLabel* m_accelLabel = nullptr;
-    QLineEdit* m_decel = nullptr;
+    ProfileFields m_profile;
     QCheckBox* m_repeat = nullptr;
     QCheckBox* m_infinite = nullptr;
     QLineEdit* m_count = nullptr;

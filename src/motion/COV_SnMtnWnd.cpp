@@ -4,48 +4,38 @@
 #include "BoardApi.h"
 #include "COV_SnMtnHomeWnd.h"
 #include "COV_SnMtnPtpWnd.h"
+#include "CardSelectorRow.h"
 #include "FrameRelay.h"
-#include "JogReleaseGuard.h"
-#include "NamedButton.h"
+#include "MotionButtonColumn.h"
 #include "NumberList.h"
 #include "PromptService.h"
 #include "PromptTexts.h"
-#include "QtClockwork.h"
 
-#include <QCloseEvent>
 #include <QComboBox>
-#include <QGridLayout>
+#include <QEvent>
 #include <QHBoxLayout>
-#include <QLabel>
-#include <QMouseEvent>
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QVBoxLayout>
 
-#include <algorithm>
-
-COV_SnMtnWnd::COV_SnMtnWnd(const ToolContext& context, QWidget* parent)
-    : COV_SnMtnWnd(context, std::make_unique<QtClockwork>(), nullptr, parent)
-{}
-
-COV_SnMtnWnd::COV_SnMtnWnd(const ToolContext& context, SequencerClockwork& clockwork,
-                           QWidget* parent)
-    : COV_SnMtnWnd(context, nullptr, &clockwork, parent)
-{}
-
-COV_SnMtnWnd::COV_SnMtnWnd(const ToolContext& context, std::unique_ptr<QtClockwork> ownClockwork,
-                           SequencerClockwork* clockwork, QWidget* parent)
-    : ToolView(parent), m_context(context), m_ownClockwork(std::move(ownClockwork)),
-      m_sequencer(context.state.active, context.board, context.prompt,
-                  clockwork != nullptr ? *clockwork : *m_ownClockwork, *this)
+COV_SnMtnWnd::COV_SnMtnWnd(const ToolContext& context, QWidget* parent, SequencerClockwork* given)
+    : MotionToolView(context, parent, given),
+      m_sequencer(context.state.active, context.board, context.prompt, clockwork(), *this),
+      m_actions(context.board, m_sequencer, *this)
 {
     auto* layout = new QHBoxLayout(this);
     auto* left = new QVBoxLayout;
-    left->addWidget(createSelectorRow());
+    m_cardRow = new CardSelectorRow;
+    m_axisCombo = new QComboBox;
+    m_axisCombo->setObjectName(QStringLiteral("axisCombo"));
+    m_cardRow->addSelector(tr("Axis No. : "), m_axisCombo);
+    left->addWidget(m_cardRow);
     left->addWidget(createPageArea(), 1);
     layout->addLayout(left, 1);
-    layout->addWidget(createButtonColumn());
+    m_buttons = new MotionButtonColumn(true);
+    m_buttons->scope->setToolTip(tr("Record this axis' positions and speed"));
+    layout->addWidget(m_buttons);
     connectControls();
 
     fillCardCombo();
@@ -56,31 +46,10 @@ COV_SnMtnWnd::COV_SnMtnWnd(const ToolContext& context, std::unique_ptr<QtClockwo
 
 COV_SnMtnWnd::~COV_SnMtnWnd()
 {
-    // Deleting the children moves the focus; the guard must not hear that once the sequencer
-    // is gone, so it goes first.
-    delete m_jogGuard;
-    m_jogGuard = nullptr;
+    m_buttons->disconnectActions();
     m_sequencer.endHeldJog();
     m_context.state.active.axis = 0;
     m_context.state.active.setAxesMoving(MovingOwner::SingleAxis, false);
-}
-
-QWidget* COV_SnMtnWnd::createSelectorRow()
-{
-    auto* row = new QWidget;
-    auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
-    m_cardCombo = new QComboBox;
-    m_cardCombo->setObjectName(QStringLiteral("cardCombo"));
-    m_axisCombo = new QComboBox;
-    m_axisCombo->setObjectName(QStringLiteral("axisCombo"));
-    layout->addWidget(new QLabel(QStringLiteral("Card No. : ")));
-    layout->addWidget(m_cardCombo);
-    layout->addSpacing(16);
-    layout->addWidget(new QLabel(QStringLiteral("Axis No. : ")));
-    layout->addWidget(m_axisCombo);
-    layout->addStretch();
-    return row;
 }
 
 QWidget* COV_SnMtnWnd::createPageArea()
@@ -91,8 +60,8 @@ QWidget* COV_SnMtnWnd::createPageArea()
     layout->setSpacing(0);
     m_tabBar = new QTabBar;
     m_tabBar->setObjectName(QStringLiteral("tabBar"));
-    m_tabBar->addTab(QStringLiteral("Home"));
-    m_tabBar->addTab(QStringLiteral("Point To Point"));
+    m_tabBar->addTab(tr("Home"));
+    m_tabBar->addTab(tr("Point To Point"));
     m_pages = new QStackedWidget;
     m_pages->setFrameShape(QFrame::StyledPanel);
     m_homePage = new COV_SnMtnHomeWnd(m_context.state, m_context.board);
@@ -105,95 +74,15 @@ QWidget* COV_SnMtnWnd::createPageArea()
     return area;
 }
 
-QWidget* COV_SnMtnWnd::createMotionButtons()
-{
-    auto* row = new QWidget;
-    auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
-    m_minus = makeNamedButton(QStringLiteral("-"), "minusButton");
-    m_plus = makeNamedButton(QStringLiteral("+"), "plusButton");
-    m_minus->setMinimumHeight(48);
-    m_plus->setMinimumHeight(48);
-    // Equal stretch keeps "-" the size of "+"; alone, "-" takes the whole row.
-    layout->addWidget(m_minus, 1);
-    layout->addWidget(m_plus, 1);
-    return row;
-}
-
-QWidget* COV_SnMtnWnd::createButtonColumn()
-{
-    auto* column = new QWidget;
-    auto* layout = new QVBoxLayout(column);
-    layout->setContentsMargins(0, 0, 0, 0);
-    m_eStop = makeNamedButton(QStringLiteral("E-Stop"), "eStopButton");
-    m_sStop = makeNamedButton(QStringLiteral("S-Stop"), "sStopButton");
-    m_servo = makeNamedButton(QStringLiteral("Servo On"), "servoButton");
-    m_alarmReset = makeNamedButton(QStringLiteral("Alarm Reset"), "alarmResetButton");
-    m_counterClear = makeNamedButton(QStringLiteral("Counter Clear"), "counterClearButton");
-    m_setPrm = makeNamedButton(QStringLiteral("Set Prm"), "setPrmButton");
-    m_parameterSetup = makeNamedButton(QStringLiteral("Parameter Setup"), "parameterSetupButton");
-    m_scope = makeNamedButton(QStringLiteral("Scope"), "scopeButton");
-    m_scope->setToolTip(QStringLiteral("Record this axis' positions and speed"));
-    m_close = makeNamedButton(QStringLiteral("Close"), "closeButton");
-    m_eStop->setMinimumHeight(40);
-    m_sStop->setMinimumHeight(40);
-    for (QPushButton* button : {m_eStop, m_sStop, m_servo})
-        layout->addWidget(button);
-    layout->addSpacing(12);
-    layout->addWidget(createMotionButtons());
-    layout->addSpacing(12);
-    for (QPushButton* button : {m_alarmReset, m_counterClear, m_setPrm, m_parameterSetup, m_scope})
-        layout->addWidget(button);
-    layout->addStretch();
-    layout->addWidget(m_close);
-    keepColumnWidth(*column);
-    return column;
-}
-
-void COV_SnMtnWnd::keepColumnWidth(QWidget& column) const
-{
-    // One width whatever the motion buttons say, so the stop buttons never move and the window
-    // keeps its size when the tab or the motion type changes.
-    int width = 0;
-    for (QPushButton* button : {m_eStop, m_sStop, m_servo, m_alarmReset, m_counterClear, m_setPrm,
-                                m_parameterSetup, m_scope, m_close})
-        width = std::max(width, button->sizeHint().width());
-    int pair = 0;
-    for (const char* caption : {"-Jog", "+Jog", "Dec.", "Inc", "Pos. 1", "Pos. 2"}) {
-        m_minus->setText(QLatin1String(caption));
-        pair = std::max(pair, m_minus->sizeHint().width());
-    }
-    const int spacing = column.layout()->spacing();
-    column.setFixedWidth(std::max(width, 2 * pair + spacing));
-    for (QPushButton* button : {m_minus, m_plus})
-        button->setSizePolicy(QSizePolicy::Ignored, button->sizePolicy().verticalPolicy());
-}
-
 void COV_SnMtnWnd::connectControls()
 {
-    for (QPushButton* button : {m_minus, m_plus, m_alarmReset})
-        button->installEventFilter(this);
-    m_jogGuard = new JogReleaseGuard(this, [this] { m_sequencer.endHeldJog(); });
-    m_jogGuard->watchButton(m_minus);
-    m_jogGuard->watchButton(m_plus);
-
+    m_buttons->connectTo(m_actions, *this, m_context.frame);
     connect(m_tabBar, &QTabBar::currentChanged, this, [this](int index) { onTabChanged(index); });
-    connect(m_cardCombo, &QComboBox::activated, this,
+    connect(m_cardRow, &CardSelectorRow::cardActivated, this,
             [this](int index) { onCardActivated(index); });
     connect(m_axisCombo, &QComboBox::activated, this,
             [this](int index) { onAxisActivated(index); });
-    connect(m_eStop, &QPushButton::clicked, this, [this] { m_sequencer.suddenStop(); });
-    connect(m_sStop, &QPushButton::clicked, this, [this] { m_sequencer.decelStop(); });
-    connect(m_servo, &QPushButton::clicked, this, [this] { onServoClicked(); });
-    connect(m_counterClear, &QPushButton::clicked, this, [this] {
-        m_context.board.PutSvCClrCmd(m_context.state.active.family, m_card, m_axis);
-    });
-    connect(m_setPrm, &QPushButton::clicked, this, [this] { onSetPrmClicked(); });
-    connect(m_parameterSetup, &QPushButton::clicked, this,
-            [this] { m_context.frame.sendToFrame(UM_OPEN_TOOL, ToolParameter); });
-    connect(m_scope, &QPushButton::clicked, this,
-            [this] { m_context.frame.sendToFrame(UM_OPEN_TOOL, ToolScope); });
-    connect(m_close, &QPushButton::clicked, this, [this] { requestClose(); });
+    connect(m_buttons->setPrm, &QPushButton::clicked, this, [this] { onSetPrmClicked(); });
     connect(m_ptpPage, &COV_SnMtnPtpWnd::motionTypeChanged, this,
             [this] { layoutMotionButtons(); });
     connect(m_ptpPage, &COV_SnMtnPtpWnd::repeatChanged, this, [this] { layoutMotionButtons(); });
@@ -203,15 +92,13 @@ void COV_SnMtnWnd::connectControls()
 
 void COV_SnMtnWnd::fillCardCombo()
 {
-    NumberList::fillActiveCards(*m_cardCombo, m_context.state);
-    m_card = static_cast<CardNo>(m_context.state.active.card);
+    m_card = static_cast<CardNo>(m_cardRow->fillActiveCards(m_context.state));
 }
 
 void COV_SnMtnWnd::reload()
 {
     AppState& state = m_context.state;
-    setWindowTitle(
-        QStringLiteral("Single Axis Motion - %1(%2)").arg(state.modelName(m_card)).arg(m_card));
+    setWindowTitle(tr("Single Axis Motion - %1(%2)").arg(state.modelName(m_card)).arg(m_card));
     m_axis = static_cast<AxisNo>(NumberList::fillAxes(*m_axisCombo, state, m_card, m_axis));
     updateServoCaption();
     loadPages();
@@ -228,35 +115,15 @@ void COV_SnMtnWnd::loadPages()
 
 void COV_SnMtnWnd::updateServoCaption()
 {
-    m_servoOn = m_context.board.GetSvOn(m_context.state.active.family, m_card, m_axis) != 0;
-    m_servo->setText(m_servoOn ? QStringLiteral("Servo Off") : QStringLiteral("Servo On"));
+    m_buttons->showServo(m_context.board.GetSvOn(m_context.state.active.family, m_card, m_axis) !=
+                         0);
 }
 
 void COV_SnMtnWnd::layoutMotionButtons()
 {
-    const bool pointToPoint = m_currentTab == MotionTab::PointToPoint;
     const MotionType type = m_ptpPage->motionType();
-    const bool autoMove = type == MotionType::Absolute && m_ptpPage->repeatTicked();
-    if (pointToPoint && !autoMove) {
-        switch (type) {
-        case MotionType::Jog:
-            m_minus->setText(QStringLiteral("-Jog"));
-            m_plus->setText(QStringLiteral("+Jog"));
-            break;
-        case MotionType::Relative:
-            m_minus->setText(QStringLiteral("Dec."));
-            m_plus->setText(QStringLiteral("Inc"));
-            break;
-        case MotionType::Absolute:
-            m_minus->setText(QStringLiteral("Pos. 1"));
-            m_plus->setText(QStringLiteral("Pos. 2"));
-            break;
-        }
-        m_plus->show();
-        return;
-    }
-    m_plus->hide();
-    m_minus->setText(pointToPoint ? QStringLiteral("Auto Move") : QStringLiteral("Home"));
+    m_buttons->showMotionCaptions(m_currentTab != MotionTab::PointToPoint, type,
+                                  type == MotionType::Absolute && m_ptpPage->repeatTicked());
 }
 
 void COV_SnMtnWnd::promptForVisiblePage(BoardFamily family)
@@ -320,15 +187,6 @@ void COV_SnMtnWnd::onControllerChanged()
     reload();
 }
 
-void COV_SnMtnWnd::onServoClicked()
-{
-    const BoardFamily family = m_context.state.active.family;
-    const bool on = m_context.board.GetSvOn(family, m_card, m_axis) == 0;
-    m_context.board.PutSvOn(family, m_card, m_axis, on ? 1 : 0);
-    m_servoOn = on;
-    m_servo->setText(on ? QStringLiteral("Servo Off") : QStringLiteral("Servo On"));
-}
-
 void COV_SnMtnWnd::onSetPrmClicked()
 {
     const BoardFamily family = m_context.state.active.family;
@@ -358,38 +216,11 @@ void COV_SnMtnWnd::handleUserMessage(UserMessage message, int wParam)
     }
 }
 
-void COV_SnMtnWnd::hideEvent(QHideEvent* event)
-{
-    m_sequencer.endHeldJog();
-    ToolView::hideEvent(event);
-}
-
 void COV_SnMtnWnd::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::ActivationChange && !isActiveWindow())
         m_sequencer.endHeldJog();
-    ToolView::changeEvent(event);
-}
-
-bool COV_SnMtnWnd::eventFilter(QObject* watched, QEvent* event)
-{
-    const auto type = event->type();
-    if (type != QEvent::MouseButtonPress && type != QEvent::MouseButtonRelease)
-        return ToolView::eventFilter(watched, event);
-    if (static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton)
-        return false;
-    const bool down = type == QEvent::MouseButtonPress;
-    if (watched == m_alarmReset) {
-        // The alarm-reset output is held for as long as the button is.
-        m_context.board.PutSvAlmRst(m_context.state.active.family, m_card, m_axis, down ? 1 : 0);
-    } else if (watched == m_minus || watched == m_plus) {
-        if (down)
-            m_sequencer.press(watched == m_minus ? DirectionMinus : DirectionPlus);
-        else
-            m_sequencer.release();
-    }
-    // The buttons still get the event, so they look pressed.
-    return false;
+    MotionToolView::changeEvent(event);
 }
 
 MotionType COV_SnMtnWnd::motionType() const
@@ -434,15 +265,15 @@ void COV_SnMtnWnd::clearCycleDisplay()
 
 void COV_SnMtnWnd::setSequenceLocked(bool locked)
 {
-    m_cardCombo->setEnabled(!locked && m_cardCombo->count() > 1);
+    m_cardRow->combo()->setEnabled(!locked && m_cardRow->combo()->count() > 1);
     m_axisCombo->setEnabled(!locked);
     m_tabBar->setEnabled(!locked);
     m_ptpPage->setSequenceLocked(locked);
 }
 
-void COV_SnMtnWnd::beforeClose()
+MotionAxes COV_SnMtnWnd::buttonAxes(bool)
 {
-    m_sequencer.endHeldJog();
+    return MotionAxes{m_context.state.active.family, m_card, {m_axis}};
 }
 
 void COV_SnMtnWnd::askBeforeClose()

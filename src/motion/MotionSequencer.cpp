@@ -406,6 +406,16 @@ void MotionSequencer::stop(bool sudden)
     afterStop();
 }
 
+void MotionSequencer::stopRunning(bool sudden)
+{
+    if (!m_moving && !m_jogHeld)
+        return;
+    m_idle = true;
+    m_active.setAxesMoving(m_owner, false);
+    stopAxes(m_target, sudden);
+    afterStop();
+}
+
 void MotionSequencer::abortWith(const QString& message)
 {
     m_idle = true;

@@ -42,6 +42,8 @@ public:
     // selection has moved since it started.
     void decelStop() { stop(false); }
     void suddenStop() { stop(true); }
+    // A stop when the window names no axes: only the running motion's own, if one runs.
+    void stopRunning(bool sudden);
     // Stops every axis of the running motion at once and says why.
     void abortWith(const QString& message);
     // The frame's stop of everything: the board calls are the frame's, the sequence ends here.

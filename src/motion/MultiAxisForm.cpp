@@ -1,5 +1,7 @@
 #include "MultiAxisForm.h"
 
+#include "CardSelectorRow.h"
+#include "MotionButtonColumn.h"
 #include "NamedButton.h"
 #include "PageFieldGrid.h"
 
@@ -15,9 +17,9 @@
 #include <QVBoxLayout>
 
 namespace {
-const QString kPps = QStringLiteral("[pps]");
-const QString kMsec = QStringLiteral("[msec]");
-const QString kPulse = QStringLiteral("[pulse]");
+constexpr const char* kPps = QT_TRANSLATE_NOOP("MultiAxisForm", "[pps]");
+constexpr const char* kMsec = QT_TRANSLATE_NOOP("MultiAxisForm", "[msec]");
+constexpr const char* kPulse = QT_TRANSLATE_NOOP("MultiAxisForm", "[pulse]");
 
 QCheckBox* makeCheckBox(const QString& caption, const char* name)
 {
@@ -72,20 +74,16 @@ QWidget* MultiAxisForm::createAxisColumn()
     auto* column = new QWidget;
     auto* layout = new QVBoxLayout(column);
     layout->setContentsMargins(0, 0, 0, 0);
-    auto* cardRow = new QHBoxLayout;
-    cardCombo = new QComboBox;
-    cardCombo->setObjectName(QStringLiteral("cardCombo"));
-    cardRow->addWidget(new QLabel(QStringLiteral("Card No. : ")));
-    cardRow->addWidget(cardCombo, 1);
-    layout->addLayout(cardRow);
-    layout->addWidget(new QLabel(QStringLiteral("Select Axis")));
+    cardRow = new CardSelectorRow;
+    layout->addWidget(cardRow);
+    layout->addWidget(new QLabel(tr("Select Axis")));
     axisList = new QListWidget;
     axisList->setObjectName(QStringLiteral("axisList"));
-    axisList->setToolTip(QStringLiteral("Tick the axes that move together; the highlighted "
-                                        "axis is the one the fields show"));
+    axisList->setToolTip(tr("Tick the axes that move together; the highlighted "
+                            "axis is the one the fields show"));
     axisList->setMaximumHeight(8 * 19 + 6);
     layout->addWidget(axisList);
-    allAxes = makeCheckBox(QStringLiteral(" All Axes"), "allAxes");
+    allAxes = makeCheckBox(tr(" All Axes"), "allAxes");
     layout->addWidget(allAxes);
     return column;
 }
@@ -94,17 +92,9 @@ QWidget* MultiAxisForm::createProfileGroup()
 {
     auto* group = new QGroupBox;
     PageFieldGrid grid(group);
-    motionTypeCombo = new QComboBox;
-    motionTypeCombo->setObjectName(QStringLiteral("motionType"));
-    motionTypeCombo->addItems({QStringLiteral("0 : Jog"), QStringLiteral("1 : Relative"),
-                               QStringLiteral("2 : Absolute")});
-    grid.addRow(QStringLiteral(" Motion Type"), motionTypeCombo);
-    drive = grid.addField(QStringLiteral(" Drive Speed"), kPps, "driveSpeed");
-    initial = grid.addField(QStringLiteral(" Initial Speed"), kPps, "initialSpeed");
-    accel = grid.addField(QStringLiteral(" Accel Time"), kMsec, "accelTime", &accelLabel);
-    decel = grid.addField(QStringLiteral(" Decel Time"), kMsec, "decelTime");
-    setAll = makeCheckBox(QStringLiteral(" Set All Selected Axes"), "setAll");
-    setPrm = makeNamedButton(QStringLiteral("Set Prm"), "setPrmButton");
+    profile.addTo(grid);
+    setAll = makeCheckBox(tr(" Set All Selected Axes"), "setAll");
+    setPrm = makeNamedButton(tr("Set Prm"), "setPrmButton");
     addSpanningRow(group, setAll, setPrm);
     compact(group, false);
     return group;
@@ -114,15 +104,15 @@ QWidget* MultiAxisForm::createRepeatGroup()
 {
     auto* group = new QGroupBox;
     PageFieldGrid grid(group);
-    repeat = makeCheckBox(QStringLiteral(" Repeat"), "repeat");
-    infinite = makeCheckBox(QStringLiteral("Infinite"), "infinite");
+    repeat = makeCheckBox(tr(" Repeat"), "repeat");
+    infinite = makeCheckBox(tr("Infinite"), "infinite");
     grid.addRow(repeat, infinite);
-    count = grid.addField(QStringLiteral(" Count"), QString(), "count");
-    delay = grid.addField(QStringLiteral(" Delay Time"), kMsec, "delayTime");
-    position1 = grid.addField(QStringLiteral(" Position 1"), kPulse, "position1");
-    position2 = grid.addField(QStringLiteral(" Position 2"), kPulse, "position2", &position2Label);
-    applyAll = makeCheckBox(QStringLiteral(" Apply All Selected Axes"), "applyAll");
-    apply = makeNamedButton(QStringLiteral("Apply"), "applyButton");
+    count = grid.addField(tr(" Count"), QString(), "count");
+    delay = grid.addField(tr(" Delay Time"), tr(kMsec), "delayTime");
+    position1 = grid.addField(tr(" Position 1"), tr(kPulse), "position1");
+    position2 = grid.addField(tr(" Position 2"), tr(kPulse), "position2", &position2Label);
+    applyAll = makeCheckBox(tr(" Apply All Selected Axes"), "applyAll");
+    apply = makeNamedButton(tr("Apply"), "applyButton");
     addSpanningRow(group, applyAll, apply);
     compact(group, false);
     return group;
@@ -132,12 +122,12 @@ QWidget* MultiAxisForm::createCounterGroup()
 {
     auto* group = new QGroupBox;
     PageFieldGrid grid(group);
-    setCommand = grid.addField(QStringLiteral(" Set Command"), kPulse, "setCommand");
-    commandButton = grid.addButton(QStringLiteral("Command"), "commandButton");
-    setActual = grid.addField(QStringLiteral(" Set Actual"), kPulse, "setActual");
-    actualButton = grid.addButton(QStringLiteral("Actual"), "actualButton");
-    repeatCount = grid.addField(QStringLiteral(" Repeat Count"), QString(), "repeatCount");
-    cycleTime = grid.addField(QStringLiteral(" Cycle Time"), kMsec, "cycleTime");
+    setCommand = grid.addField(tr(" Set Command"), tr(kPulse), "setCommand");
+    commandButton = grid.addButton(tr("Command"), "commandButton");
+    setActual = grid.addField(tr(" Set Actual"), tr(kPulse), "setActual");
+    actualButton = grid.addButton(tr("Actual"), "actualButton");
+    repeatCount = grid.addField(tr(" Repeat Count"), QString(), "repeatCount");
+    cycleTime = grid.addField(tr(" Cycle Time"), tr(kMsec), "cycleTime");
     for (QLineEdit* display : {repeatCount, cycleTime})
         display->setReadOnly(true);
     compact(group, true);
@@ -148,53 +138,25 @@ QWidget* MultiAxisForm::createGantryGroup()
 {
     auto* group = new QGroupBox;
     PageFieldGrid grid(group);
-    gantryBox = makeCheckBox(QStringLiteral(" Gantry Error Check"), "gantryCheck");
-    gantryBox->setToolTip(QStringLiteral("Every millisecond while the axes move, compare "
-                                         "each checked axis with the next; stop them all "
-                                         "when two differ by more than the error limit"));
+    gantryBox = makeCheckBox(tr(" Gantry Error Check"), "gantryCheck");
+    gantryBox->setToolTip(tr("Every millisecond while the axes move, compare "
+                             "each checked axis with the next; stop them all "
+                             "when two differ by more than the error limit"));
     grid.addRow(gantryBox, new QWidget);
     gantrySource = new QComboBox;
     gantrySource->setObjectName(QStringLiteral("gantrySource"));
-    gantrySource->addItems({QStringLiteral("0 : Command"), QStringLiteral("1 : Actual")});
-    grid.addRow(QStringLiteral(" Position"), gantrySource);
-    errorLimitEdit = grid.addField(QStringLiteral(" Error Limit "), kPulse, "errorLimit");
+    gantrySource->addItems({tr("0 : Command"), tr("1 : Actual")});
+    grid.addRow(tr(" Position"), gantrySource);
+    errorLimitEdit = grid.addField(tr(" Error Limit "), tr(kPulse), "errorLimit");
     compact(group, false);
     return group;
 }
 
 QWidget* MultiAxisForm::createButtonColumn()
 {
-    auto* column = new QWidget;
-    auto* layout = new QVBoxLayout(column);
-    layout->setContentsMargins(0, 0, 0, 0);
-    eStop = makeNamedButton(QStringLiteral("E-Stop"), "eStopButton");
-    sStop = makeNamedButton(QStringLiteral("S-Stop"), "sStopButton");
-    eStop->setToolTip(QStringLiteral("Stop the checked axes at once"));
-    sStop->setToolTip(QStringLiteral("Stop the checked axes with their deceleration"));
-    servo = makeNamedButton(QStringLiteral("Servo On"), "servoButton");
-    minus = makeNamedButton(QStringLiteral("-Jog"), "minusButton");
-    plus = makeNamedButton(QStringLiteral("+Jog"), "plusButton");
-    alarmReset = makeNamedButton(QStringLiteral("Alarm Reset"), "alarmResetButton");
-    counterClear = makeNamedButton(QStringLiteral("Counter Clear"), "counterClearButton");
-    parameterSetup = makeNamedButton(QStringLiteral("Parameter Setup"), "parameterSetupButton");
-    scope = makeNamedButton(QStringLiteral("Scope"), "scopeButton");
-    scope->setToolTip(QStringLiteral("Record the axes' positions and speeds"));
-    close = makeNamedButton(QStringLiteral("Close"), "closeButton");
-    for (QPushButton* big : {eStop, sStop})
-        big->setMinimumHeight(40);
-    for (QPushButton* big : {minus, plus})
-        big->setMinimumHeight(48);
-    for (QPushButton* button : {eStop, sStop, servo})
-        layout->addWidget(button);
-    layout->addSpacing(12);
-    auto* motionRow = new QHBoxLayout;
-    motionRow->addWidget(minus, 1);
-    motionRow->addWidget(plus, 1);
-    layout->addLayout(motionRow);
-    layout->addSpacing(12);
-    for (QPushButton* button : {alarmReset, counterClear, parameterSetup, scope})
-        layout->addWidget(button);
-    layout->addStretch();
-    layout->addWidget(close);
-    return column;
+    buttons = new MotionButtonColumn(false);
+    buttons->eStop->setToolTip(tr("Stop the checked axes at once"));
+    buttons->sStop->setToolTip(tr("Stop the checked axes with their deceleration"));
+    buttons->scope->setToolTip(tr("Record the axes' positions and speeds"));
+    return buttons;
 }

@@ -1,5 +1,11 @@
 #pragma once
 
+#include "ProfileFields.h"
+
+#include <QCoreApplication>
+
+class CardSelectorRow;
+class MotionButtonColumn;
 class QCheckBox;
 class QComboBox;
 class QLabel;
@@ -12,18 +18,15 @@ class QWidget;
 // profile and positions, the counters and gantry check, and the buttons.
 class MultiAxisForm
 {
+    Q_DECLARE_TR_FUNCTIONS(MultiAxisForm)
+
 public:
     explicit MultiAxisForm(QWidget* window);
 
-    QComboBox* cardCombo = nullptr;
+    CardSelectorRow* cardRow = nullptr;
     QListWidget* axisList = nullptr;
     QCheckBox* allAxes = nullptr;
-    QComboBox* motionTypeCombo = nullptr;
-    QLineEdit* drive = nullptr;
-    QLineEdit* initial = nullptr;
-    QLineEdit* accel = nullptr;
-    QLineEdit* decel = nullptr;
-    QLabel* accelLabel = nullptr;
+    ProfileFields profile;
     QCheckBox* setAll = nullptr;
     QPushButton* setPrm = nullptr;
     QCheckBox* repeat = nullptr;
@@ -42,17 +45,8 @@ public:
     QCheckBox* gantryBox = nullptr;
     QComboBox* gantrySource = nullptr;
     QLineEdit* errorLimitEdit = nullptr;
-    QPushButton* eStop = nullptr;
-    QPushButton* sStop = nullptr;
-    QPushButton* servo = nullptr;
-    QPushButton* minus = nullptr;
-    QPushButton* plus = nullptr;
-    QPushButton* alarmReset = nullptr;
-    QPushButton* counterClear = nullptr;
-    QPushButton* parameterSetup = nullptr;
-    QPushButton* scope = nullptr;
-    QPushButton* close = nullptr;
     QPushButton* commandButton = nullptr;
+    MotionButtonColumn* buttons = nullptr;
     QPushButton* actualButton = nullptr;
 
 private:

@@ -4,6 +4,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QFrame>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -17,11 +18,11 @@ struct FilterRow
     const char* parameter;
 };
 constexpr FilterRow kRows[] = {
-    {"+Limit, -Limit, Origin", "FilterSensor"},
-    {"Inposition, Alarm", "FilterServo"},
-    {"Encoder Z", "FilterEncoderZ"},
-    {"MPG", "FilterExternal"},
-    {"Stop", "FilterStop"},
+    {QT_TRANSLATE_NOOP("COV_FilterSetWnd", "+Limit, -Limit, Origin"), "FilterSensor"},
+    {QT_TRANSLATE_NOOP("COV_FilterSetWnd", "Inposition, Alarm"), "FilterServo"},
+    {QT_TRANSLATE_NOOP("COV_FilterSetWnd", "Encoder Z"), "FilterEncoderZ"},
+    {QT_TRANSLATE_NOOP("COV_FilterSetWnd", "MPG"), "FilterExternal"},
+    {QT_TRANSLATE_NOOP("COV_FilterSetWnd", "Stop"), "FilterStop"},
 };
 constexpr int kStopRow = 4;
 
@@ -39,18 +40,18 @@ QFrame* rowFrame(const QString& label, QWidget* control)
 } // namespace
 
 COV_FilterSetWnd::COV_FilterSetWnd(BoardApi& board, QWidget* parent)
-    : ParameterSetupPage(board, parent)
+    : ParameterSetupPage(board, ParameterPage::Filter, parent)
 {
     auto* layout = new QVBoxLayout(this);
     m_time = listFor("FilterTime");
-    layout->addWidget(rowFrame(QStringLiteral("Filter Time [msec]"), m_time));
+    layout->addWidget(rowFrame(tr("Filter Time [msec]"), m_time));
     for (const FilterRow& row : kRows) {
-        auto* box = new QCheckBox(QStringLiteral(" Enable"));
+        auto* box = new QCheckBox(tr(" Enable"));
         box->setObjectName(QLatin1String(row.parameter));
         m_boxes.append(box);
         // The three sensors share one row, as they share one board setting.
-        QFrame* frame = rowFrame(
-            QString::fromLatin1(row.label).replace(QLatin1String(", "), QLatin1String("\n")), box);
+        QFrame* frame =
+            rowFrame(tr(row.label).replace(QLatin1String(", "), QLatin1String("\n")), box);
         layout->addWidget(frame);
         if (&row == &kRows[kStopRow])
             m_stopRow = frame;
@@ -61,21 +62,20 @@ COV_FilterSetWnd::COV_FilterSetWnd(BoardApi& board, QWidget* parent)
 
 QString COV_FilterSetWnd::sensorCaption(AxisNo axis)
 {
-    return axis == 0 ? QStringLiteral("Enable\n(with EMG)") : QStringLiteral("Enable");
+    return axis == 0 ? tr("Enable\n(with EMG)") : tr("Enable");
 }
 
 QString COV_FilterSetWnd::externalCaption(BoardFamily family, AxisNo axis)
 {
     if (family != BoardFamily::RN)
-        return QStringLiteral("Enable");
-    return axis == 0 ? QStringLiteral("Enable\n(with SYNC)") : QStringLiteral("Enable\n");
+        return tr("Enable");
+    return axis == 0 ? tr("Enable\n(with SYNC)") : tr("Enable\n");
 }
 
 void COV_FilterSetWnd::Load(BoardFamily family)
 {
     m_stopRow->setVisible(family == BoardFamily::RN);
-    const PageParameters board =
-        PageParameters::read(m_board, ParameterPage::Filter, family, m_card, m_axis);
+    const PageParameters board = boardValues(family);
     select(m_time, board.value("FilterTime"));
     for (int i = 0; i < m_boxes.size(); ++i)
         m_boxes.at(i)->setChecked(board.value(kRows[i].parameter) != 0);
@@ -83,23 +83,11 @@ void COV_FilterSetWnd::Load(BoardFamily family)
     m_boxes.at(3)->setText(externalCaption(family, m_axis));
 }
 
-PageParameters COV_FilterSetWnd::shown(BoardFamily family) const
+PageParameters COV_FilterSetWnd::shown(BoardFamily family)
 {
     PageParameters values(ParameterPage::Filter, family);
     values.set("FilterTime", m_time->currentIndex());
     for (int i = 0; i < m_boxes.size(); ++i)
         values.set(kRows[i].parameter, m_boxes.at(i)->isChecked() ? 1 : 0);
     return values;
-}
-
-bool COV_FilterSetWnd::IsChanged(BoardFamily family)
-{
-    const PageParameters board =
-        PageParameters::read(m_board, ParameterPage::Filter, family, m_card, m_axis);
-    return shown(family).firstDifference(board) != nullptr;
-}
-
-void COV_FilterSetWnd::Apply(BoardFamily family)
-{
-    shown(family).write(m_board, m_card, m_axis);
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "PageParameters.h"
 #include "ParameterSetupPage.h"
 
 class QCheckBox;
@@ -16,17 +15,16 @@ public:
     explicit COV_FilterSetWnd(BoardApi& board, QWidget* parent = nullptr);
 
     void Load(BoardFamily family) override;
-    bool IsChanged(BoardFamily family) override;
-    void Apply(BoardFamily family) override;
 
     // On axis 0 the sensor filter also covers the card's EMG input and, on RN, the external
     // filter the SYNC input.
     static QString sensorCaption(AxisNo axis);
     static QString externalCaption(BoardFamily family, AxisNo axis);
 
-private:
-    PageParameters shown(BoardFamily family) const;
+protected:
+    PageParameters shown(BoardFamily family) override;
 
+private:
     QComboBox* m_time = nullptr;
     QList<QCheckBox*> m_boxes; // sensor, servo, encoder Z, external, stop
     QFrame* m_stopRow = nullptr;

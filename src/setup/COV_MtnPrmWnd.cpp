@@ -7,6 +7,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QEvent>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -24,17 +25,19 @@ struct ListGroup
     const char* caption;
 };
 constexpr ListGroup kListGroups[] = {
-    {" Speed Mode ", "SpeedMode", nullptr},
-    {" Command ", "PulseMode", nullptr},
-    {" Feedback", "EncoderDirection", "Direction"},
-    {" Feedback", "EncoderMode", "EA/EB"},
-    {" Origin Direction ", "OriginDirection", nullptr},
-    {" COMP Counter ", "CompareCounter", nullptr},
+    {QT_TRANSLATE_NOOP("COV_MtnPrmWnd", " Speed Mode "), "SpeedMode", nullptr},
+    {QT_TRANSLATE_NOOP("COV_MtnPrmWnd", " Command "), "PulseMode", nullptr},
+    {QT_TRANSLATE_NOOP("COV_MtnPrmWnd", " Feedback"), "EncoderDirection",
+     QT_TRANSLATE_NOOP("COV_MtnPrmWnd", "Direction")},
+    {QT_TRANSLATE_NOOP("COV_MtnPrmWnd", " Feedback"), "EncoderMode",
+     QT_TRANSLATE_NOOP("COV_MtnPrmWnd", "EA/EB")},
+    {QT_TRANSLATE_NOOP("COV_MtnPrmWnd", " Origin Direction "), "OriginDirection", nullptr},
+    {QT_TRANSLATE_NOOP("COV_MtnPrmWnd", " COMP Counter "), "CompareCounter", nullptr},
 };
 } // namespace
 
 COV_MtnPrmWnd::COV_MtnPrmWnd(BoardApi& board, PromptService& prompt, QWidget* parent)
-    : ParameterSetupPage(board, parent), m_prompt(prompt)
+    : ParameterSetupPage(board, ParameterPage::MotionParameter, parent), m_prompt(prompt)
 {
     auto* grid = new QGridLayout(this);
     grid->addWidget(createRangeGroup(), 0, 0, 1, 2);
@@ -48,17 +51,17 @@ COV_MtnPrmWnd::COV_MtnPrmWnd(BoardApi& board, PromptService& prompt, QWidget* pa
         if (entry.caption != nullptr) {
             // Both feedback lists share one group, each with its caption.
             if (feedback == nullptr) {
-                feedback = group(QLatin1String(entry.title));
+                feedback = group(tr(entry.title));
                 feedbackGrid = new QGridLayout(feedback);
                 grid->addWidget(feedback, cell / 2, cell % 2);
                 ++cell;
             }
             const int row = feedbackGrid->rowCount();
-            feedbackGrid->addWidget(new QLabel(QLatin1String(entry.caption)), row, 0);
+            feedbackGrid->addWidget(new QLabel(tr(entry.caption)), row, 0);
             feedbackGrid->addWidget(list, row, 1);
             continue;
         }
-        QGroupBox* box = group(QLatin1String(entry.title));
+        QGroupBox* box = group(tr(entry.title));
         auto* layout = new QVBoxLayout(box);
         layout->addWidget(list);
         layout->addStretch();
@@ -66,14 +69,13 @@ COV_MtnPrmWnd::COV_MtnPrmWnd(BoardApi& board, PromptService& prompt, QWidget* pa
         ++cell;
     }
     cell += cell % 2;
-    grid->addWidget(createLimitGroup(QStringLiteral(" Soft-Limit "), {"softLimit", "Plus", "Minus"},
+    grid->addWidget(createLimitGroup(tr(" Soft-Limit "), {"softLimit", "Plus", "Minus"},
                                      m_softLimitUse, m_softLimitPlus, m_softLimitMinus,
-                                     QStringLiteral("+Soft-Limit"), QStringLiteral("-Soft-Limit")),
+                                     tr("+Soft-Limit"), tr("-Soft-Limit")),
                     cell / 2, 0);
-    grid->addWidget(createLimitGroup(QStringLiteral(" Count Ring "),
-                                     {"counterRing", "Command", "Actual"}, m_ringUse, m_ringCommand,
-                                     m_ringActual, QStringLiteral("Command"),
-                                     QStringLiteral("Actual")),
+    grid->addWidget(createLimitGroup(tr(" Count Ring "), {"counterRing", "Command", "Actual"},
+                                     m_ringUse, m_ringCommand, m_ringActual, tr("Command"),
+                                     tr("Actual")),
                     cell / 2, 1);
     grid->setRowStretch(cell / 2 + 1, 1);
 
@@ -84,7 +86,7 @@ COV_MtnPrmWnd::COV_MtnPrmWnd(BoardApi& board, PromptService& prompt, QWidget* pa
 
 QWidget* COV_MtnPrmWnd::createRangeGroup()
 {
-    QGroupBox* box = group(QStringLiteral(" Range Magnification"));
+    QGroupBox* box = group(tr(" Range Magnification"));
     auto* layout = new QHBoxLayout(box);
     m_magnification = new QComboBox;
     m_magnification->setObjectName(QStringLiteral("RangeMagnification"));
@@ -95,9 +97,9 @@ QWidget* COV_MtnPrmWnd::createRangeGroup()
     m_magnification->setCurrentIndex(99);
     m_magnification->lineEdit()->installEventFilter(this);
     m_magnification->setToolTip(
-        QStringLiteral("Speed magnification R (1 to 500): speeds run from R to R x 8000 pps"));
+        tr("Speed magnification R (1 to 500): speeds run from R to R x 8000 pps"));
     m_rangeMode = listFor("RangeMode");
-    m_range = new QLabel(QStringLiteral("(100 ~ 800000)"));
+    m_range = new QLabel(tr("(100 ~ 800000)"));
     m_range->setObjectName(QStringLiteral("rangeText"));
     layout->addWidget(m_magnification);
     layout->addWidget(m_rangeMode);
@@ -112,7 +114,7 @@ QWidget* COV_MtnPrmWnd::createLimitGroup(const QString& title, const Names& name
 {
     QGroupBox* box = group(title);
     auto* layout = new QGridLayout(box);
-    use = new QCheckBox(QStringLiteral(" Use"));
+    use = new QCheckBox(tr(" Use"));
     use->setObjectName(QLatin1String(names[0]) + QStringLiteral("Use"));
     layout->addWidget(use, 0, 0, 1, 3);
     auto addRow = [&](int row, QLineEdit*& edit, const QString& caption, const char* name) {
@@ -120,7 +122,7 @@ QWidget* COV_MtnPrmWnd::createLimitGroup(const QString& title, const Names& name
         edit->setObjectName(QLatin1String(names[0]) + QLatin1String(name));
         layout->addWidget(new QLabel(caption), row, 0);
         layout->addWidget(edit, row, 1);
-        layout->addWidget(new QLabel(QStringLiteral("[pulse]")), row, 2);
+        layout->addWidget(new QLabel(tr("[pulse]")), row, 2);
     };
     addRow(1, first, firstCaption, names[1]);
     addRow(2, second, secondCaption, names[2]);
@@ -130,8 +132,7 @@ QWidget* COV_MtnPrmWnd::createLimitGroup(const QString& title, const Names& name
 void COV_MtnPrmWnd::Load(BoardFamily family)
 {
     m_family = family;
-    const PageParameters board =
-        PageParameters::read(m_board, ParameterPage::MotionParameter, family, m_card, m_axis);
+    const PageParameters board = boardValues(family);
     m_magnification->setCurrentIndex(RangeMagnification::itemOf(board.value("RangeMagnification")));
     showRange();
     select(m_rangeMode, board.value("RangeMode"));
@@ -176,9 +177,11 @@ void COV_MtnPrmWnd::showRange()
     m_range->setText(RangeMagnification::rangeText(m_magnification->currentText()));
 }
 
-PageParameters COV_MtnPrmWnd::shown() const
+PageParameters COV_MtnPrmWnd::shown(BoardFamily family)
 {
-    PageParameters values(ParameterPage::MotionParameter, m_family);
+    // A refused magnification falls back to the board of the family asked for last.
+    m_family = family;
+    PageParameters values(ParameterPage::MotionParameter, family);
     values.set("RangeMagnification", m_magnification->currentIndex() + 1);
     values.set("RangeMode", m_rangeMode->currentIndex());
     for (int i = 0; i < m_lists.size(); ++i)
@@ -190,20 +193,6 @@ PageParameters COV_MtnPrmWnd::shown() const
     values.set("CounterRingActual", fieldNumber(m_ringActual));
     values.set("CounterRingUse", m_ringUse->isChecked() ? 1 : 0);
     return values;
-}
-
-bool COV_MtnPrmWnd::IsChanged(BoardFamily family)
-{
-    m_family = family;
-    const PageParameters board =
-        PageParameters::read(m_board, ParameterPage::MotionParameter, family, m_card, m_axis);
-    return shown().firstDifference(board) != nullptr;
-}
-
-void COV_MtnPrmWnd::Apply(BoardFamily family)
-{
-    m_family = family;
-    shown().write(m_board, m_card, m_axis);
 }
 
 void COV_MtnPrmWnd::takeTypedMagnification(bool onEnter)

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "PageParameters.h"
 #include "ParameterSetupPage.h"
 
 #include <array>
@@ -20,10 +19,9 @@ public:
     COV_MtnPrmWnd(BoardApi& board, PromptService& prompt, QWidget* parent = nullptr);
 
     void Load(BoardFamily family) override;
-    bool IsChanged(BoardFamily family) override;
-    void Apply(BoardFamily family) override;
 
 protected:
+    PageParameters shown(BoardFamily family) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -33,7 +31,6 @@ private:
     QWidget* createLimitGroup(const QString& title, const Names& names, QCheckBox*& use,
                               QLineEdit*& first, QLineEdit*& second, const QString& firstCaption,
                               const QString& secondCaption);
-    PageParameters shown() const;
     void showRange();
     // The typed magnification, checked on leaving the list (focus) or on Enter.
     void takeTypedMagnification(bool onEnter);

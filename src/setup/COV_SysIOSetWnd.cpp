@@ -22,7 +22,7 @@ bool searchesLimit(int homeMode)
 } // namespace
 
 COV_SysIOSetWnd::COV_SysIOSetWnd(BoardApi& board, QWidget* parent)
-    : ParameterSetupPage(board, parent)
+    : ParameterSetupPage(board, ParameterPage::SystemIo, parent)
 {
     for (const char* name : kListNames)
         m_lists.append(listFor(name));
@@ -39,26 +39,25 @@ COV_SysIOSetWnd::COV_SysIOSetWnd(BoardApi& board, QWidget* parent)
         return box;
     };
     auto* grid = new QGridLayout(this);
-    grid->addWidget(makeGroup(QStringLiteral(" Alarm "), {0, 1}), 0, 0);
-    grid->addWidget(makeGroup(QStringLiteral(" Inposition "), {2, 3}), 0, 1);
-    grid->addWidget(makeGroup(QStringLiteral(" Limit "), {4, 5}), 1, 0);
-    grid->addWidget(makeGroup(QStringLiteral(" Origin "), {6}), 1, 1);
-    grid->addWidget(makeGroup(QStringLiteral(" Encoder Z "), {7}), 2, 0);
-    QGroupBox* counterClear = makeGroup(QStringLiteral(" Counter Clear "), {8, 9});
+    grid->addWidget(makeGroup(tr(" Alarm "), {0, 1}), 0, 0);
+    grid->addWidget(makeGroup(tr(" Inposition "), {2, 3}), 0, 1);
+    grid->addWidget(makeGroup(tr(" Limit "), {4, 5}), 1, 0);
+    grid->addWidget(makeGroup(tr(" Origin "), {6}), 1, 1);
+    grid->addWidget(makeGroup(tr(" Encoder Z "), {7}), 2, 0);
+    QGroupBox* counterClear = makeGroup(tr(" Counter Clear "), {8, 9});
     static_cast<QVBoxLayout*>(counterClear->layout())
-        ->insertWidget(1, new QLabel(QStringLiteral("Clear Time [msec]")));
+        ->insertWidget(1, new QLabel(tr("Clear Time [msec]")));
     grid->addWidget(counterClear, 2, 1);
-    grid->addWidget(makeGroup(QStringLiteral(" EMG "), {10}), 3, 0);
-    QGroupBox* remark = group(QStringLiteral(" Remark "));
+    grid->addWidget(makeGroup(tr(" EMG "), {10}), 3, 0);
+    QGroupBox* remark = group(tr(" Remark "));
     auto* remarkLayout = new QVBoxLayout(remark);
-    remarkLayout->addWidget(
-        new QLabel(QStringLiteral("Low Active : Normal Open\nHigh Active : Normal Close")));
+    remarkLayout->addWidget(new QLabel(tr("Low Active : Normal Open\nHigh Active : Normal Close")));
     grid->addWidget(remark, 3, 1);
-    grid->addWidget(new QLabel(QStringLiteral("(Independence Axis)")), 4, 0, 1, 2);
+    grid->addWidget(new QLabel(tr("(Independence Axis)")), 4, 0, 1, 2);
     grid->setRowStretch(5, 1);
 
     m_originLevel->setToolTip(
-        QStringLiteral("Follows the limit level while the home mode searches a limit switch"));
+        tr("Follows the limit level while the home mode searches a limit switch"));
     connect(m_limitLevel, &QComboBox::currentIndexChanged, this, [this](int index) {
         if (m_homeUsesLimit)
             m_originLevel->setCurrentIndex(index);
@@ -67,8 +66,7 @@ COV_SysIOSetWnd::COV_SysIOSetWnd(BoardApi& board, QWidget* parent)
 
 void COV_SysIOSetWnd::Load(BoardFamily family)
 {
-    const PageParameters board =
-        PageParameters::read(m_board, ParameterPage::SystemIo, family, m_card, m_axis);
+    const PageParameters board = boardValues(family);
     const int homeMode = m_board.GetHomeMode(family, m_card, m_axis);
     for (int i = 0; i < m_lists.size(); ++i)
         select(m_lists.at(i), board.value(kListNames[i]));
@@ -78,7 +76,7 @@ void COV_SysIOSetWnd::Load(BoardFamily family)
     m_originLevel->setEnabled(!m_homeUsesLimit);
 }
 
-PageParameters COV_SysIOSetWnd::shown(BoardFamily family) const
+PageParameters COV_SysIOSetWnd::shown(BoardFamily family)
 {
     PageParameters values(ParameterPage::SystemIo, family);
     for (int i = 0; i < m_lists.size(); ++i)
@@ -86,16 +84,4 @@ PageParameters COV_SysIOSetWnd::shown(BoardFamily family) const
     // The counter-clear output is always written as in use.
     values.set("CounterClearUse", 1);
     return values;
-}
-
-bool COV_SysIOSetWnd::IsChanged(BoardFamily family)
-{
-    const PageParameters board =
-        PageParameters::read(m_board, ParameterPage::SystemIo, family, m_card, m_axis);
-    return shown(family).firstDifference(board) != nullptr;
-}
-
-void COV_SysIOSetWnd::Apply(BoardFamily family)
-{
-    shown(family).write(m_board, m_card, m_axis);
 }

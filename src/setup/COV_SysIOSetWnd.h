@@ -1,6 +1,5 @@
 #pragma once
 
-#include "PageParameters.h"
 #include "ParameterSetupPage.h"
 
 #include <QStringList>
@@ -15,16 +14,15 @@ public:
     explicit COV_SysIOSetWnd(BoardApi& board, QWidget* parent = nullptr);
 
     void Load(BoardFamily family) override;
-    bool IsChanged(BoardFamily family) override;
-    void Apply(BoardFamily family) override;
 
     // Set when the axis's home mode searches a limit instead of the origin sensor.
     void setHomeUsesLimit(bool uses) { m_homeUsesLimit = uses; }
     bool homeUsesLimit() const { return m_homeUsesLimit; }
 
-private:
-    PageParameters shown(BoardFamily family) const;
+protected:
+    PageParameters shown(BoardFamily family) override;
 
+private:
     bool m_homeUsesLimit = false;
     // The page's lists, in the order of the catalogue's names below.
     QList<QComboBox*> m_lists;

@@ -5,6 +5,21 @@
 #include <QComboBox>
 #include <QGroupBox>
 
+bool ParameterSetupPage::IsChanged(BoardFamily family)
+{
+    return shown(family).firstDifference(boardValues(family)) != nullptr;
+}
+
+void ParameterSetupPage::Apply(BoardFamily family)
+{
+    shown(family).write(m_board, m_card, m_axis);
+}
+
+PageParameters ParameterSetupPage::boardValues(BoardFamily family) const
+{
+    return PageParameters::read(m_board, m_page, family, m_card, m_axis);
+}
+
 QComboBox* ParameterSetupPage::listFor(const char* parameter)
 {
     auto* combo = new QComboBox;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "BoardFamily.h"
+#include "PageParameters.h"
 
 #include <QWidget>
 
@@ -16,8 +17,8 @@ class ParameterSetupPage : public QWidget
     Q_OBJECT
 
 public:
-    explicit ParameterSetupPage(BoardApi& board, QWidget* parent = nullptr)
-        : QWidget(parent), m_board(board)
+    ParameterSetupPage(BoardApi& board, ParameterPage page, QWidget* parent = nullptr)
+        : QWidget(parent), m_board(board), m_page(page)
     {}
 
     void setCardAxis(CardNo card, AxisNo axis, int axisCount)
@@ -30,11 +31,16 @@ public:
     // Reads every parameter of the page from the board and shows it, dropping edits.
     virtual void Load(BoardFamily family) = 0;
     // Whether what the page shows differs from what the board holds.
-    virtual bool IsChanged(BoardFamily family) = 0;
+    bool IsChanged(BoardFamily family);
     // Writes what the page shows to the board.
-    virtual void Apply(BoardFamily family) = 0;
+    void Apply(BoardFamily family);
 
 protected:
+    // The page's parameters as the board holds them for the current card and axis.
+    PageParameters boardValues(BoardFamily family) const;
+    // The page's parameters as its controls show them.
+    virtual PageParameters shown(BoardFamily family) = 0;
+
     // A drop-down list of the catalogue parameter's texts, named after the parameter.
     static QComboBox* listFor(const char* parameter);
     static QGroupBox* group(const QString& title);
@@ -44,4 +50,7 @@ protected:
     CardNo m_card = 0;
     AxisNo m_axis = 0;
     int m_axisCount = 0;
+
+private:
+    ParameterPage m_page;
 };

@@ -30,7 +30,7 @@ template <typename Window = COV_SnMtnWnd> struct ToolWindowRig
 
     Window& open()
     {
-        window = std::make_unique<Window>(context, clockwork);
+        window = std::make_unique<Window>(context, nullptr, &clockwork);
         return *window;
     }
     template <typename T> T* find(const char* name) const

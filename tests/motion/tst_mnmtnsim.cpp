@@ -139,6 +139,19 @@ private slots:
         QCOMPARE(rig.api.Done(BoardFamily::RL, 0, 1), 0);
         QCOMPARE(rig.api.Done(BoardFamily::RL, 0, 2), 0);
         QCOMPARE(rig.prompt.messages().size(), 3);
+
+        // E-Stop with the focused row unchecked still ends the running jog on its own axes.
+        rig.choose("motionType", int(MotionType::Jog));
+        rig.check({2});
+        QTest::mousePress(plus, Qt::LeftButton);
+        rig.clockwork.run(100, [&] { rig.sim.advance(BoardFamily::RL, 1); });
+        rig.focus(0);
+        rig.find<QPushButton>("eStopButton")->click();
+        QCOMPARE(rig.prompt.messages().size(), 4);
+        const std::int32_t stoppedAt = rig.position(2);
+        rig.clockwork.run(100, [&] { rig.sim.advance(BoardFamily::RL, 1); });
+        QCOMPARE(rig.position(2), stoppedAt);
+        QTest::mouseRelease(plus, Qt::LeftButton);
     }
 
     void layout_stopButtonsAndSizeStayPutAcrossMotionTypes()
