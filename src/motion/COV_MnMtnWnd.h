@@ -37,7 +37,6 @@ public:
     // Timer 6: one period of the gantry check.
     void onGantryTick() { m_gantry.tick(); }
     const GantryCheck& gantry() const { return m_gantry; }
-    const std::vector<AxisNo>& checkedAxes() const { return m_checked; }
 
 protected:
     void askBeforeClose() override;

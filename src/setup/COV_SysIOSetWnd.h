@@ -17,7 +17,6 @@ public:
 
     // Set when the axis's home mode searches a limit instead of the origin sensor.
     void setHomeUsesLimit(bool uses) { m_homeUsesLimit = uses; }
-    bool homeUsesLimit() const { return m_homeUsesLimit; }
 
 protected:
     PageParameters shown(BoardFamily family) override;
