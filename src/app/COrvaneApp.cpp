@@ -2,8 +2,11 @@
 
 #include "BoardCallClock.h"
 #include "BoardLoader.h"
+#include "COV_AboutDlg.h"
 #include "COV_MainFrame.h"
+#include "LogFile.h"
 #include "OrvaneIcon.h"
+#include "OrvaneLog.h"
 
 #include <QApplication>
 #include <QDir>
@@ -12,6 +15,8 @@
 COrvaneApp::COrvaneApp()
 {
     QApplication::setApplicationName(QStringLiteral("Orvane"));
+    m_log = std::make_unique<LogFile>(LogFile::defaultPath());
+    m_log->install();
     // Every window, dialog and tool window takes the program's own icon.
     QApplication::setWindowIcon(OrvaneIcon::create());
     m_state.moduleDirectory =
@@ -37,8 +42,13 @@ int COrvaneApp::run()
 
     m_frame = std::make_unique<COV_MainFrame>(m_state, m_board, m_prompt, m_factory);
     m_prompt.setParent(m_frame.get());
-    if (!m_frame->create(m_loader->problems()))
+    for (const QString& problem : m_loader->problems())
+        qCWarning(lcApp).noquote() << problem;
+    if (!m_frame->create(m_loader->problems())) {
+        qCWarning(lcApp) << "No board could be loaded; Orvane exits";
         return 1;
+    }
+    logStart();
     // Without a window manager (a kiosk, a virtual display) maximising does nothing; the
     // frame then still covers the screen.
     if (const QScreen* screen = m_frame->screen())
@@ -46,5 +56,22 @@ int COrvaneApp::run()
     m_frame->showMaximized();
     const int result = QApplication::exec();
     m_frame.reset();
+    qCInfo(lcApp) << "Orvane exits with code" << result;
     return result;
+}
+
+void COrvaneApp::logStart() const
+{
+    QStringList families;
+    for (BoardFamily family : kAllFamilies) {
+        const int cards = m_state.registry.cardCount(family);
+        families << QStringLiteral("%1: %2 card(s)%3")
+                        .arg(QLatin1String(familyShortName(family)))
+                        .arg(cards)
+                        .arg(cards > 0 && m_loader->isSimulated(family)
+                                 ? QStringLiteral(" (simulated)")
+                                 : QString());
+    }
+    qCInfo(lcApp).noquote() << COV_AboutDlg::versionText() << "started;"
+                            << families.join(QStringLiteral(", ")) << "; log" << m_log->path();
 }

@@ -3,6 +3,7 @@
 #include "BoardApi.h"
 #include "MotionErrorCode.h"
 #include "MotionPanel.h"
+#include "OrvaneLog.h"
 #include "PollInterval.h"
 #include "PromptService.h"
 #include "SequenceTimer.h"
@@ -13,6 +14,18 @@ namespace {
 nrx_u16 countOf(const MotionAxes& axes)
 {
     return static_cast<nrx_u16>(axes.axes.size());
+}
+// "RL card 0 axes 1,2" for the log.
+QString axesText(const MotionAxes& axes)
+{
+    QStringList numbers;
+    for (AxisNo axis : axes.axes)
+        numbers << QString::number(axis);
+    return QStringLiteral("%1 card %2 %3 %4")
+        .arg(QLatin1String(familyShortName(axes.family)))
+        .arg(axes.card)
+        .arg(numbers.size() == 1 ? QStringLiteral("axis") : QStringLiteral("axes"),
+             numbers.join(QLatin1Char(',')));
 }
 } // namespace
 
@@ -299,6 +312,8 @@ void MotionSequencer::reportAbnormalEnd(std::int32_t code)
         return;
     const QString text = error.message(multi() ? MotionErrorCode::Wording::MultiAxis
                                                : MotionErrorCode::Wording::SingleAxis);
+    qCInfo(lcMotion).noquote() << "Motion stopped on" << axesText(m_target) << "with error code"
+                               << code << (text.isEmpty() ? QStringLiteral("(no report)") : text);
     if (!text.isEmpty())
         m_prompt.inform(text);
 }
@@ -399,6 +414,8 @@ void MotionSequencer::stop(bool sudden)
     m_idle = true;
     m_active.setAxesMoving(m_owner, false);
     const MotionAxes selection = m_panel.selectedAxes();
+    qCInfo(lcMotion).noquote() << (sudden ? "E-Stop" : "S-Stop") << "pressed on"
+                               << axesText(selection);
     stopAxes(selection, sudden);
     // A motion whose axes are no longer the selected ones is stopped as well.
     if ((m_moving || m_jogHeld) && m_target != selection)
@@ -411,6 +428,7 @@ void MotionSequencer::abortWith(const QString& message)
     m_idle = true;
     m_active.setAxesMoving(m_owner, false);
     stopAxes(m_target, true);
+    qCInfo(lcMotion).noquote() << "Motion aborted on" << axesText(m_target) << ":" << message;
     m_jogHeld = false;
     m_prompt.inform(message);
     afterStop();
