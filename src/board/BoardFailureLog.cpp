@@ -23,7 +23,9 @@ QString BoardFailureLog::line(const BoardCall& call, const QStringList& callers)
 
 void BoardFailureLog::note(const BoardCall& call, const QStringList& callers)
 {
-    const auto index = std::size_t(call.family) * kBoardOpCount + std::size_t(call.op);
+    const int card = call.card() >= 0 && call.card() < kMaxCards ? call.card() : 0;
+    const auto index = (std::size_t(call.family) * kMaxCards + std::size_t(card)) * kBoardOpCount +
+                       std::size_t(call.op);
     if (index >= m_operations.size())
         return;
     Operation& operation = m_operations[index];

@@ -9,12 +9,12 @@
 #include <cstdint>
 
 // Writes refused board calls to the program's log as warnings. A poll that keeps failing
-// must not flood the file: after an operation of a family is logged, its further refusals
+// must not flood the file: after an operation on a card is logged, its further refusals
 // within kIntervalUs are only counted, and the count goes with the next line logged for it.
 class BoardFailureLog
 {
 public:
-    static constexpr std::int64_t kIntervalUs = 10000000;
+    static constexpr std::int64_t kIntervalUs = 5000000;
 
     // callers are the names indexed by BoardCall::caller.
     void note(const BoardCall& call, const QStringList& callers);
@@ -29,5 +29,6 @@ private:
         std::uint32_t held = 0;
         bool logged = false;
     };
-    std::array<Operation, std::size_t(kFamilyCount* kBoardOpCount)> m_operations{};
+    // One per family, card and operation; calls without a card share card 0's.
+    std::array<Operation, std::size_t(kFamilyCount* kMaxCards* kBoardOpCount)> m_operations{};
 };

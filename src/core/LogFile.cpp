@@ -45,6 +45,9 @@ LogFile::~LogFile()
 
 QString LogFile::defaultPath()
 {
+    const QString chosen = qEnvironmentVariable("ORVANE_LOG_FILE");
+    if (!chosen.isEmpty())
+        return chosen;
     return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) +
            QStringLiteral("/orvane.log");
 }

@@ -24,7 +24,8 @@ public:
     LogFile(const LogFile&) = delete;
     LogFile& operator=(const LogFile&) = delete;
 
-    // <user data folder>/orvane.log; set the application's name first.
+    // $ORVANE_LOG_FILE if set, else <user data folder>/orvane.log; set the application's name
+    // first.
     static QString defaultPath();
 
     // Makes this the Qt message handler; one log file at a time.

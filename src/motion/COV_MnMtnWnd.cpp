@@ -553,7 +553,7 @@ void COV_MnMtnWnd::setSequenceLocked(bool locked)
 
 void COV_MnMtnWnd::beforeClose()
 {
-    m_sequencer.endHeldJog();
+    m_sequencer.endForClose();
 }
 
 void COV_MnMtnWnd::askBeforeClose()

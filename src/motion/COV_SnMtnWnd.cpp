@@ -442,7 +442,7 @@ void COV_SnMtnWnd::setSequenceLocked(bool locked)
 
 void COV_SnMtnWnd::beforeClose()
 {
-    m_sequencer.endHeldJog();
+    m_sequencer.endForClose();
 }
 
 void COV_SnMtnWnd::askBeforeClose()

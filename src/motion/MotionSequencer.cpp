@@ -259,6 +259,13 @@ void MotionSequencer::endHeldJog()
     m_jogHeld = false;
 }
 
+void MotionSequencer::endForClose()
+{
+    if (m_jogHeld)
+        qCInfo(lcMotion).noquote() << "Jog stopped on" << axesText(m_target) << ": window closed";
+    endHeldJog();
+}
+
 void MotionSequencer::onCycleClock()
 {
     m_elapsedMs = m_clockwork.clock().tickCount() - m_startTick;
@@ -308,10 +315,12 @@ void MotionSequencer::reportAbnormalEnd(std::int32_t code)
     unlock();
     m_clockwork.cycleClock().stop();
     const MotionErrorCode error(code);
-    if (m_homing && !error.isReportedWhileHoming())
-        return;
-    const QString text = error.message(multi() ? MotionErrorCode::Wording::MultiAxis
-                                               : MotionErrorCode::Wording::SingleAxis);
+    // Homing ends on a limit by design; only the codes that matter there are shown, but the
+    // log keeps every one.
+    const bool shown = !m_homing || error.isReportedWhileHoming();
+    const QString text = shown ? error.message(multi() ? MotionErrorCode::Wording::MultiAxis
+                                                       : MotionErrorCode::Wording::SingleAxis)
+                               : QString();
     qCInfo(lcMotion).noquote() << "Motion stopped on" << axesText(m_target) << "with error code"
                                << code << (text.isEmpty() ? QStringLiteral("(no report)") : text);
     if (!text.isEmpty())
