@@ -31,6 +31,7 @@ void BoardFailureLog::note(const BoardCall& call, const QStringList& callers)
     Operation& operation = m_operations[index];
     if (operation.logged && call.timeUs - operation.loggedUs < kIntervalUs) {
         ++operation.held;
+        qCDebug(lcBoard).noquote() << "Board call refused again:" << line(call, callers);
         return;
     }
     if (operation.held > 0)

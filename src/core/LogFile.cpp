@@ -48,7 +48,7 @@ QString LogFile::defaultPath()
     const QString chosen = qEnvironmentVariable("ORVANE_LOG_FILE");
     if (!chosen.isEmpty())
         return chosen;
-    return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) +
+    return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) +
            QStringLiteral("/orvane.log");
 }
 
