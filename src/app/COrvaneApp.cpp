@@ -10,7 +10,9 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QScreen>
+#include <QStandardPaths>
 
 COrvaneApp::COrvaneApp()
 {
@@ -63,15 +65,30 @@ int COrvaneApp::run()
 void COrvaneApp::logStart() const
 {
     QStringList families;
+    bool simulated = false;
     for (BoardFamily family : kAllFamilies) {
         const int cards = m_state.registry.cardCount(family);
+        const bool sim = cards > 0 && m_loader->isSimulated(family);
+        simulated = simulated || sim;
         families << QStringLiteral("%1: %2 card(s)%3")
                         .arg(QLatin1String(familyShortName(family)))
                         .arg(cards)
-                        .arg(cards > 0 && m_loader->isSimulated(family)
-                                 ? QStringLiteral(" (simulated)")
-                                 : QString());
+                        .arg(sim ? QStringLiteral(" (simulated)") : QString());
+    }
+    QString boards;
+    if (simulated) {
+        // Where the simulated boards look for their file: next to them, or in the user's data
+        // folder when an installed copy's folder cannot be written.
+        const QString folder =
+            QFileInfo(m_state.moduleDirectory).isWritable()
+                ? m_state.moduleDirectory
+                : QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) +
+                      QLatin1Char('/');
+        const QString file = folder + QStringLiteral("NrxSimBoards.ini");
+        boards = QFileInfo::exists(file) ? QStringLiteral("; boards file ") + file
+                                         : QStringLiteral("; built-in simulated boards");
     }
     qCInfo(lcApp).noquote() << COV_AboutDlg::versionText() << "started;"
-                            << families.join(QStringLiteral(", ")) << "; log" << m_log->path();
+                            << families.join(QStringLiteral(", ")) + boards << "; log"
+                            << m_log->path();
 }
