@@ -9,6 +9,7 @@
 #include "COV_UtMtnStWnd.h"
 #include "COV_WsSysWnd.h"
 #include "MenuMnemonics.h"
+#include "OrvaneLog.h"
 #include "OrvaneSettings.h"
 #include "PollInterval.h"
 #include "PromptService.h"
@@ -433,6 +434,7 @@ bool COV_MainFrame::refuseWhileMoving()
 {
     if (!m_state.active.anyAxesMoving())
         return false;
+    qCInfo(lcUi).noquote() << "Change of the active controller refused:" << kMovingRefusal;
     m_prompt.inform(kMovingRefusal);
     fillCombos();
     return true;
@@ -503,12 +505,14 @@ void COV_MainFrame::closeAllTools()
 
 void COV_MainFrame::stopAllAxes()
 {
+    int stopped = 0;
     for (BoardFamily family : kAllFamilies) {
         for (int card = 0; card < m_state.registry.cardCount(family); ++card) {
-            for (int axis = 0; axis < m_state.registry.axisCount(family, card); ++axis)
+            for (int axis = 0; axis < m_state.registry.axisCount(family, card); ++axis, ++stopped)
                 m_board.Sudden_Stop(family, static_cast<CardNo>(card), static_cast<AxisNo>(axis));
         }
     }
+    qCInfo(lcMotion) << "Stop All Axes:" << stopped << "axes stopped";
     for (ToolView* view : m_tools->openViews())
         view->endMotion();
     m_state.active.axesMoving = {};

@@ -10,10 +10,11 @@
 class BoardCallClock;
 class BoardLoader;
 class COV_MainFrame;
+class LogFile;
 
-// The program: loads the board libraries from its own folder, creates the main frame shown
-// maximised, runs the event loop and tears everything down in order. Construct it after the
-// QApplication.
+// The program: starts its log file, loads the board libraries from its own folder, creates the
+// main frame shown maximised, runs the event loop and tears everything down in order. Construct
+// it after the QApplication.
 class COrvaneApp
 {
 public:
@@ -29,6 +30,10 @@ public:
     int run();
 
 private:
+    void logStart() const;
+
+    // first: the log outlives everything that may write to it
+    std::unique_ptr<LogFile> m_log;
     AppState m_state;
     BoardCallTrace m_trace;
     BoardApi m_board;

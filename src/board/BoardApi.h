@@ -1,6 +1,7 @@
 #pragma once
 
 #include "BoardCallTrace.h"
+#include "BoardFailureLog.h"
 #include "BoardFamily.h"
 #include "BoardOperationTable.h"
 #include "nrx_contract.h"
@@ -33,12 +34,14 @@ private:
 
 namespace detail {
 
-// What every handle on the same boards shares: the tables, the trace and the callers' names.
+// What every handle on the same boards shares: the tables, the trace, the callers' names and
+// the log of refused calls.
 struct BoardLink
 {
     BoardTables tables;
     BoardCallTrace* trace = nullptr;
     QStringList callers;
+    BoardFailureLog failures;
 };
 
 // Where a handle's calls go and whose they are.
@@ -52,7 +55,8 @@ template <typename Fn, Fn NrxFunctionTable::*Member, BoardOp Op> class BoardOper
 
 // One operation of the contract, callable as op(family, args...) with the export's own
 // parameter types. A family without a library, or without this export, calls nothing and
-// yields 0. A call that reaches a library is written to the trace, if there is one.
+// yields 0. A call that reaches a library is written to the trace, if there is one, and a
+// refusal the trace notices goes to the program's log.
 template <typename R, typename... A, R (*NrxFunctionTable::*Member)(A...), BoardOp Op>
 class BoardOperation<R (*)(A...), Member, Op>
 {
@@ -65,8 +69,12 @@ public:
         if (table == nullptr || table->*Member == nullptr)
             return R{};
         const R result = (table->*Member)(args...);
-        if (link.trace != nullptr)
+        if (link.trace != nullptr) {
+            const std::uint64_t failures = link.trace->failureCount();
             link.trace->record(Op, family, m_site.caller, result, args...);
+            if (link.trace->failureCount() != failures)
+                m_site.link->failures.note(link.trace->lastFailure(), link.callers);
+        }
         return result;
     }
 

@@ -94,6 +94,15 @@ void BoardLoader::loadFamily(BoardFamily family)
         return;
     }
     slot.ready = true;
+    // The simulated boards export extras of their own under a prefix no real library uses.
+    const QByteArray simulatorExport =
+        QByteArray("NRXSIM5") + "249"[familyIndex(family)] + "0L_SetManualClock";
+    slot.simulated = library.resolve(simulatorExport.constData()) != nullptr;
+}
+
+bool BoardLoader::isSimulated(BoardFamily family) const
+{
+    return isKnownFamily(family) && m_families[std::size_t(familyIndex(family))].simulated;
 }
 
 const NrxFunctionTable* BoardLoader::table(BoardFamily family) const

@@ -31,6 +31,8 @@ public:
     // The family's table, or null when it could not be loaded.
     const NrxFunctionTable* table(BoardFamily family) const;
     QStringList problems() const { return m_problems; }
+    // True when the family's library is one of the simulated boards.
+    bool isSimulated(BoardFamily family) const;
 
     // "libnrxMApiRlv_x64.so" on Linux, "nrxMApiRlv_x64.dll" on Windows.
     static QString libraryFileName(BoardFamily family);
@@ -46,6 +48,7 @@ private:
         std::unique_ptr<QLibrary> library;
         NrxFunctionTable table{};
         bool ready = false;
+        bool simulated = false;
     };
 
     void loadFamily(BoardFamily family);

@@ -4,6 +4,7 @@
 #include "BoardLoader.h"
 #include "BoardTexts.h"
 #include "CardRegistry.h"
+#include "OrvaneLog.h"
 #include "PromptService.h"
 
 #include <array>
@@ -97,7 +98,9 @@ bool BoardStartup::offerSave()
             if (answer == PromptAnswer::Cancel)
                 return false;
             if (answer == PromptAnswer::Yes)
-                m_board.SaveFile(family, static_cast<CardNo>(card));
+                qCInfo(lcParams) << "Save Parameter at exit" << familyShortName(family) << "card"
+                                 << card << "returned"
+                                 << m_board.SaveFile(family, static_cast<CardNo>(card));
         }
     }
     return true;

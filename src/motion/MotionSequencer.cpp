@@ -3,6 +3,7 @@
 #include "BoardApi.h"
 #include "MotionErrorCode.h"
 #include "MotionPanel.h"
+#include "OrvaneLog.h"
 #include "PollInterval.h"
 #include "PromptService.h"
 #include "SequenceTimer.h"
@@ -13,6 +14,18 @@ namespace {
 nrx_u16 countOf(const MotionAxes& axes)
 {
     return static_cast<nrx_u16>(axes.axes.size());
+}
+// "RL card 0 axes 1,2" for the log.
+QString axesText(const MotionAxes& axes)
+{
+    QStringList numbers;
+    for (AxisNo axis : axes.axes)
+        numbers << QString::number(axis);
+    return QStringLiteral("%1 card %2 %3 %4")
+        .arg(QLatin1String(familyShortName(axes.family)))
+        .arg(axes.card)
+        .arg(numbers.size() == 1 ? QStringLiteral("axis") : QStringLiteral("axes"),
+             numbers.join(QLatin1Char(',')));
 }
 } // namespace
 
@@ -246,6 +259,13 @@ void MotionSequencer::endHeldJog()
     m_jogHeld = false;
 }
 
+void MotionSequencer::endForClose()
+{
+    if (m_jogHeld)
+        qCInfo(lcMotion).noquote() << "Jog stopped on" << axesText(m_target) << ": window closed";
+    endHeldJog();
+}
+
 void MotionSequencer::onCycleClock()
 {
     m_elapsedMs = m_clockwork.clock().tickCount() - m_startTick;
@@ -295,10 +315,14 @@ void MotionSequencer::reportAbnormalEnd(std::int32_t code)
     unlock();
     m_clockwork.cycleClock().stop();
     const MotionErrorCode error(code);
-    if (m_homing && !error.isReportedWhileHoming())
-        return;
-    const QString text = error.message(multi() ? MotionErrorCode::Wording::MultiAxis
-                                               : MotionErrorCode::Wording::SingleAxis);
+    // Homing ends on a limit by design; only the codes that matter there are shown, but the
+    // log keeps every one.
+    const bool shown = !m_homing || error.isReportedWhileHoming();
+    const QString text = shown ? error.message(multi() ? MotionErrorCode::Wording::MultiAxis
+                                                       : MotionErrorCode::Wording::SingleAxis)
+                               : QString();
+    qCInfo(lcMotion).noquote() << "Motion stopped on" << axesText(m_target) << "with error code"
+                               << code << (text.isEmpty() ? QStringLiteral("(no report)") : text);
     if (!text.isEmpty())
         m_prompt.inform(text);
 }
@@ -399,6 +423,8 @@ void MotionSequencer::stop(bool sudden)
     m_idle = true;
     m_active.setAxesMoving(m_owner, false);
     const MotionAxes selection = m_panel.selectedAxes();
+    qCInfo(lcMotion).noquote() << (sudden ? "E-Stop" : "S-Stop") << "pressed on"
+                               << axesText(selection);
     stopAxes(selection, sudden);
     // A motion whose axes are no longer the selected ones is stopped as well.
     if ((m_moving || m_jogHeld) && m_target != selection)
@@ -421,6 +447,7 @@ void MotionSequencer::abortWith(const QString& message)
     m_idle = true;
     m_active.setAxesMoving(m_owner, false);
     stopAxes(m_target, true);
+    qCInfo(lcMotion).noquote() << "Motion aborted on" << axesText(m_target) << ":" << message;
     m_jogHeld = false;
     m_prompt.inform(message);
     afterStop();

@@ -48,6 +48,8 @@ public:
     void abortWith(const QString& message);
     // The frame's stop of everything: the board calls are the frame's, the sequence ends here.
     void endSequence();
+    // The window closes: a jog still held ends, as on release, and the log says why.
+    void endForClose();
 
     // Timer handlers.
     void onCycleClock();

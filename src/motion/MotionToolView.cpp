@@ -19,7 +19,7 @@ void MotionToolView::endMotion()
 
 void MotionToolView::beforeClose()
 {
-    motion().endHeldJog();
+    motion().endForClose();
 }
 
 void MotionToolView::hideEvent(QHideEvent* event)

@@ -2,6 +2,7 @@
 
 #include "AppState.h"
 #include "DialogFlags.h"
+#include "OrvaneLog.h"
 #include "ParameterSourceBox.h"
 #include "ParameterText.h"
 #include "PromptService.h"
@@ -73,6 +74,8 @@ bool COV_ExportPrmDlg::exportFile()
     const ParameterSet set =
         ParameterSet::fromBoards(m_context.board, m_context.state.registry, m_source->scope());
     const QString error = ParameterText::writeFile(path, set, QDateTime::currentDateTime());
+    qCInfo(lcParams).noquote() << "Export of" << set.cards.size() << "card(s) to" << path
+                               << (error.isEmpty() ? QStringLiteral("done") : error);
     if (!error.isEmpty()) {
         m_context.prompt.inform(
             QStringLiteral("The parameters could not be exported to %1:\n%2").arg(path, error));

@@ -3,6 +3,7 @@
 #include "AppState.h"
 #include "DialogFlags.h"
 #include "FrameRelay.h"
+#include "OrvaneLog.h"
 #include "ParameterComparison.h"
 #include "ParameterImport.h"
 #include "ParameterText.h"
@@ -135,7 +136,10 @@ bool COV_ImportPrmDlg::writeToBoards()
                                        .arg(m_import->changes().size())))
         return false;
     AppState& state = m_context.state;
-    for (const auto& [family, card] : m_import->apply()) {
+    const auto touched = m_import->apply();
+    qCInfo(lcParams).noquote() << "Import of" << m_import->changes().size() << "change(s) from"
+                               << m_file->text() << "written to" << touched.size() << "card(s)";
+    for (const auto& [family, card] : touched) {
         // The frame marks the active family's cards; the others are marked here the same way.
         if (family == state.active.family)
             m_context.frame.sendToFrame(UM_PARAM_CHANGED, card);

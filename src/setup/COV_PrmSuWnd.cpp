@@ -9,6 +9,7 @@
 #include "FrameRelay.h"
 #include "NamedButton.h"
 #include "NumberList.h"
+#include "OrvaneLog.h"
 #include "PromptService.h"
 #include "PromptTexts.h"
 
@@ -102,6 +103,8 @@ QWidget* COV_PrmSuWnd::createButtonColumn()
 
     connect(set, &QPushButton::clicked, this, [this] {
         m_pages[std::size_t(m_page)]->Apply(m_context.state.active.family);
+        qCInfo(lcParams) << "Set Prm" << familyShortName(m_context.state.active.family) << "card"
+                         << m_card << "axis" << m_axis << "page" << m_page;
         m_context.frame.sendToFrame(UM_PARAM_CHANGED, m_card);
     });
     connect(copy, &QPushButton::clicked, this, [this] { onCopyClicked(); });
@@ -200,7 +203,10 @@ void COV_PrmSuWnd::onDefaultClicked()
     if (!m_context.prompt.askYesNo(
             QStringLiteral("%1 axis parameter set to default value?").arg(m_axis)))
         return;
-    m_context.board.SetSystemDefault(m_context.state.active.family, m_card, m_axis);
+    const nrx_i32 result =
+        m_context.board.SetSystemDefault(m_context.state.active.family, m_card, m_axis);
+    qCInfo(lcParams) << "Default Prm" << familyShortName(m_context.state.active.family) << "card"
+                     << m_card << "axis" << m_axis << "returned" << result;
     refresh();
 }
 

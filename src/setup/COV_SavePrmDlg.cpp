@@ -4,6 +4,7 @@
 #include "BoardApi.h"
 #include "CardTypeSelector.h"
 #include "DialogFlags.h"
+#include "OrvaneLog.h"
 #include "PromptService.h"
 
 #include <QCheckBox>
@@ -60,6 +61,8 @@ void COV_SavePrmDlg::save()
 
 void COV_SavePrmDlg::saveCard(BoardFamily family, int card)
 {
-    m_context.board.SaveFile(family, static_cast<CardNo>(card));
+    const nrx_i32 result = m_context.board.SaveFile(family, static_cast<CardNo>(card));
+    qCInfo(lcParams) << "Save Parameter" << familyShortName(family) << "card" << card << "returned"
+                     << result;
     m_context.state.registry.setParametersChanged(family, card, false);
 }

@@ -5,6 +5,7 @@
 #include "CardTypeSelector.h"
 #include "DialogFlags.h"
 #include "FrameRelay.h"
+#include "OrvaneLog.h"
 #include "PromptService.h"
 
 #include <QComboBox>
@@ -42,7 +43,10 @@ void COV_SysRstDlg::reset()
 {
     if (!m_context.prompt.askYesNo(QStringLiteral("Do you want system reset?")))
         return;
-    m_context.board.Reset(m_selector->family(), static_cast<CardNo>(m_selector->card()));
+    const nrx_i32 result =
+        m_context.board.Reset(m_selector->family(), static_cast<CardNo>(m_selector->card()));
+    qCInfo(lcParams) << "System Reset" << familyShortName(m_selector->family()) << "card"
+                     << m_selector->card() << "returned" << result;
     // Parameter setup first, then the motion windows, then the I/O monitor.
     for (int kind : {ToolParameter, ToolSingleAxis, ToolMultiAxis, ToolDigitalIo})
         m_context.frame.sendToFrame(UM_VIEW_COMMAND, kind);

@@ -4,6 +4,8 @@
 #include "BoardLoader.h"
 #include "BoardStartup.h"
 #include "CardRegistry.h"
+#include "LogFile.h"
+#include "OrvaneLog.h"
 #include "ParameterComparison.h"
 #include "ParameterImport.h"
 #include "ParameterText.h"
@@ -101,6 +103,11 @@ bool ParameterCommandLine::isCommand(int argc, char** argv)
 int ParameterCommandLine::main(int argc, char** argv)
 {
     QCoreApplication app(argc, argv);
+    // The window's log file; standard error carries only this command's own messages.
+    QCoreApplication::setApplicationName(QStringLiteral("Orvane"));
+    LogFile log(LogFile::defaultPath());
+    log.setEchoLevel(QtWarningMsg);
+    log.install();
     QTextStream out(stdout);
     QTextStream err(stderr);
     const QStringList arguments = QCoreApplication::arguments().mid(2);
@@ -181,9 +188,12 @@ int ParameterCommandLine::exportFile(const QStringList& arguments)
     const QString error =
         ParameterText::writeFile(positional[0], set, QDateTime::currentDateTime());
     if (!error.isEmpty()) {
+        qCWarning(lcParams).noquote() << "params export to" << positional[0] << "failed:" << error;
         m_err << "orvane params export: " << positional[0] << ": " << error << Qt::endl;
         return BadInput;
     }
+    qCInfo(lcParams).noquote() << "params export:" << set.cards.size() << "card(s) to"
+                               << positional[0];
     m_err << "Exported " << set.cards.size() << (set.cards.size() == 1 ? " card" : " cards")
           << " to " << positional[0] << Qt::endl;
     return Success;
@@ -206,6 +216,8 @@ int ParameterCommandLine::importFile(const QStringList& arguments)
     // One list of everything wrong: the text's faults and what the PC lacks.
     ParameterText::merge(faults, import.faults());
     if (!faults.empty()) {
+        qCInfo(lcParams).noquote()
+            << "params import of" << positional[0] << "refused:" << faults.size() << "fault(s)";
         m_err << positional[0] << ": nothing written, the file has faults:\n"
               << ParameterText::faultList(faults) << Qt::endl;
         return BadInput;
@@ -229,10 +241,14 @@ int ParameterCommandLine::importFile(const QStringList& arguments)
         return Success;
     }
     const auto touched = import.apply();
+    qCInfo(lcParams).noquote() << "params import:" << count << "change(s) from" << positional[0]
+                               << "written to" << touched.size() << "card(s)";
     m_err << "Wrote " << count << " change(s)." << Qt::endl;
     if (options.count(QStringLiteral("--save"))) {
         for (const auto& [family, card] : touched) {
-            m_board.SaveFile(family, static_cast<CardNo>(card));
+            const nrx_i32 saved = m_board.SaveFile(family, static_cast<CardNo>(card));
+            qCInfo(lcParams) << "Save Parameter" << familyShortName(family) << "card" << card
+                             << "returned" << saved;
             m_err << "Saved the parameter file of " << familyDisplayName(family) << '(' << card
                   << ')' << Qt::endl;
         }
