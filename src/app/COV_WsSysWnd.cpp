@@ -122,9 +122,12 @@ void COV_WsSysWnd::build()
             m_cardLabels[at(family)][at(card)] = label;
             QTreeWidgetItem* cardNode = addItem(m_families[at(family)], label, CardImage);
             m_cards[at(family)][at(card)] = cardNode;
-            addItem(cardNode, "Axis : " + std::to_string(registry.axisCount(family, card)),
+            addItem(cardNode,
+                    tr("Axis : ").toStdString() + std::to_string(registry.axisCount(family, card)),
                     AxisImage);
-            addItem(cardNode, "IO : " + std::to_string(registry.ioCount(family, card)), IoImage);
+            addItem(cardNode,
+                    tr("IO : ").toStdString() + std::to_string(registry.ioCount(family, card)),
+                    IoImage);
             addItem(cardNode, BoardTexts::firmwareText(family, firmware), FirmwareImage);
             m_families[at(family)]->setExpanded(true);
             cardNode->setExpanded(true);
@@ -200,7 +203,7 @@ QMenu* COV_WsSysWnd::createContextMenu(QTreeWidgetItem* item)
         return nullptr;
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    QAction* action = menu->addAction(QStringLiteral("Set Active Controller"));
+    QAction* action = menu->addAction(tr("Set Active Controller"));
     connect(action, &QAction::triggered, this, [this] { emit setActiveControllerRequested(); });
     return menu;
 }
@@ -251,8 +254,8 @@ void COV_WsSysWnd::activateItem(QTreeWidgetItem* item)
     if (activeCard == nullptr || item->parent() != activeCard)
         return;
     const QString label = item->text(0);
-    if (label.contains(QLatin1String("IO : ")))
+    if (label.contains(tr("IO : ")))
         m_frame.sendToFrame(UM_OPEN_TOOL, ToolDigitalIo);
-    else if (label.contains(QLatin1String("Axis : ")))
+    else if (label.contains(tr("Axis : ")))
         m_frame.sendToFrame(UM_OPEN_TOOL, ToolSingleAxis);
 }
