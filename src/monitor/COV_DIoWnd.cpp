@@ -52,7 +52,7 @@ QWidget* COV_DIoWnd::createCardRow()
     layout->setContentsMargins(0, 0, 0, 0);
     m_cardCombo = new QComboBox;
     m_cardCombo->setObjectName(QStringLiteral("cardCombo"));
-    layout->addWidget(new QLabel(QStringLiteral("Card No. : ")));
+    layout->addWidget(new QLabel(tr("Card No. : ")));
     layout->addWidget(m_cardCombo);
     layout->addStretch();
     return row;
@@ -73,7 +73,7 @@ QWidget* COV_DIoWnd::createSide(DigitalPointPage::Side side)
     auto* word = new QLineEdit;
     word->setObjectName(inputs ? QStringLiteral("inputWord") : QStringLiteral("outputWord"));
     word->setReadOnly(inputs);
-    word->setToolTip(inputs ? QStringLiteral("The inputs of the page as a hexadecimal word")
+    word->setToolTip(inputs ? tr("The inputs of the page as a hexadecimal word")
                             : QStringLiteral("The outputs of the page as a hexadecimal word; type "
                                              "a word and press Enter to write it"));
     layout->addWidget(tabs);
@@ -95,24 +95,24 @@ QWidget* COV_DIoWnd::createSide(DigitalPointPage::Side side)
 
 QWidget* COV_DIoWnd::createFilterGroup()
 {
-    auto* group = new QGroupBox(QStringLiteral(" Filter Setting "));
+    auto* group = new QGroupBox(tr(" Filter Setting "));
     auto* grid = new QGridLayout(group);
     m_filterEnable = new QComboBox;
     m_filterEnable->setObjectName(QStringLiteral("filterEnable"));
-    m_filterEnable->addItems({QStringLiteral("Disable"), QStringLiteral("Enable")});
-    m_filterEnable->setToolTip(QStringLiteral("Whether the card filters its digital inputs"));
+    m_filterEnable->addItems({tr("Disable"), tr("Enable")});
+    m_filterEnable->setToolTip(tr("Whether the card filters its digital inputs"));
     m_filterTime = new QComboBox;
     m_filterTime->setObjectName(QStringLiteral("filterTime"));
     for (int k = 0; k < DigitalIoModel::kFilterTimes; ++k)
         m_filterTime->addItem(QString::number(0.001 * (1 << k), 'f', 3));
-    m_filterTime->setToolTip(QStringLiteral("How long an input must hold before it counts"));
-    m_setPrm = makeNamedButton(QStringLiteral("Set Prm"), "setPrmButton",
-                               QStringLiteral("Write the filter settings to the card"));
-    grid->addWidget(new QLabel(QStringLiteral("Enable")), 0, 0);
+    m_filterTime->setToolTip(tr("How long an input must hold before it counts"));
+    m_setPrm =
+        makeNamedButton(tr("Set Prm"), "setPrmButton", tr("Write the filter settings to the card"));
+    grid->addWidget(new QLabel(tr("Enable")), 0, 0);
     grid->addWidget(m_filterEnable, 0, 1, 1, 2);
-    grid->addWidget(new QLabel(QStringLiteral("Filter Time")), 1, 0);
+    grid->addWidget(new QLabel(tr("Filter Time")), 1, 0);
     grid->addWidget(m_filterTime, 1, 1);
-    grid->addWidget(new QLabel(QStringLiteral("[msec]")), 1, 2);
+    grid->addWidget(new QLabel(tr("[msec]")), 1, 2);
     grid->addWidget(m_setPrm, 2, 0, 1, 3);
     return group;
 }
@@ -122,20 +122,16 @@ QWidget* COV_DIoWnd::createButtonColumn()
     auto* column = new QWidget;
     auto* layout = new QVBoxLayout(column);
     layout->setContentsMargins(0, 0, 0, 0);
-    m_outputDisable = new QCheckBox(QStringLiteral(" Output Disable"));
+    m_outputDisable = new QCheckBox(tr(" Output Disable"));
     m_outputDisable->setObjectName(QStringLiteral("outputDisable"));
-    m_outputDisable->setToolTip(QStringLiteral("Lock every output against clicks and writes"));
-    m_odd =
-        makeNamedButton(QStringLiteral("Odd"), "oddButton",
-                        QStringLiteral("Outputs 1, 3, 5, ... counted from one on, the rest off"));
-    m_even =
-        makeNamedButton(QStringLiteral("Even"), "evenButton",
-                        QStringLiteral("Outputs 2, 4, 6, ... counted from one on, the rest off"));
-    m_allOn = makeNamedButton(QStringLiteral("All On"), "allOnButton",
-                              QStringLiteral("Every output of the page on"));
-    m_allOff = makeNamedButton(QStringLiteral("All Off"), "allOffButton",
-                               QStringLiteral("Every output of the page off"));
-    m_close = makeNamedButton(QStringLiteral("Close"), "closeButton");
+    m_outputDisable->setToolTip(tr("Lock every output against clicks and writes"));
+    m_odd = makeNamedButton(tr("Odd"), "oddButton",
+                            tr("Outputs 1, 3, 5, ... counted from one on, the rest off"));
+    m_even = makeNamedButton(tr("Even"), "evenButton",
+                             tr("Outputs 2, 4, 6, ... counted from one on, the rest off"));
+    m_allOn = makeNamedButton(tr("All On"), "allOnButton", tr("Every output of the page on"));
+    m_allOff = makeNamedButton(tr("All Off"), "allOffButton", tr("Every output of the page off"));
+    m_close = makeNamedButton(tr("Close"), "closeButton");
     layout->addWidget(m_outputDisable);
     for (QPushButton* button : {m_odd, m_even, m_allOn, m_allOff})
         layout->addWidget(button);
@@ -190,7 +186,7 @@ void COV_DIoWnd::setUp()
     const AppState& state = m_context.state;
     const BoardFamily family = state.active.family;
     m_model.setCard(family, m_card, state.registry.ioCount(family, m_card));
-    setWindowTitle(QStringLiteral("Digital IO - %1(%2)").arg(state.modelName(m_card)).arg(m_card));
+    setWindowTitle(tr("Digital IO - %1(%2)").arg(state.modelName(m_card)).arg(m_card));
     m_filterEnable->setCurrentIndex(m_model.boardFilter());
     m_filterTime->setCurrentIndex(m_model.boardFilterTime());
     fillTabs(m_inputTabs, "DI_", m_model.inputPage());

@@ -117,7 +117,7 @@ QWidget* COV_SysIoWnd::createCardRow()
     layout->setContentsMargins(0, 0, 0, 0);
     m_cardCombo = new QComboBox;
     m_cardCombo->setObjectName(QStringLiteral("cardCombo"));
-    layout->addWidget(new QLabel(QStringLiteral("Card No. : ")));
+    layout->addWidget(new QLabel(tr("Card No. : ")));
     layout->addWidget(m_cardCombo);
     layout->addStretch();
     return row;
@@ -126,7 +126,7 @@ QWidget* COV_SysIoWnd::createCardRow()
 void COV_SysIoWnd::addAxisTitles(QGridLayout* grid)
 {
     for (int axis = 0; axis < kAxes; ++axis) {
-        auto* title = new QLabel(QStringLiteral("%1 Axis").arg(axis));
+        auto* title = new QLabel(tr("%1 Axis").arg(axis));
         title->setAlignment(Qt::AlignCenter);
         QPalette colours = title->palette();
         colours.setColor(QPalette::Window, Qt::white);
@@ -158,10 +158,10 @@ QWidget* COV_SysIoWnd::createInputGroup()
     m_emergency = makeLamp();
     m_emergency->setObjectName(QStringLiteral("emergencyLamp"));
     m_emergency->setToolTip(
-        QStringLiteral("Emergency-stop input of the card: green while the EMG switch is active"));
+        tr("Emergency-stop input of the card: green while the EMG switch is active"));
     grid->addWidget(m_emergency, emergencyRow, 1, Qt::AlignCenter);
     auto* group = new QTabWidget;
-    group->addTab(page, QStringLiteral("Input"));
+    group->addTab(page, tr("Input"));
     return group;
 }
 
@@ -185,11 +185,10 @@ QWidget* COV_SysIoWnd::createOutputGroup()
     grid->addWidget(makeRowLabel(" Run Led"), runLedRow, 0);
     m_runLed = makeOutput();
     m_runLed->setObjectName(QStringLiteral("runLedButton"));
-    m_runLed->setToolTip(
-        QStringLiteral("Run LED output of the card: red while on; click to switch it over"));
+    m_runLed->setToolTip(tr("Run LED output of the card: red while on; click to switch it over"));
     grid->addWidget(m_runLed, runLedRow, 1, Qt::AlignCenter);
     auto* group = new QTabWidget;
-    group->addTab(page, QStringLiteral("Output"));
+    group->addTab(page, tr("Output"));
     return group;
 }
 
@@ -198,18 +197,18 @@ QWidget* COV_SysIoWnd::createButtonRow()
     auto* row = new QWidget;
     auto* layout = new QGridLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
-    m_outputDisable = new QCheckBox(QStringLiteral(" Output Disable"));
+    m_outputDisable = new QCheckBox(tr(" Output Disable"));
     m_outputDisable->setObjectName(QStringLiteral("outputDisable"));
-    m_outputDisable->setToolTip(QStringLiteral("Lock every output against clicks"));
-    m_allAlarmResetOn = makeNamedButton(QStringLiteral("All Alm Rst On"), "allAlarmResetOn",
-                                        QStringLiteral("Alarm-reset output of every axis on"));
-    m_allAlarmResetOff = makeNamedButton(QStringLiteral("All Alm Rst Off"), "allAlarmResetOff",
-                                         QStringLiteral("Alarm-reset output of every axis off"));
-    m_allServoOn = makeNamedButton(QStringLiteral("All Servo On"), "allServoOn",
-                                   QStringLiteral("Servo-on output of every axis on"));
-    m_allServoOff = makeNamedButton(QStringLiteral("All Servo Off"), "allServoOff",
-                                    QStringLiteral("Servo-on output of every axis off"));
-    m_close = makeNamedButton(QStringLiteral("Close"), "closeButton");
+    m_outputDisable->setToolTip(tr("Lock every output against clicks"));
+    m_allAlarmResetOn = makeNamedButton(tr("All Alm Rst On"), "allAlarmResetOn",
+                                        tr("Alarm-reset output of every axis on"));
+    m_allAlarmResetOff = makeNamedButton(tr("All Alm Rst Off"), "allAlarmResetOff",
+                                         tr("Alarm-reset output of every axis off"));
+    m_allServoOn =
+        makeNamedButton(tr("All Servo On"), "allServoOn", tr("Servo-on output of every axis on"));
+    m_allServoOff = makeNamedButton(tr("All Servo Off"), "allServoOff",
+                                    tr("Servo-on output of every axis off"));
+    m_close = makeNamedButton(tr("Close"), "closeButton");
     layout->addWidget(m_outputDisable, 0, 0);
     layout->addWidget(m_allAlarmResetOn, 0, 1);
     layout->addWidget(m_allAlarmResetOff, 0, 2);
@@ -260,9 +259,8 @@ void COV_SysIoWnd::fillCardCombo()
     const AppState& state = m_context.state;
     NumberList::fillActiveCards(*m_cardCombo, state);
     // The title names the card it was built for, until the next controller change.
-    setWindowTitle(QStringLiteral("System IO - %1(%2)")
-                       .arg(state.modelName(state.active.card))
-                       .arg(state.active.card));
+    setWindowTitle(
+        tr("System IO - %1(%2)").arg(state.modelName(state.active.card)).arg(state.active.card));
     m_model.setCard(state.active.family, state.active.card, state.activeAxisCount());
 }
 
@@ -275,19 +273,19 @@ void COV_SysIoWnd::setUpLamps()
             CLedButton* lamp = inputLamp(axis, row);
             setLampFaces(lamp, present);
             const char* signal = kInputRows[static_cast<std::size_t>(row)].signal;
-            lamp->setToolTip(present ? QStringLiteral("Axis %1 %2: green while on, grey while off")
+            lamp->setToolTip(present ? tr("Axis %1 %2: green while on, grey while off")
                                            .arg(axis)
                                            .arg(QLatin1String(signal))
-                                     : QStringLiteral("Axis %1: not on this card").arg(axis));
+                                     : tr("Axis %1: not on this card").arg(axis));
         }
         for (int row = 0; row < SystemIoModel::kOutputRows; ++row) {
             OutputButton* button = outputButton(axis, row);
             setOutputFaces(button, present);
             button->setToolTip(
-                present ? QStringLiteral("Axis %1 %2")
+                present ? tr("Axis %1 %2")
                               .arg(axis)
                               .arg(QLatin1String(kOutputRows[static_cast<std::size_t>(row)].signal))
-                        : QStringLiteral("Axis %1: not on this card").arg(axis));
+                        : tr("Axis %1: not on this card").arg(axis));
         }
     }
     setOutputFaces(m_runLed, true);

@@ -25,10 +25,10 @@
 #include <QSignalBlocker>
 
 namespace {
-const QString kNotChecked =
-    QStringLiteral("Selected axis in not checked !\n Please check selected axis !");
-const QString kTwoAxes = QStringLiteral("Please Select at least 2 axes !");
-const QString kGantryError = QStringLiteral("Gantry Limit Error !");
+const char* const kNotChecked = QT_TRANSLATE_NOOP(
+    "COV_MnMtnWnd", "Selected axis in not checked !\n Please check selected axis !");
+const char* const kTwoAxes = QT_TRANSLATE_NOOP("COV_MnMtnWnd", "Please Select at least 2 axes !");
+const char* const kGantryError = QT_TRANSLATE_NOOP("COV_MnMtnWnd", "Gantry Limit Error !");
 
 } // namespace
 
@@ -153,14 +153,13 @@ void COV_MnMtnWnd::fillCardCombo()
 void COV_MnMtnWnd::reload()
 {
     const AppState& state = m_context.state;
-    setWindowTitle(
-        QStringLiteral("Multi Axis Motion - %1(%2)").arg(state.modelName(m_card)).arg(m_card));
+    setWindowTitle(tr("Multi Axis Motion - %1(%2)").arg(state.modelName(m_card)).arg(m_card));
     m_axisCount = std::min(state.registry.axisCount(family(), m_card), MultiAxisSlots::kMaxAxes);
     {
         const QSignalBlocker quiet(m_form.axisList);
         m_form.axisList->clear();
         for (int axis = 0; axis < m_axisCount; ++axis) {
-            auto* row = new QListWidgetItem(QStringLiteral("%1 Axis").arg(axis), m_form.axisList);
+            auto* row = new QListWidgetItem(tr("%1 Axis").arg(axis), m_form.axisList);
             row->setFlags(row->flags() | Qt::ItemIsUserCheckable);
             row->setCheckState(Qt::Unchecked);
         }
@@ -266,7 +265,7 @@ bool COV_MnMtnWnd::focusedChecked(bool tell)
     if (row != nullptr && row->checkState() == Qt::Checked)
         return true;
     if (tell)
-        m_context.prompt.inform(kNotChecked);
+        m_context.prompt.inform(tr(kNotChecked));
     return false;
 }
 
@@ -280,7 +279,7 @@ void COV_MnMtnWnd::forEachChecked(const std::function<void(AxisNo)>& act)
 void COV_MnMtnWnd::updateServoCaption()
 {
     const bool on = m_context.board.GetSvOn(family(), m_card, static_cast<AxisNo>(m_focused)) != 0;
-    m_form.servo->setText(on ? QStringLiteral("Servo Off") : QStringLiteral("Servo On"));
+    m_form.servo->setText(on ? tr("Servo Off") : tr("Servo On"));
 }
 
 void COV_MnMtnWnd::onServoClicked()
@@ -290,7 +289,7 @@ void COV_MnMtnWnd::onServoClicked()
     const bool on = m_context.board.GetSvOn(family(), m_card, static_cast<AxisNo>(m_focused)) == 0;
     forEachChecked(
         [this, on](AxisNo axis) { m_context.board.PutSvOn(family(), m_card, axis, on ? 1 : 0); });
-    m_form.servo->setText(on ? QStringLiteral("Servo Off") : QStringLiteral("Servo On"));
+    m_form.servo->setText(on ? tr("Servo Off") : tr("Servo On"));
 }
 
 void COV_MnMtnWnd::onFocusChanged(int row)
@@ -298,8 +297,8 @@ void COV_MnMtnWnd::onFocusChanged(int row)
     if (row < 0 || row == m_focused)
         return;
     m_form.servo->setText(m_context.board.GetSvOn(family(), m_card, static_cast<AxisNo>(row)) != 0
-                              ? QStringLiteral("Servo Off")
-                              : QStringLiteral("Servo On"));
+                              ? tr("Servo Off")
+                              : tr("Servo On"));
     promptIfChanged(family());
     if (focusedChecked(false))
         m_slots.setPositions(static_cast<AxisNo>(m_focused), fieldNumber(m_form.position1),
@@ -317,10 +316,9 @@ void COV_MnMtnWnd::onMotionTypeChanged(int index)
     }
     const auto type = static_cast<MotionType>(index);
     const bool jog = type == MotionType::Jog;
-    m_form.accelLabel->setText(jog ? QStringLiteral(" Acc/Dec Time")
-                                   : QStringLiteral(" Accel Time"));
-    m_form.position2Label->setText(type == MotionType::Relative ? QStringLiteral(" Distance")
-                                                                : QStringLiteral(" Position 2"));
+    m_form.accelLabel->setText(jog ? tr(" Acc/Dec Time") : tr(" Accel Time"));
+    m_form.position2Label->setText(type == MotionType::Relative ? tr(" Distance")
+                                                                : tr(" Position 2"));
     m_form.decel->setEnabled(!jog);
     if (jog)
         m_form.repeat->setChecked(false);
@@ -343,21 +341,21 @@ void COV_MnMtnWnd::layoutMotionButtons()
 {
     switch (motionType()) {
     case MotionType::Jog:
-        m_form.minus->setText(QStringLiteral("-Jog"));
-        m_form.plus->setText(QStringLiteral("+Jog"));
+        m_form.minus->setText(tr("-Jog"));
+        m_form.plus->setText(tr("+Jog"));
         break;
     case MotionType::Relative:
-        m_form.minus->setText(QStringLiteral("Dec."));
-        m_form.plus->setText(QStringLiteral("Inc"));
+        m_form.minus->setText(tr("Dec."));
+        m_form.plus->setText(tr("Inc"));
         break;
     case MotionType::Absolute:
-        m_form.minus->setText(QStringLiteral("Pos. 1"));
-        m_form.plus->setText(QStringLiteral("Pos. 2"));
+        m_form.minus->setText(tr("Pos. 1"));
+        m_form.plus->setText(tr("Pos. 2"));
         break;
     }
     const bool autoMove = motionType() == MotionType::Absolute && m_form.repeat->isChecked();
     if (autoMove)
-        m_form.minus->setText(QStringLiteral("Auto Move"));
+        m_form.minus->setText(tr("Auto Move"));
     m_form.plus->setVisible(!autoMove);
 }
 
@@ -405,7 +403,7 @@ void COV_MnMtnWnd::pressMotion(MotionDirection direction)
     if (!focusedChecked(true))
         return;
     if (m_checked.size() < 2) {
-        m_context.prompt.inform(kTwoAxes);
+        m_context.prompt.inform(tr(kTwoAxes));
         return;
     }
     m_sequencer.press(direction);
@@ -425,7 +423,7 @@ void COV_MnMtnWnd::checkGantry()
                                 ? m_context.board.GetActualPos(target.family, target.card, axis)
                                 : m_context.board.GetCommandPos(target.family, target.card, axis));
     if (GantryCheck::firstPairOverLimit(positions, m_errorLimit) >= 0)
-        m_sequencer.abortWith(kGantryError);
+        m_sequencer.abortWith(tr(kGantryError));
 }
 
 void COV_MnMtnWnd::onErrorLimitEdited(const QString& text)

@@ -29,24 +29,24 @@ QWidget* COV_SnMtnHomeWnd::createModeGroup()
     m_mode = new QComboBox;
     m_mode->setObjectName(QStringLiteral("homeMode"));
     m_mode->addItems({
-        QStringLiteral("0 : LowHome (ORG)"),
-        QStringLiteral("1 : LowHome (ORG+EZ)"),
-        QStringLiteral("2 : HighHome (ORG)"),
-        QStringLiteral("3 : HighHome (ORG+EZ)"),
-        QStringLiteral("4 : LowHome (Limit)"),
-        QStringLiteral("5 : LowHome (Limit+EZ)"),
-        QStringLiteral("6 : HighHome (Limit)"),
-        QStringLiteral("7 : HighHome (Limit+EZ)"),
-        QStringLiteral("8 : LowHome (EZ)"),
-        QStringLiteral("9 : CurPos (ORG)"),
+        tr("0 : LowHome (ORG)"),
+        tr("1 : LowHome (ORG+EZ)"),
+        tr("2 : HighHome (ORG)"),
+        tr("3 : HighHome (ORG+EZ)"),
+        tr("4 : LowHome (Limit)"),
+        tr("5 : LowHome (Limit+EZ)"),
+        tr("6 : HighHome (Limit)"),
+        tr("7 : HighHome (Limit+EZ)"),
+        tr("8 : LowHome (EZ)"),
+        tr("9 : CurPos (ORG)"),
     });
-    grid.addRow(QStringLiteral(" Home Mode"), m_mode);
+    grid.addRow(tr(" Home Mode"), m_mode);
 
     // The direction is part of the home mode; the combo stays hidden and unused.
-    auto* directionLabel = new QLabel(QStringLiteral(" Home Direction "));
+    auto* directionLabel = new QLabel(tr(" Home Direction "));
     auto* direction = new QComboBox;
     direction->setObjectName(QStringLiteral("homeDirection"));
-    direction->addItems({QStringLiteral("CW"), QStringLiteral("CCW")});
+    direction->addItems({tr("CW"), tr("CCW")});
     grid.addRow(directionLabel, direction);
     directionLabel->hide();
     direction->hide();
@@ -57,12 +57,11 @@ QWidget* COV_SnMtnHomeWnd::createSpeedGroup()
 {
     auto* group = new QGroupBox;
     PageFieldGrid grid(group);
-    const QString pps = QStringLiteral("[pps]");
-    m_highSpeed = grid.addField(QStringLiteral(" High Speed"), pps, "highSpeed");
-    m_lowSpeed = grid.addField(QStringLiteral(" Low Speed"), pps, "lowSpeed");
-    m_accDec =
-        grid.addField(QStringLiteral(" Acc/Dec Time"), QStringLiteral("[msec]"), "accDecTime");
-    m_offset = grid.addField(QStringLiteral(" Offset"), QStringLiteral("[pulse]"), "offset");
+    const QString pps = tr("[pps]");
+    m_highSpeed = grid.addField(tr(" High Speed"), pps, "highSpeed");
+    m_lowSpeed = grid.addField(tr(" Low Speed"), pps, "lowSpeed");
+    m_accDec = grid.addField(tr(" Acc/Dec Time"), tr("[msec]"), "accDecTime");
+    m_offset = grid.addField(tr(" Offset"), tr("[pulse]"), "offset");
     return group;
 }
 

@@ -16,9 +16,9 @@
 #include <QVBoxLayout>
 
 namespace {
-const QString kPps = QStringLiteral("[pps]");
-const QString kMsec = QStringLiteral("[msec]");
-const QString kPulse = QStringLiteral("[pulse]");
+const char* const kPps = QT_TRANSLATE_NOOP("COV_SnMtnPtpWnd", "[pps]");
+const char* const kMsec = QT_TRANSLATE_NOOP("COV_SnMtnPtpWnd", "[msec]");
+const char* const kPulse = QT_TRANSLATE_NOOP("COV_SnMtnPtpWnd", "[pulse]");
 } // namespace
 
 COV_SnMtnPtpWnd::COV_SnMtnPtpWnd(AppState& state, BoardApi& board, PromptService& prompt,
@@ -46,13 +46,12 @@ QWidget* COV_SnMtnPtpWnd::createProfileGroup()
     PageFieldGrid grid(group);
     m_motionTypeCombo = new QComboBox;
     m_motionTypeCombo->setObjectName(QStringLiteral("motionType"));
-    m_motionTypeCombo->addItems({QStringLiteral("0 : Jog"), QStringLiteral("1 : Relative"),
-                                 QStringLiteral("2 : Absolute")});
-    grid.addRow(QStringLiteral(" Motion Type"), m_motionTypeCombo);
-    m_drive = grid.addField(QStringLiteral(" Drive Speed"), kPps, "driveSpeed");
-    m_initial = grid.addField(QStringLiteral(" Initial Speed"), kPps, "initialSpeed");
-    m_accel = grid.addField(QStringLiteral(" Accel Time"), kMsec, "accelTime", &m_accelLabel);
-    m_decel = grid.addField(QStringLiteral(" Decel Time"), kMsec, "decelTime");
+    m_motionTypeCombo->addItems({tr("0 : Jog"), tr("1 : Relative"), tr("2 : Absolute")});
+    grid.addRow(tr(" Motion Type"), m_motionTypeCombo);
+    m_drive = grid.addField(tr(" Drive Speed"), tr(kPps), "driveSpeed");
+    m_initial = grid.addField(tr(" Initial Speed"), tr(kPps), "initialSpeed");
+    m_accel = grid.addField(tr(" Accel Time"), tr(kMsec), "accelTime", &m_accelLabel);
+    m_decel = grid.addField(tr(" Decel Time"), tr(kMsec), "decelTime");
     return group;
 }
 
@@ -60,9 +59,9 @@ QWidget* COV_SnMtnPtpWnd::createRepeatGroup()
 {
     auto* group = new QGroupBox;
     PageFieldGrid grid(group);
-    m_repeat = new QCheckBox(QStringLiteral(" Repeat"));
+    m_repeat = new QCheckBox(tr(" Repeat"));
     m_repeat->setObjectName(QStringLiteral("repeat"));
-    m_infinite = new QCheckBox(QStringLiteral("Infinite"));
+    m_infinite = new QCheckBox(tr("Infinite"));
     m_infinite->setObjectName(QStringLiteral("infinite"));
     // Their row keeps its room while they are hidden, so the page does not change height
     // with the motion type.
@@ -72,8 +71,8 @@ QWidget* COV_SnMtnPtpWnd::createRepeatGroup()
         box->setSizePolicy(policy);
     }
     grid.addRow(m_repeat, m_infinite);
-    m_count = grid.addField(QStringLiteral(" Count"), QString(), "count");
-    m_delay = grid.addField(QStringLiteral(" Delay Time"), kMsec, "delayTime");
+    m_count = grid.addField(tr(" Count"), QString(), "count");
+    m_delay = grid.addField(tr(" Delay Time"), tr(kMsec), "delayTime");
     return group;
 }
 
@@ -81,9 +80,8 @@ QWidget* COV_SnMtnPtpWnd::createPositionGroup()
 {
     auto* group = new QGroupBox;
     PageFieldGrid grid(group);
-    m_position1 = grid.addField(QStringLiteral(" Position 1"), kPulse, "position1");
-    m_position2 =
-        grid.addField(QStringLiteral(" Position 2"), kPulse, "position2", &m_position2Label);
+    m_position1 = grid.addField(tr(" Position 1"), tr(kPulse), "position1");
+    m_position2 = grid.addField(tr(" Position 2"), tr(kPulse), "position2", &m_position2Label);
     return group;
 }
 
@@ -91,8 +89,8 @@ QWidget* COV_SnMtnPtpWnd::createDisplayGroup()
 {
     auto* group = new QGroupBox;
     PageFieldGrid grid(group);
-    m_repeatCount = grid.addField(QStringLiteral(" Repeat Count"), QString(), "repeatCount");
-    m_cycleTime = grid.addField(QStringLiteral(" Cycle Time"), kMsec, "cycleTime");
+    m_repeatCount = grid.addField(tr(" Repeat Count"), QString(), "repeatCount");
+    m_cycleTime = grid.addField(tr(" Cycle Time"), tr(kMsec), "cycleTime");
     m_repeatCount->setReadOnly(true);
     m_cycleTime->setReadOnly(true);
     return group;
@@ -125,10 +123,9 @@ void COV_SnMtnPtpWnd::applyFieldStates()
     const bool relative = m_motionType == MotionType::Relative;
     m_position1->setEnabled(m_motionType == MotionType::Absolute);
     m_position2->setEnabled(!jog);
-    m_position2Label->setText(relative ? QStringLiteral(" Distance")
-                                       : QStringLiteral(" Position 2"));
+    m_position2Label->setText(relative ? tr(" Distance") : tr(" Position 2"));
     m_decel->setEnabled(!jog);
-    m_accelLabel->setText(jog ? QStringLiteral(" Acc/Dec Time") : QStringLiteral(" Accel Time"));
+    m_accelLabel->setText(jog ? tr(" Acc/Dec Time") : tr(" Accel Time"));
     m_repeat->setEnabled(!jog);
     m_repeat->setVisible(!jog);
     if (jog)

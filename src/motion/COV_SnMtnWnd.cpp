@@ -74,10 +74,10 @@ QWidget* COV_SnMtnWnd::createSelectorRow()
     m_cardCombo->setObjectName(QStringLiteral("cardCombo"));
     m_axisCombo = new QComboBox;
     m_axisCombo->setObjectName(QStringLiteral("axisCombo"));
-    layout->addWidget(new QLabel(QStringLiteral("Card No. : ")));
+    layout->addWidget(new QLabel(tr("Card No. : ")));
     layout->addWidget(m_cardCombo);
     layout->addSpacing(16);
-    layout->addWidget(new QLabel(QStringLiteral("Axis No. : ")));
+    layout->addWidget(new QLabel(tr("Axis No. : ")));
     layout->addWidget(m_axisCombo);
     layout->addStretch();
     return row;
@@ -91,8 +91,8 @@ QWidget* COV_SnMtnWnd::createPageArea()
     layout->setSpacing(0);
     m_tabBar = new QTabBar;
     m_tabBar->setObjectName(QStringLiteral("tabBar"));
-    m_tabBar->addTab(QStringLiteral("Home"));
-    m_tabBar->addTab(QStringLiteral("Point To Point"));
+    m_tabBar->addTab(tr("Home"));
+    m_tabBar->addTab(tr("Point To Point"));
     m_pages = new QStackedWidget;
     m_pages->setFrameShape(QFrame::StyledPanel);
     m_homePage = new COV_SnMtnHomeWnd(m_context.state, m_context.board);
@@ -125,16 +125,16 @@ QWidget* COV_SnMtnWnd::createButtonColumn()
     auto* column = new QWidget;
     auto* layout = new QVBoxLayout(column);
     layout->setContentsMargins(0, 0, 0, 0);
-    m_eStop = makeNamedButton(QStringLiteral("E-Stop"), "eStopButton");
-    m_sStop = makeNamedButton(QStringLiteral("S-Stop"), "sStopButton");
-    m_servo = makeNamedButton(QStringLiteral("Servo On"), "servoButton");
-    m_alarmReset = makeNamedButton(QStringLiteral("Alarm Reset"), "alarmResetButton");
-    m_counterClear = makeNamedButton(QStringLiteral("Counter Clear"), "counterClearButton");
-    m_setPrm = makeNamedButton(QStringLiteral("Set Prm"), "setPrmButton");
-    m_parameterSetup = makeNamedButton(QStringLiteral("Parameter Setup"), "parameterSetupButton");
-    m_scope = makeNamedButton(QStringLiteral("Scope"), "scopeButton");
-    m_scope->setToolTip(QStringLiteral("Record this axis' positions and speed"));
-    m_close = makeNamedButton(QStringLiteral("Close"), "closeButton");
+    m_eStop = makeNamedButton(tr("E-Stop"), "eStopButton");
+    m_sStop = makeNamedButton(tr("S-Stop"), "sStopButton");
+    m_servo = makeNamedButton(tr("Servo On"), "servoButton");
+    m_alarmReset = makeNamedButton(tr("Alarm Reset"), "alarmResetButton");
+    m_counterClear = makeNamedButton(tr("Counter Clear"), "counterClearButton");
+    m_setPrm = makeNamedButton(tr("Set Prm"), "setPrmButton");
+    m_parameterSetup = makeNamedButton(tr("Parameter Setup"), "parameterSetupButton");
+    m_scope = makeNamedButton(tr("Scope"), "scopeButton");
+    m_scope->setToolTip(tr("Record this axis' positions and speed"));
+    m_close = makeNamedButton(tr("Close"), "closeButton");
     m_eStop->setMinimumHeight(40);
     m_sStop->setMinimumHeight(40);
     for (QPushButton* button : {m_eStop, m_sStop, m_servo})
@@ -210,8 +210,7 @@ void COV_SnMtnWnd::fillCardCombo()
 void COV_SnMtnWnd::reload()
 {
     AppState& state = m_context.state;
-    setWindowTitle(
-        QStringLiteral("Single Axis Motion - %1(%2)").arg(state.modelName(m_card)).arg(m_card));
+    setWindowTitle(tr("Single Axis Motion - %1(%2)").arg(state.modelName(m_card)).arg(m_card));
     m_axis = static_cast<AxisNo>(NumberList::fillAxes(*m_axisCombo, state, m_card, m_axis));
     updateServoCaption();
     loadPages();
@@ -229,7 +228,7 @@ void COV_SnMtnWnd::loadPages()
 void COV_SnMtnWnd::updateServoCaption()
 {
     m_servoOn = m_context.board.GetSvOn(m_context.state.active.family, m_card, m_axis) != 0;
-    m_servo->setText(m_servoOn ? QStringLiteral("Servo Off") : QStringLiteral("Servo On"));
+    m_servo->setText(m_servoOn ? tr("Servo Off") : tr("Servo On"));
 }
 
 void COV_SnMtnWnd::layoutMotionButtons()
@@ -240,23 +239,23 @@ void COV_SnMtnWnd::layoutMotionButtons()
     if (pointToPoint && !autoMove) {
         switch (type) {
         case MotionType::Jog:
-            m_minus->setText(QStringLiteral("-Jog"));
-            m_plus->setText(QStringLiteral("+Jog"));
+            m_minus->setText(tr("-Jog"));
+            m_plus->setText(tr("+Jog"));
             break;
         case MotionType::Relative:
-            m_minus->setText(QStringLiteral("Dec."));
-            m_plus->setText(QStringLiteral("Inc"));
+            m_minus->setText(tr("Dec."));
+            m_plus->setText(tr("Inc"));
             break;
         case MotionType::Absolute:
-            m_minus->setText(QStringLiteral("Pos. 1"));
-            m_plus->setText(QStringLiteral("Pos. 2"));
+            m_minus->setText(tr("Pos. 1"));
+            m_plus->setText(tr("Pos. 2"));
             break;
         }
         m_plus->show();
         return;
     }
     m_plus->hide();
-    m_minus->setText(pointToPoint ? QStringLiteral("Auto Move") : QStringLiteral("Home"));
+    m_minus->setText(pointToPoint ? tr("Auto Move") : tr("Home"));
 }
 
 void COV_SnMtnWnd::promptForVisiblePage(BoardFamily family)
@@ -326,7 +325,7 @@ void COV_SnMtnWnd::onServoClicked()
     const bool on = m_context.board.GetSvOn(family, m_card, m_axis) == 0;
     m_context.board.PutSvOn(family, m_card, m_axis, on ? 1 : 0);
     m_servoOn = on;
-    m_servo->setText(on ? QStringLiteral("Servo Off") : QStringLiteral("Servo On"));
+    m_servo->setText(on ? tr("Servo Off") : tr("Servo On"));
 }
 
 void COV_SnMtnWnd::onSetPrmClicked()

@@ -12,11 +12,11 @@ CounterPresets::CounterPresets(AppState& state, BoardApi& board, QWidget* parent
     : QGroupBox(parent), m_state(state), m_board(board)
 {
     PageFieldGrid grid(this);
-    const QString pulse = QStringLiteral("[pulse]");
-    m_setCommand = grid.addField(QStringLiteral(" Set Command"), pulse, "setCommand");
-    QPushButton* command = grid.addButton(QStringLiteral("Command"), "commandButton");
-    m_setActual = grid.addField(QStringLiteral(" Set Actual"), pulse, "setActual");
-    QPushButton* actual = grid.addButton(QStringLiteral("Actual"), "actualButton");
+    const QString pulse = tr("[pulse]");
+    m_setCommand = grid.addField(tr(" Set Command"), pulse, "setCommand");
+    QPushButton* command = grid.addButton(tr("Command"), "commandButton");
+    m_setActual = grid.addField(tr(" Set Actual"), pulse, "setActual");
+    QPushButton* actual = grid.addButton(tr("Actual"), "actualButton");
     setFieldNumber(m_setCommand, 0);
     setFieldNumber(m_setActual, 0);
     connect(command, &QPushButton::clicked, this, [this] { preset(TestValue::SetCommand); });

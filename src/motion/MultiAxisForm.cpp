@@ -15,9 +15,9 @@
 #include <QVBoxLayout>
 
 namespace {
-const QString kPps = QStringLiteral("[pps]");
-const QString kMsec = QStringLiteral("[msec]");
-const QString kPulse = QStringLiteral("[pulse]");
+const char* const kPps = QT_TRANSLATE_NOOP("MultiAxisForm", "[pps]");
+const char* const kMsec = QT_TRANSLATE_NOOP("MultiAxisForm", "[msec]");
+const char* const kPulse = QT_TRANSLATE_NOOP("MultiAxisForm", "[pulse]");
 
 QCheckBox* makeCheckBox(const QString& caption, const char* name)
 {
@@ -75,17 +75,17 @@ QWidget* MultiAxisForm::createAxisColumn()
     auto* cardRow = new QHBoxLayout;
     cardCombo = new QComboBox;
     cardCombo->setObjectName(QStringLiteral("cardCombo"));
-    cardRow->addWidget(new QLabel(QStringLiteral("Card No. : ")));
+    cardRow->addWidget(new QLabel(tr("Card No. : ")));
     cardRow->addWidget(cardCombo, 1);
     layout->addLayout(cardRow);
-    layout->addWidget(new QLabel(QStringLiteral("Select Axis")));
+    layout->addWidget(new QLabel(tr("Select Axis")));
     axisList = new QListWidget;
     axisList->setObjectName(QStringLiteral("axisList"));
     axisList->setToolTip(QStringLiteral("Tick the axes that move together; the highlighted "
                                         "axis is the one the fields show"));
     axisList->setMaximumHeight(8 * 19 + 6);
     layout->addWidget(axisList);
-    allAxes = makeCheckBox(QStringLiteral(" All Axes"), "allAxes");
+    allAxes = makeCheckBox(tr(" All Axes"), "allAxes");
     layout->addWidget(allAxes);
     return column;
 }
@@ -96,15 +96,14 @@ QWidget* MultiAxisForm::createProfileGroup()
     PageFieldGrid grid(group);
     motionTypeCombo = new QComboBox;
     motionTypeCombo->setObjectName(QStringLiteral("motionType"));
-    motionTypeCombo->addItems({QStringLiteral("0 : Jog"), QStringLiteral("1 : Relative"),
-                               QStringLiteral("2 : Absolute")});
-    grid.addRow(QStringLiteral(" Motion Type"), motionTypeCombo);
-    drive = grid.addField(QStringLiteral(" Drive Speed"), kPps, "driveSpeed");
-    initial = grid.addField(QStringLiteral(" Initial Speed"), kPps, "initialSpeed");
-    accel = grid.addField(QStringLiteral(" Accel Time"), kMsec, "accelTime", &accelLabel);
-    decel = grid.addField(QStringLiteral(" Decel Time"), kMsec, "decelTime");
-    setAll = makeCheckBox(QStringLiteral(" Set All Selected Axes"), "setAll");
-    setPrm = makeNamedButton(QStringLiteral("Set Prm"), "setPrmButton");
+    motionTypeCombo->addItems({tr("0 : Jog"), tr("1 : Relative"), tr("2 : Absolute")});
+    grid.addRow(tr(" Motion Type"), motionTypeCombo);
+    drive = grid.addField(tr(" Drive Speed"), tr(kPps), "driveSpeed");
+    initial = grid.addField(tr(" Initial Speed"), tr(kPps), "initialSpeed");
+    accel = grid.addField(tr(" Accel Time"), tr(kMsec), "accelTime", &accelLabel);
+    decel = grid.addField(tr(" Decel Time"), tr(kMsec), "decelTime");
+    setAll = makeCheckBox(tr(" Set All Selected Axes"), "setAll");
+    setPrm = makeNamedButton(tr("Set Prm"), "setPrmButton");
     addSpanningRow(group, setAll, setPrm);
     compact(group, false);
     return group;
@@ -114,15 +113,15 @@ QWidget* MultiAxisForm::createRepeatGroup()
 {
     auto* group = new QGroupBox;
     PageFieldGrid grid(group);
-    repeat = makeCheckBox(QStringLiteral(" Repeat"), "repeat");
-    infinite = makeCheckBox(QStringLiteral("Infinite"), "infinite");
+    repeat = makeCheckBox(tr(" Repeat"), "repeat");
+    infinite = makeCheckBox(tr("Infinite"), "infinite");
     grid.addRow(repeat, infinite);
-    count = grid.addField(QStringLiteral(" Count"), QString(), "count");
-    delay = grid.addField(QStringLiteral(" Delay Time"), kMsec, "delayTime");
-    position1 = grid.addField(QStringLiteral(" Position 1"), kPulse, "position1");
-    position2 = grid.addField(QStringLiteral(" Position 2"), kPulse, "position2", &position2Label);
-    applyAll = makeCheckBox(QStringLiteral(" Apply All Selected Axes"), "applyAll");
-    apply = makeNamedButton(QStringLiteral("Apply"), "applyButton");
+    count = grid.addField(tr(" Count"), QString(), "count");
+    delay = grid.addField(tr(" Delay Time"), tr(kMsec), "delayTime");
+    position1 = grid.addField(tr(" Position 1"), tr(kPulse), "position1");
+    position2 = grid.addField(tr(" Position 2"), tr(kPulse), "position2", &position2Label);
+    applyAll = makeCheckBox(tr(" Apply All Selected Axes"), "applyAll");
+    apply = makeNamedButton(tr("Apply"), "applyButton");
     addSpanningRow(group, applyAll, apply);
     compact(group, false);
     return group;
@@ -132,12 +131,12 @@ QWidget* MultiAxisForm::createCounterGroup()
 {
     auto* group = new QGroupBox;
     PageFieldGrid grid(group);
-    setCommand = grid.addField(QStringLiteral(" Set Command"), kPulse, "setCommand");
-    commandButton = grid.addButton(QStringLiteral("Command"), "commandButton");
-    setActual = grid.addField(QStringLiteral(" Set Actual"), kPulse, "setActual");
-    actualButton = grid.addButton(QStringLiteral("Actual"), "actualButton");
-    repeatCount = grid.addField(QStringLiteral(" Repeat Count"), QString(), "repeatCount");
-    cycleTime = grid.addField(QStringLiteral(" Cycle Time"), kMsec, "cycleTime");
+    setCommand = grid.addField(tr(" Set Command"), tr(kPulse), "setCommand");
+    commandButton = grid.addButton(tr("Command"), "commandButton");
+    setActual = grid.addField(tr(" Set Actual"), tr(kPulse), "setActual");
+    actualButton = grid.addButton(tr("Actual"), "actualButton");
+    repeatCount = grid.addField(tr(" Repeat Count"), QString(), "repeatCount");
+    cycleTime = grid.addField(tr(" Cycle Time"), tr(kMsec), "cycleTime");
     for (QLineEdit* display : {repeatCount, cycleTime})
         display->setReadOnly(true);
     compact(group, true);
@@ -148,16 +147,16 @@ QWidget* MultiAxisForm::createGantryGroup()
 {
     auto* group = new QGroupBox;
     PageFieldGrid grid(group);
-    gantryBox = makeCheckBox(QStringLiteral(" Gantry Error Check"), "gantryCheck");
+    gantryBox = makeCheckBox(tr(" Gantry Error Check"), "gantryCheck");
     gantryBox->setToolTip(QStringLiteral("Every millisecond while the axes move, compare "
                                          "each checked axis with the next; stop them all "
                                          "when two differ by more than the error limit"));
     grid.addRow(gantryBox, new QWidget);
     gantrySource = new QComboBox;
     gantrySource->setObjectName(QStringLiteral("gantrySource"));
-    gantrySource->addItems({QStringLiteral("0 : Command"), QStringLiteral("1 : Actual")});
-    grid.addRow(QStringLiteral(" Position"), gantrySource);
-    errorLimitEdit = grid.addField(QStringLiteral(" Error Limit "), kPulse, "errorLimit");
+    gantrySource->addItems({tr("0 : Command"), tr("1 : Actual")});
+    grid.addRow(tr(" Position"), gantrySource);
+    errorLimitEdit = grid.addField(tr(" Error Limit "), tr(kPulse), "errorLimit");
     compact(group, false);
     return group;
 }
@@ -167,19 +166,19 @@ QWidget* MultiAxisForm::createButtonColumn()
     auto* column = new QWidget;
     auto* layout = new QVBoxLayout(column);
     layout->setContentsMargins(0, 0, 0, 0);
-    eStop = makeNamedButton(QStringLiteral("E-Stop"), "eStopButton");
-    sStop = makeNamedButton(QStringLiteral("S-Stop"), "sStopButton");
-    eStop->setToolTip(QStringLiteral("Stop the checked axes at once"));
-    sStop->setToolTip(QStringLiteral("Stop the checked axes with their deceleration"));
-    servo = makeNamedButton(QStringLiteral("Servo On"), "servoButton");
-    minus = makeNamedButton(QStringLiteral("-Jog"), "minusButton");
-    plus = makeNamedButton(QStringLiteral("+Jog"), "plusButton");
-    alarmReset = makeNamedButton(QStringLiteral("Alarm Reset"), "alarmResetButton");
-    counterClear = makeNamedButton(QStringLiteral("Counter Clear"), "counterClearButton");
-    parameterSetup = makeNamedButton(QStringLiteral("Parameter Setup"), "parameterSetupButton");
-    scope = makeNamedButton(QStringLiteral("Scope"), "scopeButton");
-    scope->setToolTip(QStringLiteral("Record the axes' positions and speeds"));
-    close = makeNamedButton(QStringLiteral("Close"), "closeButton");
+    eStop = makeNamedButton(tr("E-Stop"), "eStopButton");
+    sStop = makeNamedButton(tr("S-Stop"), "sStopButton");
+    eStop->setToolTip(tr("Stop the checked axes at once"));
+    sStop->setToolTip(tr("Stop the checked axes with their deceleration"));
+    servo = makeNamedButton(tr("Servo On"), "servoButton");
+    minus = makeNamedButton(tr("-Jog"), "minusButton");
+    plus = makeNamedButton(tr("+Jog"), "plusButton");
+    alarmReset = makeNamedButton(tr("Alarm Reset"), "alarmResetButton");
+    counterClear = makeNamedButton(tr("Counter Clear"), "counterClearButton");
+    parameterSetup = makeNamedButton(tr("Parameter Setup"), "parameterSetupButton");
+    scope = makeNamedButton(tr("Scope"), "scopeButton");
+    scope->setToolTip(tr("Record the axes' positions and speeds"));
+    close = makeNamedButton(tr("Close"), "closeButton");
     for (QPushButton* big : {eStop, sStop})
         big->setMinimumHeight(40);
     for (QPushButton* big : {minus, plus})

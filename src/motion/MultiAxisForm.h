@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QCoreApplication>
+
 class QCheckBox;
 class QComboBox;
 class QLabel;
@@ -12,6 +14,8 @@ class QWidget;
 // profile and positions, the counters and gantry check, and the buttons.
 class MultiAxisForm
 {
+    Q_DECLARE_TR_FUNCTIONS(MultiAxisForm)
+
 public:
     explicit MultiAxisForm(QWidget* window);
 

@@ -43,9 +43,9 @@ COV_FilterSetWnd::COV_FilterSetWnd(BoardApi& board, QWidget* parent)
 {
     auto* layout = new QVBoxLayout(this);
     m_time = listFor("FilterTime");
-    layout->addWidget(rowFrame(QStringLiteral("Filter Time [msec]"), m_time));
+    layout->addWidget(rowFrame(tr("Filter Time [msec]"), m_time));
     for (const FilterRow& row : kRows) {
-        auto* box = new QCheckBox(QStringLiteral(" Enable"));
+        auto* box = new QCheckBox(tr(" Enable"));
         box->setObjectName(QLatin1String(row.parameter));
         m_boxes.append(box);
         // The three sensors share one row, as they share one board setting.
@@ -61,14 +61,14 @@ COV_FilterSetWnd::COV_FilterSetWnd(BoardApi& board, QWidget* parent)
 
 QString COV_FilterSetWnd::sensorCaption(AxisNo axis)
 {
-    return axis == 0 ? QStringLiteral("Enable\n(with EMG)") : QStringLiteral("Enable");
+    return axis == 0 ? tr("Enable\n(with EMG)") : tr("Enable");
 }
 
 QString COV_FilterSetWnd::externalCaption(BoardFamily family, AxisNo axis)
 {
     if (family != BoardFamily::RN)
-        return QStringLiteral("Enable");
-    return axis == 0 ? QStringLiteral("Enable\n(with SYNC)") : QStringLiteral("Enable\n");
+        return tr("Enable");
+    return axis == 0 ? tr("Enable\n(with SYNC)") : tr("Enable\n");
 }
 
 void COV_FilterSetWnd::Load(BoardFamily family)

@@ -66,14 +66,13 @@ COV_MtnPrmWnd::COV_MtnPrmWnd(BoardApi& board, PromptService& prompt, QWidget* pa
         ++cell;
     }
     cell += cell % 2;
-    grid->addWidget(createLimitGroup(QStringLiteral(" Soft-Limit "), {"softLimit", "Plus", "Minus"},
+    grid->addWidget(createLimitGroup(tr(" Soft-Limit "), {"softLimit", "Plus", "Minus"},
                                      m_softLimitUse, m_softLimitPlus, m_softLimitMinus,
-                                     QStringLiteral("+Soft-Limit"), QStringLiteral("-Soft-Limit")),
+                                     tr("+Soft-Limit"), tr("-Soft-Limit")),
                     cell / 2, 0);
-    grid->addWidget(createLimitGroup(QStringLiteral(" Count Ring "),
-                                     {"counterRing", "Command", "Actual"}, m_ringUse, m_ringCommand,
-                                     m_ringActual, QStringLiteral("Command"),
-                                     QStringLiteral("Actual")),
+    grid->addWidget(createLimitGroup(tr(" Count Ring "), {"counterRing", "Command", "Actual"},
+                                     m_ringUse, m_ringCommand, m_ringActual, tr("Command"),
+                                     tr("Actual")),
                     cell / 2, 1);
     grid->setRowStretch(cell / 2 + 1, 1);
 
@@ -84,7 +83,7 @@ COV_MtnPrmWnd::COV_MtnPrmWnd(BoardApi& board, PromptService& prompt, QWidget* pa
 
 QWidget* COV_MtnPrmWnd::createRangeGroup()
 {
-    QGroupBox* box = group(QStringLiteral(" Range Magnification"));
+    QGroupBox* box = group(tr(" Range Magnification"));
     auto* layout = new QHBoxLayout(box);
     m_magnification = new QComboBox;
     m_magnification->setObjectName(QStringLiteral("RangeMagnification"));
@@ -95,7 +94,7 @@ QWidget* COV_MtnPrmWnd::createRangeGroup()
     m_magnification->setCurrentIndex(99);
     m_magnification->lineEdit()->installEventFilter(this);
     m_magnification->setToolTip(
-        QStringLiteral("Speed magnification R (1 to 500): speeds run from R to R x 8000 pps"));
+        tr("Speed magnification R (1 to 500): speeds run from R to R x 8000 pps"));
     m_rangeMode = listFor("RangeMode");
     m_range = new QLabel(QStringLiteral("(100 ~ 800000)"));
     m_range->setObjectName(QStringLiteral("rangeText"));
@@ -112,7 +111,7 @@ QWidget* COV_MtnPrmWnd::createLimitGroup(const QString& title, const Names& name
 {
     QGroupBox* box = group(title);
     auto* layout = new QGridLayout(box);
-    use = new QCheckBox(QStringLiteral(" Use"));
+    use = new QCheckBox(tr(" Use"));
     use->setObjectName(QLatin1String(names[0]) + QStringLiteral("Use"));
     layout->addWidget(use, 0, 0, 1, 3);
     auto addRow = [&](int row, QLineEdit*& edit, const QString& caption, const char* name) {
@@ -120,7 +119,7 @@ QWidget* COV_MtnPrmWnd::createLimitGroup(const QString& title, const Names& name
         edit->setObjectName(QLatin1String(names[0]) + QLatin1String(name));
         layout->addWidget(new QLabel(caption), row, 0);
         layout->addWidget(edit, row, 1);
-        layout->addWidget(new QLabel(QStringLiteral("[pulse]")), row, 2);
+        layout->addWidget(new QLabel(tr("[pulse]")), row, 2);
     };
     addRow(1, first, firstCaption, names[1]);
     addRow(2, second, secondCaption, names[2]);

@@ -39,26 +39,25 @@ COV_SysIOSetWnd::COV_SysIOSetWnd(BoardApi& board, QWidget* parent)
         return box;
     };
     auto* grid = new QGridLayout(this);
-    grid->addWidget(makeGroup(QStringLiteral(" Alarm "), {0, 1}), 0, 0);
-    grid->addWidget(makeGroup(QStringLiteral(" Inposition "), {2, 3}), 0, 1);
-    grid->addWidget(makeGroup(QStringLiteral(" Limit "), {4, 5}), 1, 0);
-    grid->addWidget(makeGroup(QStringLiteral(" Origin "), {6}), 1, 1);
-    grid->addWidget(makeGroup(QStringLiteral(" Encoder Z "), {7}), 2, 0);
-    QGroupBox* counterClear = makeGroup(QStringLiteral(" Counter Clear "), {8, 9});
+    grid->addWidget(makeGroup(tr(" Alarm "), {0, 1}), 0, 0);
+    grid->addWidget(makeGroup(tr(" Inposition "), {2, 3}), 0, 1);
+    grid->addWidget(makeGroup(tr(" Limit "), {4, 5}), 1, 0);
+    grid->addWidget(makeGroup(tr(" Origin "), {6}), 1, 1);
+    grid->addWidget(makeGroup(tr(" Encoder Z "), {7}), 2, 0);
+    QGroupBox* counterClear = makeGroup(tr(" Counter Clear "), {8, 9});
     static_cast<QVBoxLayout*>(counterClear->layout())
-        ->insertWidget(1, new QLabel(QStringLiteral("Clear Time [msec]")));
+        ->insertWidget(1, new QLabel(tr("Clear Time [msec]")));
     grid->addWidget(counterClear, 2, 1);
-    grid->addWidget(makeGroup(QStringLiteral(" EMG "), {10}), 3, 0);
-    QGroupBox* remark = group(QStringLiteral(" Remark "));
+    grid->addWidget(makeGroup(tr(" EMG "), {10}), 3, 0);
+    QGroupBox* remark = group(tr(" Remark "));
     auto* remarkLayout = new QVBoxLayout(remark);
-    remarkLayout->addWidget(
-        new QLabel(QStringLiteral("Low Active : Normal Open\nHigh Active : Normal Close")));
+    remarkLayout->addWidget(new QLabel(tr("Low Active : Normal Open\nHigh Active : Normal Close")));
     grid->addWidget(remark, 3, 1);
-    grid->addWidget(new QLabel(QStringLiteral("(Independence Axis)")), 4, 0, 1, 2);
+    grid->addWidget(new QLabel(tr("(Independence Axis)")), 4, 0, 1, 2);
     grid->setRowStretch(5, 1);
 
     m_originLevel->setToolTip(
-        QStringLiteral("Follows the limit level while the home mode searches a limit switch"));
+        tr("Follows the limit level while the home mode searches a limit switch"));
     connect(m_limitLevel, &QComboBox::currentIndexChanged, this, [this](int index) {
         if (m_homeUsesLimit)
             m_originLevel->setCurrentIndex(index);
