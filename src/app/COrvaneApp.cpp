@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QLocale>
 #include <QScreen>
 
 COrvaneApp::COrvaneApp()
@@ -16,6 +17,7 @@ COrvaneApp::COrvaneApp()
     QApplication::setWindowIcon(OrvaneIcon::create());
     m_state.moduleDirectory =
         QDir(QCoreApplication::applicationDirPath()).absolutePath() + QLatin1Char('/');
+    m_translations.install(QLocale(), m_state.moduleDirectory);
     m_board.setTrace(&m_trace);
     m_traceClock = std::make_unique<BoardCallClock>(m_trace);
     qApp->installEventFilter(m_traceClock.get());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AppState.h"
+#include "AppTranslations.h"
 #include "BoardApi.h"
 #include "MessageBoxPrompt.h"
 #include "ToolWindowFactory.h"
@@ -29,6 +30,7 @@ public:
     int run();
 
 private:
+    AppTranslations m_translations;
     AppState m_state;
     BoardCallTrace m_trace;
     BoardApi m_board;
