@@ -449,6 +449,14 @@
         <source>Digital IO - %1(%2)</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>DI_%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DO_%1</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>COV_ExportPrmDlg</name>
@@ -529,6 +537,29 @@
     <message>
         <source>Enable
 </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>+Limit
+-Limit
+Origin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Inposition
+Alarm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Encoder Z</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPG</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -880,6 +911,34 @@ Can not change active controller !</source>
     </message>
     <message>
         <source>[pulse]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Speed Mode </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Command </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Feedback</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>EA/EB</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Origin Direction </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> COMP Counter </source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1696,6 +1755,86 @@ High Active : Normal Close</source>
     </message>
     <message>
         <source>Axis %1 %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Encoder Z</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>encoder Z mark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Alarm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>servo alarm input</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Inposition</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>in-position input</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> +Limit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>plus limit switch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Origin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>origin switch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> -Limit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>minus limit switch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Alm Rst</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>alarm-reset output: red while on; click to switch it over</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> C. Clear</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>counter-clear output: click to send one counter-clear pulse; red while the pulse lasts (RN boards cannot report it)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> S-On</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>servo-on output: red while on; click to switch it over</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> EMG</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Run Led</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -10,6 +10,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QIcon>
@@ -28,23 +29,34 @@ struct RowText
     const char* signal;
 };
 const std::array<RowText, SystemIoModel::kInputRows> kInputRows{{
-    {" Encoder Z", "encoder Z mark"},
-    {" Alarm", "servo alarm input"},
-    {" Inposition", "in-position input"},
-    {" +Limit", "plus limit switch"},
-    {" Origin", "origin switch"},
-    {" -Limit", "minus limit switch"},
+    {QT_TRANSLATE_NOOP("COV_SysIoWnd", " Encoder Z"),
+     QT_TRANSLATE_NOOP("COV_SysIoWnd", "encoder Z mark")},
+    {QT_TRANSLATE_NOOP("COV_SysIoWnd", " Alarm"),
+     QT_TRANSLATE_NOOP("COV_SysIoWnd", "servo alarm input")},
+    {QT_TRANSLATE_NOOP("COV_SysIoWnd", " Inposition"),
+     QT_TRANSLATE_NOOP("COV_SysIoWnd", "in-position input")},
+    {QT_TRANSLATE_NOOP("COV_SysIoWnd", " +Limit"),
+     QT_TRANSLATE_NOOP("COV_SysIoWnd", "plus limit switch")},
+    {QT_TRANSLATE_NOOP("COV_SysIoWnd", " Origin"),
+     QT_TRANSLATE_NOOP("COV_SysIoWnd", "origin switch")},
+    {QT_TRANSLATE_NOOP("COV_SysIoWnd", " -Limit"),
+     QT_TRANSLATE_NOOP("COV_SysIoWnd", "minus limit switch")},
 }};
 const std::array<RowText, SystemIoModel::kOutputRows> kOutputRows{{
-    {" Alm Rst", "alarm-reset output: red while on; click to switch it over"},
-    {" C. Clear", "counter-clear output: click to send one counter-clear pulse; red while the "
-                  "pulse lasts (RN boards cannot report it)"},
-    {" S-On", "servo-on output: red while on; click to switch it over"},
+    {QT_TRANSLATE_NOOP("COV_SysIoWnd", " Alm Rst"),
+     QT_TRANSLATE_NOOP("COV_SysIoWnd",
+                       "alarm-reset output: red while on; click to switch it over")},
+    {QT_TRANSLATE_NOOP("COV_SysIoWnd", " C. Clear"),
+     QT_TRANSLATE_NOOP("COV_SysIoWnd",
+                       "counter-clear output: click to send one counter-clear pulse; red while the "
+                       "pulse lasts (RN boards cannot report it)")},
+    {QT_TRANSLATE_NOOP("COV_SysIoWnd", " S-On"),
+     QT_TRANSLATE_NOOP("COV_SysIoWnd", "servo-on output: red while on; click to switch it over")},
 }};
 
 QLabel* makeRowLabel(const char* text)
 {
-    auto* label = new QLabel(QLatin1String(text));
+    auto* label = new QLabel(QCoreApplication::translate("COV_SysIoWnd", text));
     QPalette colours = label->palette();
     colours.setColor(QPalette::WindowText, kLabelBlue);
     colours.setColor(QPalette::Window, kLabelGrey);
@@ -154,7 +166,7 @@ QWidget* COV_SysIoWnd::createInputGroup()
         }
     }
     const int emergencyRow = SystemIoModel::kInputRows + 1;
-    grid->addWidget(makeRowLabel(" EMG"), emergencyRow, 0);
+    grid->addWidget(makeRowLabel(QT_TRANSLATE_NOOP("COV_SysIoWnd", " EMG")), emergencyRow, 0);
     m_emergency = makeLamp();
     m_emergency->setObjectName(QStringLiteral("emergencyLamp"));
     m_emergency->setToolTip(
@@ -182,7 +194,7 @@ QWidget* COV_SysIoWnd::createOutputGroup()
         }
     }
     const int runLedRow = SystemIoModel::kOutputRows + 1;
-    grid->addWidget(makeRowLabel(" Run Led"), runLedRow, 0);
+    grid->addWidget(makeRowLabel(QT_TRANSLATE_NOOP("COV_SysIoWnd", " Run Led")), runLedRow, 0);
     m_runLed = makeOutput();
     m_runLed->setObjectName(QStringLiteral("runLedButton"));
     m_runLed->setToolTip(tr("Run LED output of the card: red while on; click to switch it over"));
@@ -273,19 +285,18 @@ void COV_SysIoWnd::setUpLamps()
             CLedButton* lamp = inputLamp(axis, row);
             setLampFaces(lamp, present);
             const char* signal = kInputRows[static_cast<std::size_t>(row)].signal;
-            lamp->setToolTip(present ? tr("Axis %1 %2: green while on, grey while off")
-                                           .arg(axis)
-                                           .arg(QLatin1String(signal))
-                                     : tr("Axis %1: not on this card").arg(axis));
+            lamp->setToolTip(
+                present ? tr("Axis %1 %2: green while on, grey while off").arg(axis).arg(tr(signal))
+                        : tr("Axis %1: not on this card").arg(axis));
         }
         for (int row = 0; row < SystemIoModel::kOutputRows; ++row) {
             OutputButton* button = outputButton(axis, row);
             setOutputFaces(button, present);
-            button->setToolTip(
-                present ? tr("Axis %1 %2")
-                              .arg(axis)
-                              .arg(QLatin1String(kOutputRows[static_cast<std::size_t>(row)].signal))
-                        : tr("Axis %1: not on this card").arg(axis));
+            button->setToolTip(present
+                                   ? tr("Axis %1 %2")
+                                         .arg(axis)
+                                         .arg(tr(kOutputRows[static_cast<std::size_t>(row)].signal))
+                                   : tr("Axis %1: not on this card").arg(axis));
         }
     }
     setOutputFaces(m_runLed, true);

@@ -17,11 +17,11 @@ struct FilterRow
     const char* parameter;
 };
 constexpr FilterRow kRows[] = {
-    {"+Limit, -Limit, Origin", "FilterSensor"},
-    {"Inposition, Alarm", "FilterServo"},
-    {"Encoder Z", "FilterEncoderZ"},
-    {"MPG", "FilterExternal"},
-    {"Stop", "FilterStop"},
+    {QT_TRANSLATE_NOOP("COV_FilterSetWnd", "+Limit\n-Limit\nOrigin"), "FilterSensor"},
+    {QT_TRANSLATE_NOOP("COV_FilterSetWnd", "Inposition\nAlarm"), "FilterServo"},
+    {QT_TRANSLATE_NOOP("COV_FilterSetWnd", "Encoder Z"), "FilterEncoderZ"},
+    {QT_TRANSLATE_NOOP("COV_FilterSetWnd", "MPG"), "FilterExternal"},
+    {QT_TRANSLATE_NOOP("COV_FilterSetWnd", "Stop"), "FilterStop"},
 };
 constexpr int kStopRow = 4;
 
@@ -49,8 +49,7 @@ COV_FilterSetWnd::COV_FilterSetWnd(BoardApi& board, QWidget* parent)
         box->setObjectName(QLatin1String(row.parameter));
         m_boxes.append(box);
         // The three sensors share one row, as they share one board setting.
-        QFrame* frame = rowFrame(
-            QString::fromLatin1(row.label).replace(QLatin1String(", "), QLatin1String("\n")), box);
+        QFrame* frame = rowFrame(tr(row.label), box);
         layout->addWidget(frame);
         if (&row == &kRows[kStopRow])
             m_stopRow = frame;

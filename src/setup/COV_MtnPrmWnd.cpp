@@ -24,12 +24,14 @@ struct ListGroup
     const char* caption;
 };
 constexpr ListGroup kListGroups[] = {
-    {" Speed Mode ", "SpeedMode", nullptr},
-    {" Command ", "PulseMode", nullptr},
-    {" Feedback", "EncoderDirection", "Direction"},
-    {" Feedback", "EncoderMode", "EA/EB"},
-    {" Origin Direction ", "OriginDirection", nullptr},
-    {" COMP Counter ", "CompareCounter", nullptr},
+    {QT_TRANSLATE_NOOP("COV_MtnPrmWnd", " Speed Mode "), "SpeedMode", nullptr},
+    {QT_TRANSLATE_NOOP("COV_MtnPrmWnd", " Command "), "PulseMode", nullptr},
+    {QT_TRANSLATE_NOOP("COV_MtnPrmWnd", " Feedback"), "EncoderDirection",
+     QT_TRANSLATE_NOOP("COV_MtnPrmWnd", "Direction")},
+    {QT_TRANSLATE_NOOP("COV_MtnPrmWnd", " Feedback"), "EncoderMode",
+     QT_TRANSLATE_NOOP("COV_MtnPrmWnd", "EA/EB")},
+    {QT_TRANSLATE_NOOP("COV_MtnPrmWnd", " Origin Direction "), "OriginDirection", nullptr},
+    {QT_TRANSLATE_NOOP("COV_MtnPrmWnd", " COMP Counter "), "CompareCounter", nullptr},
 };
 } // namespace
 
@@ -48,17 +50,17 @@ COV_MtnPrmWnd::COV_MtnPrmWnd(BoardApi& board, PromptService& prompt, QWidget* pa
         if (entry.caption != nullptr) {
             // Both feedback lists share one group, each with its caption.
             if (feedback == nullptr) {
-                feedback = group(QLatin1String(entry.title));
+                feedback = group(tr(entry.title));
                 feedbackGrid = new QGridLayout(feedback);
                 grid->addWidget(feedback, cell / 2, cell % 2);
                 ++cell;
             }
             const int row = feedbackGrid->rowCount();
-            feedbackGrid->addWidget(new QLabel(QLatin1String(entry.caption)), row, 0);
+            feedbackGrid->addWidget(new QLabel(tr(entry.caption)), row, 0);
             feedbackGrid->addWidget(list, row, 1);
             continue;
         }
-        QGroupBox* box = group(QLatin1String(entry.title));
+        QGroupBox* box = group(tr(entry.title));
         auto* layout = new QVBoxLayout(box);
         layout->addWidget(list);
         layout->addStretch();
