@@ -9,6 +9,42 @@
     </message>
 </context>
 <context>
+    <name>BoardStartup</name>
+    <message>
+        <source>FAIL! %1 NOT SUPPORT THE PROCESS....</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FAIL! %1 CHECK THE HARDWARE VERSION....</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FAIL! %1 CEHCK UP-BOARD POSITION....</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FAIL! %1 DATA BUS LINE ERRORR....</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FAIL! %1 DATA BUS LINE ERROR....</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FAIL! %1 PARAMETER FILE DOES NOT MATCH....</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FAIL! LOAD DEVICE DRIVER ....</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1(%2) board parameters are changed.
+Do you want to save parameter to file?</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>COV_AboutDlg</name>
     <message>
         <source>About Orvane</source>
@@ -1946,6 +1982,57 @@ High Active : Normal Close</source>
     </message>
 </context>
 <context>
+    <name>MotionErrorCode</name>
+    <message>
+        <source>Abnormally stopped by positive soft limit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Abnormally stopped by +soft-limit signal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Abnormally stopped by negative soft limit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Abnormally stopped by -soft-limit signal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Abnormally stopped by positive hardware limit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Abnormally stopped by +limit signal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Abnormally stopped by negative hardware limit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Abnormally stopped by -limit signal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Abnormally stopped by alarm input signal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Abnormally stopped by EMG signal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Already start Encoder z-phase signal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Abnormally stopped by ETC. error</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>MultiAxisForm</name>
     <message>
         <source>[pps]</source>
@@ -2141,6 +2228,153 @@ High Active : Normal Close</source>
     </message>
 </context>
 <context>
+    <name>ParameterCatalog</name>
+    <message>
+        <source>Low Active</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>High Active</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Disable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unused</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CW</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CCW</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>0 : LowHome (ORG)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 : LowHome (ORG+EZ)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>2 : HighHome (ORG)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>3 : HighHome (ORG+EZ)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>4 : LowHome (Limit)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>5 : LowHome (Limit+EZ)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>6 : HighHome (Limit)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>7 : HighHome (Limit+EZ)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>8 : LowHome (EZ)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>9 : CurPos (ORG)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>E-Stop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>S-Stop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Automatic Range</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fixed Range</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Trapezoid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paravola(S-Curve)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CW/CCW Positive</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CW/CCW Negative</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PLS POS/DIR Low</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PLS POS/DIR HI</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PLS NEG/DIR Low</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PLS NEG/DIR HI</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>x4(EA/EB)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>x2(EA/EB)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>x1(EA/EB)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Up/Down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Actual</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ParameterSourceBox</name>
     <message>
         <source>An axis</source>
@@ -2196,6 +2430,28 @@ High Active : Normal Close</source>
     </message>
     <message>
         <source> Axis %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PromptTexts</name>
+    <message>
+        <source>Parameters are changed. Do you want to set parameter?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Input value is incorrect!</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>RangeMagnification</name>
+    <message>
+        <source>Speed range is greater than 0!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Speed range is smaller than 500!</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

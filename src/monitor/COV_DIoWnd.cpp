@@ -236,7 +236,7 @@ void COV_DIoWnd::onOutputWordEntered()
         return;
     std::uint32_t word = 0;
     if (!DigitalIoModel::parseWord(m_outputWord->text(), word)) {
-        m_context.prompt.inform(PromptTexts::kInputIncorrect);
+        m_context.prompt.inform(PromptTexts::inputIncorrect());
         m_outputWord->setText(QStringLiteral("0"));
         return;
     }
@@ -262,7 +262,7 @@ void COV_DIoWnd::checkUnsavedFilter()
 {
     // The model still names the family and card the combo boxes were read from.
     if (m_model.filterDiffers(m_filterEnable->currentIndex(), m_filterTime->currentIndex()) &&
-        m_context.prompt.askYesNo(PromptTexts::kParametersChanged))
+        m_context.prompt.askYesNo(PromptTexts::parametersChanged()))
         setFilterParameters();
 }
 

@@ -255,7 +255,7 @@ bool COV_MnMtnWnd::profileChanged(BoardFamily boardFamily) const
 void COV_MnMtnWnd::promptIfChanged(BoardFamily boardFamily)
 {
     if (m_axisCount > 0 && profileChanged(boardFamily) &&
-        m_context.prompt.askYesNo(PromptTexts::kParametersChanged))
+        m_context.prompt.askYesNo(PromptTexts::parametersChanged()))
         setParameters();
 }
 
@@ -429,7 +429,7 @@ void COV_MnMtnWnd::checkGantry()
 void COV_MnMtnWnd::onErrorLimitEdited(const QString& text)
 {
     if (!IsNumericText(text)) {
-        m_context.prompt.inform(PromptTexts::kInputIncorrect);
+        m_context.prompt.inform(PromptTexts::inputIncorrect());
         m_form.errorLimitEdit->setText(m_lastValidLimit);
         return;
     }

@@ -264,7 +264,7 @@ void COV_SnMtnPtpWnd::onMotionTypeActivated(int index)
 {
     if (index < 0 || index > static_cast<int>(MotionType::Absolute))
         return;
-    if (parametersChanged(family()) && m_prompt.askYesNo(PromptTexts::kParametersChanged)) {
+    if (parametersChanged(family()) && m_prompt.askYesNo(PromptTexts::parametersChanged())) {
         setParameters(family());
         emit parametersWritten();
     }
@@ -296,7 +296,7 @@ void COV_SnMtnPtpWnd::onDriveSpeedChanged(const QString& text)
         m_lastValidDrive = text;
         return;
     }
-    m_prompt.inform(PromptTexts::kInputIncorrect);
+    m_prompt.inform(PromptTexts::inputIncorrect());
     m_restoringDrive = true;
     m_drive->setText(m_lastValidDrive);
     m_restoringDrive = false;

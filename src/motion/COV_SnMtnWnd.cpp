@@ -160,7 +160,7 @@ void COV_SnMtnWnd::keepColumnWidth(QWidget& column) const
         width = std::max(width, button->sizeHint().width());
     int pair = 0;
     for (const char* caption : {"-Jog", "+Jog", "Dec.", "Inc", "Pos. 1", "Pos. 2"}) {
-        m_minus->setText(QLatin1String(caption));
+        m_minus->setText(tr(caption));
         pair = std::max(pair, m_minus->sizeHint().width());
     }
     const int spacing = column.layout()->spacing();
@@ -263,7 +263,7 @@ void COV_SnMtnWnd::promptForVisiblePage(BoardFamily family)
     const bool home = m_currentTab == MotionTab::Home;
     const bool changed =
         home ? m_homePage->parametersChanged(family) : m_ptpPage->parametersChanged(family);
-    if (!changed || !m_context.prompt.askYesNo(PromptTexts::kParametersChanged))
+    if (!changed || !m_context.prompt.askYesNo(PromptTexts::parametersChanged()))
         return;
     if (home)
         m_homePage->setParameters(family);

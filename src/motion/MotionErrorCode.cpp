@@ -9,22 +9,30 @@ struct StopMessage
 };
 
 constexpr StopMessage kStopMessages[] = {
-    {MotionErrorCode::PositiveSoftLimit, "Abnormally stopped by positive soft limit",
-     "Abnormally stopped by +soft-limit signal"},
-    {MotionErrorCode::NegativeSoftLimit, "Abnormally stopped by negative soft limit",
-     "Abnormally stopped by -soft-limit signal"},
-    {MotionErrorCode::PositiveLimit, "Abnormally stopped by positive hardware limit",
-     "Abnormally stopped by +limit signal"},
-    {MotionErrorCode::NegativeLimit, "Abnormally stopped by negative hardware limit",
-     "Abnormally stopped by -limit signal"},
-    {MotionErrorCode::AlarmInput, "Abnormally stopped by alarm input signal",
-     "Abnormally stopped by alarm input signal"},
-    {MotionErrorCode::Emergency, "Abnormally stopped by EMG signal",
-     "Abnormally stopped by EMG signal"},
-    {MotionErrorCode::EncoderZAlreadyStarted, "Already start Encoder z-phase signal",
-     "Already start Encoder z-phase signal"},
-    {MotionErrorCode::OtherError, "Abnormally stopped by ETC. error",
-     "Abnormally stopped by ETC. error"},
+    {MotionErrorCode::PositiveSoftLimit,
+     QT_TRANSLATE_NOOP("MotionErrorCode", "Abnormally stopped by positive soft limit"),
+     QT_TRANSLATE_NOOP("MotionErrorCode", "Abnormally stopped by +soft-limit signal")},
+    {MotionErrorCode::NegativeSoftLimit,
+     QT_TRANSLATE_NOOP("MotionErrorCode", "Abnormally stopped by negative soft limit"),
+     QT_TRANSLATE_NOOP("MotionErrorCode", "Abnormally stopped by -soft-limit signal")},
+    {MotionErrorCode::PositiveLimit,
+     QT_TRANSLATE_NOOP("MotionErrorCode", "Abnormally stopped by positive hardware limit"),
+     QT_TRANSLATE_NOOP("MotionErrorCode", "Abnormally stopped by +limit signal")},
+    {MotionErrorCode::NegativeLimit,
+     QT_TRANSLATE_NOOP("MotionErrorCode", "Abnormally stopped by negative hardware limit"),
+     QT_TRANSLATE_NOOP("MotionErrorCode", "Abnormally stopped by -limit signal")},
+    {MotionErrorCode::AlarmInput,
+     QT_TRANSLATE_NOOP("MotionErrorCode", "Abnormally stopped by alarm input signal"),
+     QT_TRANSLATE_NOOP("MotionErrorCode", "Abnormally stopped by alarm input signal")},
+    {MotionErrorCode::Emergency,
+     QT_TRANSLATE_NOOP("MotionErrorCode", "Abnormally stopped by EMG signal"),
+     QT_TRANSLATE_NOOP("MotionErrorCode", "Abnormally stopped by EMG signal")},
+    {MotionErrorCode::EncoderZAlreadyStarted,
+     QT_TRANSLATE_NOOP("MotionErrorCode", "Already start Encoder z-phase signal"),
+     QT_TRANSLATE_NOOP("MotionErrorCode", "Already start Encoder z-phase signal")},
+    {MotionErrorCode::OtherError,
+     QT_TRANSLATE_NOOP("MotionErrorCode", "Abnormally stopped by ETC. error"),
+     QT_TRANSLATE_NOOP("MotionErrorCode", "Abnormally stopped by ETC. error")},
 };
 } // namespace
 
@@ -32,8 +40,7 @@ QString MotionErrorCode::message(Wording wording) const
 {
     for (const StopMessage& entry : kStopMessages) {
         if (entry.code == m_code)
-            return QString::fromLatin1(wording == Wording::SingleAxis ? entry.singleAxis
-                                                                      : entry.multiAxis);
+            return tr(wording == Wording::SingleAxis ? entry.singleAxis : entry.multiAxis);
     }
     return {};
 }

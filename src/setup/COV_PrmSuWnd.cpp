@@ -138,7 +138,7 @@ bool COV_PrmSuWnd::leaveCheck(BoardFamily family)
     ParameterSetupPage* page = m_pages[std::size_t(m_page)];
     if (!page->IsChanged(family))
         return false;
-    if (!m_context.prompt.askYesNo(PromptTexts::kParametersChanged))
+    if (!m_context.prompt.askYesNo(PromptTexts::parametersChanged()))
         return true;
     page->Apply(family);
     m_context.frame.sendToFrame(UM_PARAM_CHANGED, m_card);

@@ -14,10 +14,14 @@ constexpr std::int32_t kIntMin = std::numeric_limits<std::int32_t>::min();
 constexpr std::int32_t kIntMax = std::numeric_limits<std::int32_t>::max();
 constexpr unsigned kRnOnly = 0x4;
 
-const Texts kLevels{"Low Active", "High Active"};
-const Texts kEnable{"Disable", "Enable"};
-const Texts kUse{"Unused", "Use"};
-const Texts kDirections{"CW", "CCW"};
+const Texts kLevels{QT_TRANSLATE_NOOP("ParameterCatalog", "Low Active"),
+                    QT_TRANSLATE_NOOP("ParameterCatalog", "High Active")};
+const Texts kEnable{QT_TRANSLATE_NOOP("ParameterCatalog", "Disable"),
+                    QT_TRANSLATE_NOOP("ParameterCatalog", "Enable")};
+const Texts kUse{QT_TRANSLATE_NOOP("ParameterCatalog", "Unused"),
+                 QT_TRANSLATE_NOOP("ParameterCatalog", "Use")};
+const Texts kDirections{QT_TRANSLATE_NOOP("ParameterCatalog", "CW"),
+                        QT_TRANSLATE_NOOP("ParameterCatalog", "CCW")};
 
 ParameterInfo list(const char* name, Call call, int slot, Page page, Texts choices,
                    unsigned families = kEveryFamily)
@@ -53,11 +57,16 @@ std::vector<ParameterInfo> makeCatalog()
     const Texts inputFilterTimes{"0.001", "0.002", "0.004",  "0.008", "0.016", "0.032",
                                  "0.064", "0.128", "0.256",  "0.512", "1.024", "2.048",
                                  "4.096", "8.192", "16.384", "32.768"};
-    const Texts homeModes{"0 : LowHome (ORG)",    "1 : LowHome (ORG+EZ)",
-                          "2 : HighHome (ORG)",   "3 : HighHome (ORG+EZ)",
-                          "4 : LowHome (Limit)",  "5 : LowHome (Limit+EZ)",
-                          "6 : HighHome (Limit)", "7 : HighHome (Limit+EZ)",
-                          "8 : LowHome (EZ)",     "9 : CurPos (ORG)"};
+    const Texts homeModes{QT_TRANSLATE_NOOP("ParameterCatalog", "0 : LowHome (ORG)"),
+                          QT_TRANSLATE_NOOP("ParameterCatalog", "1 : LowHome (ORG+EZ)"),
+                          QT_TRANSLATE_NOOP("ParameterCatalog", "2 : HighHome (ORG)"),
+                          QT_TRANSLATE_NOOP("ParameterCatalog", "3 : HighHome (ORG+EZ)"),
+                          QT_TRANSLATE_NOOP("ParameterCatalog", "4 : LowHome (Limit)"),
+                          QT_TRANSLATE_NOOP("ParameterCatalog", "5 : LowHome (Limit+EZ)"),
+                          QT_TRANSLATE_NOOP("ParameterCatalog", "6 : HighHome (Limit)"),
+                          QT_TRANSLATE_NOOP("ParameterCatalog", "7 : HighHome (Limit+EZ)"),
+                          QT_TRANSLATE_NOOP("ParameterCatalog", "8 : LowHome (EZ)"),
+                          QT_TRANSLATE_NOOP("ParameterCatalog", "9 : CurPos (ORG)")};
     const auto io = Page::SystemIo;
     const auto motion = Page::MotionParameter;
     const auto filter = Page::Filter;
@@ -67,7 +76,9 @@ std::vector<ParameterInfo> makeCatalog()
         list("AlarmLevel", Call::SvAlm, 1, io, kLevels),
         list("InpositionUse", Call::SvInpos, 0, io, kEnable),
         list("InpositionLevel", Call::SvInpos, 1, io, kLevels),
-        list("LimitStopMode", Call::Hlmt, 0, io, {"E-Stop", "S-Stop"}),
+        list("LimitStopMode", Call::Hlmt, 0, io,
+             {QT_TRANSLATE_NOOP("ParameterCatalog", "E-Stop"),
+              QT_TRANSLATE_NOOP("ParameterCatalog", "S-Stop")}),
         list("LimitLevel", Call::Hlmt, 1, io, kLevels),
         list("OriginLevel", Call::Org, 0, io, kLevels),
         list("EncoderZLevel", Call::EncoderZ, 0, io, kLevels),
@@ -78,16 +89,29 @@ std::vector<ParameterInfo> makeCatalog()
         onCard(list("EmergencyLevel", Call::Emergency, 0, io, kLevels)),
         // Motion Parameter.
         number("RangeMagnification", Call::RangeMode, 0, motion, 1, 500),
-        list("RangeMode", Call::FixedRange, 0, motion, {"Automatic Range", "Fixed Range"}),
-        list("SpeedMode", Call::SpeedMode, 0, motion, {"Trapezoid", "Paravola(S-Curve)"}),
+        list("RangeMode", Call::FixedRange, 0, motion,
+             {QT_TRANSLATE_NOOP("ParameterCatalog", "Automatic Range"),
+              QT_TRANSLATE_NOOP("ParameterCatalog", "Fixed Range")}),
+        list("SpeedMode", Call::SpeedMode, 0, motion,
+             {QT_TRANSLATE_NOOP("ParameterCatalog", "Trapezoid"),
+              QT_TRANSLATE_NOOP("ParameterCatalog", "Paravola(S-Curve)")}),
         list("PulseMode", Call::PulseMode, 0, motion,
-             {"CW/CCW Positive", "CW/CCW Negative", "PLS POS/DIR Low", "PLS POS/DIR HI",
-              "PLS NEG/DIR Low", "PLS NEG/DIR HI"}),
+             {QT_TRANSLATE_NOOP("ParameterCatalog", "CW/CCW Positive"),
+              QT_TRANSLATE_NOOP("ParameterCatalog", "CW/CCW Negative"),
+              QT_TRANSLATE_NOOP("ParameterCatalog", "PLS POS/DIR Low"),
+              QT_TRANSLATE_NOOP("ParameterCatalog", "PLS POS/DIR HI"),
+              QT_TRANSLATE_NOOP("ParameterCatalog", "PLS NEG/DIR Low"),
+              QT_TRANSLATE_NOOP("ParameterCatalog", "PLS NEG/DIR HI")}),
         list("EncoderDirection", Call::EncoderDir, 0, motion, kDirections),
         list("EncoderMode", Call::EncoderMode, 0, motion,
-             {"x4(EA/EB)", "x2(EA/EB)", "x1(EA/EB)", "Up/Down"}),
+             {QT_TRANSLATE_NOOP("ParameterCatalog", "x4(EA/EB)"),
+              QT_TRANSLATE_NOOP("ParameterCatalog", "x2(EA/EB)"),
+              QT_TRANSLATE_NOOP("ParameterCatalog", "x1(EA/EB)"),
+              QT_TRANSLATE_NOOP("ParameterCatalog", "Up/Down")}),
         list("OriginDirection", Call::HomeDir, 0, motion, kDirections),
-        list("CompareCounter", Call::CompCountMode, 0, motion, {"Command", "Actual"}),
+        list("CompareCounter", Call::CompCountMode, 0, motion,
+             {QT_TRANSLATE_NOOP("ParameterCatalog", "Command"),
+              QT_TRANSLATE_NOOP("ParameterCatalog", "Actual")}),
         number("SoftLimitPlus", Call::Slmt, 0, motion, kIntMin, kIntMax),
         number("SoftLimitMinus", Call::Slmt, 1, motion, kIntMin, kIntMax),
         list("SoftLimitUse", Call::Slmt, 2, motion, kUse),
