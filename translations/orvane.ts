@@ -2228,6 +2228,25 @@ High Active : Normal Close</source>
     </message>
 </context>
 <context>
+    <name>OrvaneSettings</name>
+    <message>
+        <source>0 : No Use</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 : Level 1(Only Command Functions)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>2 : Level 2(Only Errors)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>3 : Level 3(All Functions)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ParameterCatalog</name>
     <message>
         <source>Low Active</source>
@@ -2375,6 +2394,40 @@ High Active : Normal Close</source>
     </message>
 </context>
 <context>
+    <name>ParameterComparison</name>
+    <message>
+        <source>Card</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Axis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Axis %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ParameterImport</name>
+    <message>
+        <source>this PC has no %1 board</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this PC has no %1 card %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (the file is for a %2, the card is a %3)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 card %2 has no axis %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ParameterSourceBox</name>
     <message>
         <source>An axis</source>
@@ -2430,6 +2483,105 @@ High Active : Normal Close</source>
     </message>
     <message>
         <source> Axis %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ParameterText</name>
+    <message>
+        <source>not text (binary or damaged data)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>section [%1] given twice (first on line %2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unknown section [%1]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 comes before any section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 given twice (first on line %2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unknown parameter %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 belongs in an axis section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 belongs in a card section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 boards have no %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 is out of range (%3 .. %4)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unknown header key %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>format version %1 is not one this program reads</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no [Header] section: not an Orvane parameter file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the header lacks FormatVersion</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file holds no card</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the header counts %1 card(s), the file holds %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>[%1] lacks Axes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>[%1] counts %2 axes, the file holds %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>[%1] has no card section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> and %1 more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>[%1] lacks %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cannot read %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is too large for a parameter file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2503,6 +2655,21 @@ High Active : Normal Close</source>
     </message>
     <message>
         <source>Fit the channel&apos;s values, or show Low to High</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ScopeCsv</name>
+    <message>
+        <source>Not a scope record: the first column must be the time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line %1 has %2 values instead of %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line %1: the time goes backwards.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2994,6 +3161,14 @@ High Active : Normal Close</source>
     </message>
     <message>
         <source>Board Calls</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import Parameters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Parameter files (*.ini *.txt);;All files (*)</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
