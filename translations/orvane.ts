@@ -9,6 +9,41 @@
     </message>
 </context>
 <context>
+    <name>BoardCallText</name>
+    <message>
+        <source>Time (us)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Card</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Axis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Arguments</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Caller</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>BoardStartup</name>
     <message>
         <source>FAIL! %1 NOT SUPPORT THE PROCESS....</source>
@@ -2604,6 +2639,25 @@ High Active : Normal Close</source>
     </message>
     <message>
         <source>Speed range is smaller than 500!</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ScopeChannel</name>
+    <message>
+        <source>Command Position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Actual Position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Command Speed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Following Error</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
