@@ -1969,6 +1969,14 @@ High Active : Normal Close</source>
         <source>Set Active Controller</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Dll Ver. : </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Firmware Ver. : </source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>CounterPresets</name>

@@ -18,6 +18,16 @@
 namespace {
 constexpr int kImageRole = Qt::UserRole + 1;
 
+// The board layer words versions as parameter files carry them; the tree shows their caption
+// in the user's language.
+std::string withShownCaption(const std::string& text, const std::string& caption,
+                             const QString& shown)
+{
+    if (text.rfind(caption, 0) != 0)
+        return text;
+    return shown.toStdString() + text.substr(caption.size());
+}
+
 std::size_t at(BoardFamily family)
 {
     return static_cast<std::size_t>(familyIndex(family));
@@ -116,7 +126,10 @@ void COV_WsSysWnd::build()
             const std::int32_t firmware = m_startup.readCardInfo(family, static_cast<CardNo>(card));
             if (card == 0) {
                 m_families[at(family)] = addItem(nullptr, familyDisplayName(family), FamilyImage);
-                addItem(m_families[at(family)], m_startup.libraryVersionText(family), VersionImage);
+                addItem(m_families[at(family)],
+                        withShownCaption(m_startup.libraryVersionText(family),
+                                         "Dll Ver. : ", tr("Dll Ver. : ")),
+                        VersionImage);
             }
             const std::string label = BoardTexts::cardLabel(card, registry.modelName(family, card));
             m_cardLabels[at(family)][at(card)] = label;
@@ -128,7 +141,10 @@ void COV_WsSysWnd::build()
             addItem(cardNode,
                     tr("IO : ").toStdString() + std::to_string(registry.ioCount(family, card)),
                     IoImage);
-            addItem(cardNode, BoardTexts::firmwareText(family, firmware), FirmwareImage);
+            addItem(cardNode,
+                    withShownCaption(BoardTexts::firmwareText(family, firmware),
+                                     "Firmware Ver. : ", tr("Firmware Ver. : ")),
+                    FirmwareImage);
             m_families[at(family)]->setExpanded(true);
             cardNode->setExpanded(true);
         }
