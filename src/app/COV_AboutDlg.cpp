@@ -10,7 +10,7 @@
 
 COV_AboutDlg::COV_AboutDlg(QWidget* parent) : QDialog(parent, kDialogFlags)
 {
-    setWindowTitle(QStringLiteral("About Orvane"));
+    setWindowTitle(tr("About Orvane"));
     auto* layout = new QVBoxLayout(this);
     auto* row = new QHBoxLayout;
     auto* icon = new QLabel(this);

@@ -13,7 +13,7 @@
 COV_LogLevDlg::COV_LogLevDlg(int level, QWidget* parent)
     : QDialog(parent, kDialogFlags), m_readLevel(level)
 {
-    setWindowTitle(QStringLiteral("Log Level Setup"));
+    setWindowTitle(tr("Log Level Setup"));
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(createChoice(level));
     layout->addWidget(createOkCancelButtons(*this));
@@ -24,7 +24,7 @@ QWidget* COV_LogLevDlg::createChoice(int level)
     auto* row = new QWidget(this);
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(new QLabel(QStringLiteral("Select Log Level : "), row));
+    layout->addWidget(new QLabel(tr("Select Log Level : "), row));
     m_levels = new QComboBox(row);
     m_levels->addItems(OrvaneSettings::logLevelTexts());
     // A level outside the list shows as no choice rather than as a neighbour the user would

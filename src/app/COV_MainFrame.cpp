@@ -40,8 +40,8 @@
 namespace {
 const QString kLayoutOrganisation = QStringLiteral("Local AppWizard-Generated Applications");
 const QString kLayoutKey = QStringLiteral("CommandBars");
-const QString kMovingRefusal =
-    QStringLiteral("Axes are moving !\nCan not change active controller !");
+const char* const kMovingRefusal =
+    QT_TRANSLATE_NOOP("COV_MainFrame", "Axes are moving !\nCan not change active controller !");
 
 // Gives a combo these entries and this selection, touching it only where it differs.
 void showEntries(QComboBox& combo, const QStringList& entries, int selection)
@@ -123,7 +123,7 @@ bool COV_MainFrame::create(const QStringList& libraryProblems)
 
 void COV_MainFrame::createStatusBar()
 {
-    statusBar()->showMessage(QStringLiteral("Ready"));
+    statusBar()->showMessage(tr("Ready"));
 }
 
 void COV_MainFrame::createMenus()
@@ -131,12 +131,12 @@ void COV_MainFrame::createMenus()
     QMenuBar* bar = menuBar();
     bar->setObjectName(QStringLiteral("Menu Bar"));
     bar->addMenu(createSystemMenu());
-    bar->addMenu(createToolMenu(QStringLiteral("IO Monitoring"), ToolMenu::IoMonitoring));
-    QMenu* setup = createToolMenu(QStringLiteral("Setup"), ToolMenu::Setup);
-    setup->addAction(QStringLiteral("Actual Speed Calculator"), this,
+    bar->addMenu(createToolMenu(tr("IO Monitoring"), ToolMenu::IoMonitoring));
+    QMenu* setup = createToolMenu(tr("Setup"), ToolMenu::Setup);
+    setup->addAction(tr("Actual Speed Calculator"), this,
                      [this] { runCommand(FrameCommand::ActualSpeedCalculator); });
     bar->addMenu(setup);
-    QMenu* motion = createToolMenu(QStringLiteral("Motion"), ToolMenu::Motion);
+    QMenu* motion = createToolMenu(tr("Motion"), ToolMenu::Motion);
     motion->addSeparator();
     motion->addAction(m_stopAll);
     bar->addMenu(motion);
@@ -148,23 +148,22 @@ void COV_MainFrame::createMenus()
 
 QMenu* COV_MainFrame::createSystemMenu()
 {
-    auto* menu = new QMenu(QStringLiteral("System"), this);
-    menu->addAction(QStringLiteral("Save Parameter"), this,
+    auto* menu = new QMenu(tr("System"), this);
+    menu->addAction(tr("Save Parameter"), this,
                     [this] { runCommand(FrameCommand::SaveParameter); });
-    menu->addAction(QStringLiteral("System Reset"), this,
-                    [this] { runCommand(FrameCommand::SystemReset); });
+    menu->addAction(tr("System Reset"), this, [this] { runCommand(FrameCommand::SystemReset); });
     menu->addSeparator();
-    menu->addAction(QStringLiteral("Export Parameters..."), this,
+    menu->addAction(tr("Export Parameters..."), this,
                     [this] { runCommand(FrameCommand::ExportParameters); });
-    menu->addAction(QStringLiteral("Import Parameters..."), this,
+    menu->addAction(tr("Import Parameters..."), this,
                     [this] { runCommand(FrameCommand::ImportParameters); });
-    menu->addAction(QStringLiteral("Compare Parameters..."), this,
+    menu->addAction(tr("Compare Parameters..."), this,
                     [this] { runCommand(FrameCommand::CompareParameters); });
     menu->addSeparator();
-    menu->addAction(QStringLiteral("Environment Setup"), this, [this] { environmentSetup(); });
-    menu->addAction(QStringLiteral("Log Level"), this, [this] { logLevelSetup(); });
+    menu->addAction(tr("Environment Setup"), this, [this] { environmentSetup(); });
+    menu->addAction(tr("Log Level"), this, [this] { logLevelSetup(); });
     menu->addSeparator();
-    menu->addAction(QStringLiteral("E&xit"), this, [this] { close(); });
+    menu->addAction(tr("E&xit"), this, [this] { close(); });
     return menu;
 }
 
@@ -187,26 +186,24 @@ void COV_MainFrame::addToolActions(QMenu& menu, ToolMenu tools)
 
 QMenu* COV_MainFrame::createStatusMenu()
 {
-    QMenu* menu = createToolMenu(QStringLiteral("Status"), ToolMenu::Status);
+    QMenu* menu = createToolMenu(tr("Status"), ToolMenu::Status);
     menu->addSeparator();
-    menu->addAction(QStringLiteral("Card"), this,
-                    [this] { m_statusView->showPage(COV_StBaseWnd::CardPage); });
+    menu->addAction(tr("Card"), this, [this] { m_statusView->showPage(COV_StBaseWnd::CardPage); });
     // "Main", "Error" and "Input" are the axis status monitor's words; the docked view has
     // no page for them, so they bring up the monitor.
-    menu->addAction(QStringLiteral("Main"), this, [this] { openTool(ToolAxisStatus); });
-    menu->addAction(QStringLiteral("Drv"), this,
-                    [this] { m_statusView->showPage(COV_StBaseWnd::DrivePage); });
-    menu->addAction(QStringLiteral("Error"), this, [this] { openTool(ToolAxisStatus); });
-    menu->addAction(QStringLiteral("Input"), this, [this] { openTool(ToolAxisStatus); });
+    menu->addAction(tr("Main"), this, [this] { openTool(ToolAxisStatus); });
+    menu->addAction(tr("Drv"), this, [this] { m_statusView->showPage(COV_StBaseWnd::DrivePage); });
+    menu->addAction(tr("Error"), this, [this] { openTool(ToolAxisStatus); });
+    menu->addAction(tr("Input"), this, [this] { openTool(ToolAxisStatus); });
     return menu;
 }
 
 QMenu* COV_MainFrame::createWindowMenu()
 {
-    auto* menu = new QMenu(QStringLiteral("&Window"), this);
-    menu->addAction(QStringLiteral("&Cascade"), this, [this] { m_mdiArea->cascadeSubWindows(); });
-    menu->addAction(QStringLiteral("&Tile"), this, [this] { m_mdiArea->tileSubWindows(); });
-    menu->addAction(QStringLiteral("&Arrange Icons"), this, [this] {
+    auto* menu = new QMenu(tr("&Window"), this);
+    menu->addAction(tr("&Cascade"), this, [this] { m_mdiArea->cascadeSubWindows(); });
+    menu->addAction(tr("&Tile"), this, [this] { m_mdiArea->tileSubWindows(); });
+    menu->addAction(tr("&Arrange Icons"), this, [this] {
         int x = 0;
         for (QMdiSubWindow* window : m_mdiArea->subWindowList()) {
             if (!window->isMinimized())
@@ -215,8 +212,8 @@ QMenu* COV_MainFrame::createWindowMenu()
             x += window->width();
         }
     });
-    menu->addAction(QStringLiteral("Close All"), this, [this] { closeAllTools(); });
-    QMenu* list = menu->addMenu(QStringLiteral("Window List"));
+    menu->addAction(tr("Close All"), this, [this] { closeAllTools(); });
+    QMenu* list = menu->addMenu(tr("Window List"));
     connect(list, &QMenu::aboutToShow, this, [this, list] {
         list->clear();
         for (QMdiSubWindow* window : m_mdiArea->subWindowList()) {
@@ -234,8 +231,8 @@ QMenu* COV_MainFrame::createWindowMenu()
 
 QMenu* COV_MainFrame::createHelpMenu()
 {
-    auto* menu = new QMenu(QStringLiteral("&Help"), this);
-    menu->addAction(QStringLiteral("&About Orvane..."), this, [this] {
+    auto* menu = new QMenu(tr("&Help"), this);
+    menu->addAction(tr("&About Orvane..."), this, [this] {
         COV_AboutDlg about(this);
         about.exec();
     });
@@ -244,20 +241,20 @@ QMenu* COV_MainFrame::createHelpMenu()
 
 void COV_MainFrame::createStopAllAction()
 {
-    m_stopAll = new QAction(stopSignIcon(), QStringLiteral("Stop All Axes"), this);
+    m_stopAll = new QAction(stopSignIcon(), tr("Stop All Axes"), this);
     m_stopAll->setObjectName(QStringLiteral("StopAllAxes"));
     m_stopAll->setShortcut(QKeySequence(Qt::Key_F12));
     // Reachable whatever window of the program has the focus.
     m_stopAll->setShortcutContext(Qt::ApplicationShortcut);
-    m_stopAll->setToolTip(QStringLiteral("Stop All Axes (F12): stops every axis of every board "
-                                         "at once and ends every running motion sequence"));
+    m_stopAll->setToolTip(tr("Stop All Axes (F12): stops every axis of every board "
+                             "at once and ends every running motion sequence"));
     connect(m_stopAll, &QAction::triggered, this, [this] { stopAllAxes(); });
     addAction(m_stopAll);
 }
 
 void COV_MainFrame::createToolBar()
 {
-    QToolBar* bar = addToolBar(QStringLiteral("Main"));
+    QToolBar* bar = addToolBar(tr("Main"));
     bar->setObjectName(QStringLiteral("Main"));
     bar->addAction(m_stopAll);
     bar->addSeparator();
@@ -294,7 +291,7 @@ void COV_MainFrame::createDocks()
     m_tree = new COV_WsSysWnd(m_state, m_startup, *this, this);
     connect(m_tree, &COV_WsSysWnd::setActiveControllerRequested, this,
             [this] { setActiveControllerFromTree(); });
-    m_treeDock = createDock(QStringLiteral("WorkspacePane"), QStringLiteral("Workspace"), m_tree,
+    m_treeDock = createDock(QStringLiteral("WorkspacePane"), tr("Workspace"), m_tree,
                             Qt::LeftDockWidgetArea);
     m_tree->setMinimumSize(200, 120);
 
@@ -435,7 +432,7 @@ bool COV_MainFrame::refuseWhileMoving()
     if (!m_state.active.anyAxesMoving())
         return false;
     qCInfo(lcUi).noquote() << "Change of the active controller refused:" << kMovingRefusal;
-    m_prompt.inform(kMovingRefusal);
+    m_prompt.inform(tr(kMovingRefusal));
     fillCombos();
     return true;
 }
@@ -494,8 +491,8 @@ void COV_MainFrame::updatePaneTitles()
 {
     const QString model = m_state.modelName(m_state.active.card);
     const int card = m_state.active.card;
-    m_statusDock->setWindowTitle(QStringLiteral("Axis Status - %1(%2)").arg(model).arg(card));
-    m_motionDock->setWindowTitle(QStringLiteral("Motion Status - %1(%2)").arg(model).arg(card));
+    m_statusDock->setWindowTitle(tr("Axis Status - %1(%2)").arg(model).arg(card));
+    m_motionDock->setWindowTitle(tr("Motion Status - %1(%2)").arg(model).arg(card));
 }
 
 void COV_MainFrame::closeAllTools()
@@ -516,7 +513,7 @@ void COV_MainFrame::stopAllAxes()
     for (ToolView* view : m_tools->openViews())
         view->endMotion();
     m_state.active.axesMoving = {};
-    statusBar()->showMessage(QStringLiteral("All axes stopped"));
+    statusBar()->showMessage(tr("All axes stopped"));
 }
 
 void COV_MainFrame::runCommand(FrameCommand command)

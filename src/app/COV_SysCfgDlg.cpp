@@ -11,7 +11,7 @@ COV_SysCfgDlg::COV_SysCfgDlg(QString settingsFilePath, QWidget* parent)
     : QDialog(parent, kDialogFlags), m_path(std::move(settingsFilePath)),
       m_values(OrvaneSettings::readSystem(m_path))
 {
-    setWindowTitle(QStringLiteral("System Environment Setup"));
+    setWindowTitle(tr("System Environment Setup"));
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(createChecks());
     layout->addWidget(createOkCancelButtons(*this));
@@ -22,9 +22,9 @@ QWidget* COV_SysCfgDlg::createChecks()
     auto* box = new QWidget(this);
     auto* layout = new QVBoxLayout(box);
     layout->setContentsMargins(0, 0, 0, 0);
-    m_showStatus = new QCheckBox(QStringLiteral(" Default Show Axis Status Window "), box);
+    m_showStatus = new QCheckBox(tr(" Default Show Axis Status Window "), box);
     m_followOperation =
-        new QCheckBox(QStringLiteral(" Change Status Window Axis Depeng On Operation Window"), box);
+        new QCheckBox(tr(" Change Status Window Axis Depeng On Operation Window"), box);
     m_showStatus->setChecked(m_values.showStatusWindow != 0);
     m_followOperation->setChecked(m_values.statusFollowsOperation != 0);
     layout->addWidget(m_showStatus);

@@ -18,6 +18,16 @@
 namespace {
 constexpr int kImageRole = Qt::UserRole + 1;
 
+// The board layer words versions as parameter files carry them; the tree shows their caption
+// in the user's language.
+std::string withShownCaption(const std::string& text, const std::string& caption,
+                             const QString& shown)
+{
+    if (text.rfind(caption, 0) != 0)
+        return text;
+    return shown.toStdString() + text.substr(caption.size());
+}
+
 std::size_t at(BoardFamily family)
 {
     return static_cast<std::size_t>(familyIndex(family));
@@ -116,16 +126,25 @@ void COV_WsSysWnd::build()
             const std::int32_t firmware = m_startup.readCardInfo(family, static_cast<CardNo>(card));
             if (card == 0) {
                 m_families[at(family)] = addItem(nullptr, familyDisplayName(family), FamilyImage);
-                addItem(m_families[at(family)], m_startup.libraryVersionText(family), VersionImage);
+                addItem(m_families[at(family)],
+                        withShownCaption(m_startup.libraryVersionText(family),
+                                         "Dll Ver. : ", tr("Dll Ver. : ")),
+                        VersionImage);
             }
             const std::string label = BoardTexts::cardLabel(card, registry.modelName(family, card));
             m_cardLabels[at(family)][at(card)] = label;
             QTreeWidgetItem* cardNode = addItem(m_families[at(family)], label, CardImage);
             m_cards[at(family)][at(card)] = cardNode;
-            addItem(cardNode, "Axis : " + std::to_string(registry.axisCount(family, card)),
+            addItem(cardNode,
+                    tr("Axis : ").toStdString() + std::to_string(registry.axisCount(family, card)),
                     AxisImage);
-            addItem(cardNode, "IO : " + std::to_string(registry.ioCount(family, card)), IoImage);
-            addItem(cardNode, BoardTexts::firmwareText(family, firmware), FirmwareImage);
+            addItem(cardNode,
+                    tr("IO : ").toStdString() + std::to_string(registry.ioCount(family, card)),
+                    IoImage);
+            addItem(cardNode,
+                    withShownCaption(BoardTexts::firmwareText(family, firmware),
+                                     "Firmware Ver. : ", tr("Firmware Ver. : ")),
+                    FirmwareImage);
             m_families[at(family)]->setExpanded(true);
             cardNode->setExpanded(true);
         }
@@ -200,7 +219,7 @@ QMenu* COV_WsSysWnd::createContextMenu(QTreeWidgetItem* item)
         return nullptr;
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    QAction* action = menu->addAction(QStringLiteral("Set Active Controller"));
+    QAction* action = menu->addAction(tr("Set Active Controller"));
     connect(action, &QAction::triggered, this, [this] { emit setActiveControllerRequested(); });
     return menu;
 }
@@ -251,8 +270,8 @@ void COV_WsSysWnd::activateItem(QTreeWidgetItem* item)
     if (activeCard == nullptr || item->parent() != activeCard)
         return;
     const QString label = item->text(0);
-    if (label.contains(QLatin1String("IO : ")))
+    if (label.contains(tr("IO : ")))
         m_frame.sendToFrame(UM_OPEN_TOOL, ToolDigitalIo);
-    else if (label.contains(QLatin1String("Axis : ")))
+    else if (label.contains(tr("Axis : ")))
         m_frame.sendToFrame(UM_OPEN_TOOL, ToolSingleAxis);
 }

@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QLocale>
 #include <QScreen>
 #include <QStandardPaths>
 
@@ -23,6 +24,7 @@ COrvaneApp::COrvaneApp()
     QApplication::setWindowIcon(OrvaneIcon::create());
     m_state.moduleDirectory =
         QDir(QCoreApplication::applicationDirPath()).absolutePath() + QLatin1Char('/');
+    m_translations.install(QLocale(), m_state.moduleDirectory);
     m_board.setTrace(&m_trace);
     m_traceClock = std::make_unique<BoardCallClock>(m_trace);
     qApp->installEventFilter(m_traceClock.get());

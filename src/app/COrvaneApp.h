@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AppState.h"
+#include "AppTranslations.h"
 #include "BoardApi.h"
 #include "MessageBoxPrompt.h"
 #include "ToolWindowFactory.h"
@@ -34,6 +35,7 @@ private:
 
     // first: the log outlives everything that may write to it
     std::unique_ptr<LogFile> m_log;
+    AppTranslations m_translations;
     AppState m_state;
     BoardCallTrace m_trace;
     BoardApi m_board;

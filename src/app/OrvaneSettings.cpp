@@ -38,7 +38,6 @@ int OrvaneSettings::readLogLevel(const QString& moduleDirectory, BoardFamily fam
 
 QStringList OrvaneSettings::logLevelTexts()
 {
-    return {QStringLiteral("0 : No Use"), QStringLiteral("1 : Level 1(Only Command Functions)"),
-            QStringLiteral("2 : Level 2(Only Errors)"),
-            QStringLiteral("3 : Level 3(All Functions)")};
+    return {tr("0 : No Use"), tr("1 : Level 1(Only Command Functions)"),
+            tr("2 : Level 2(Only Errors)"), tr("3 : Level 3(All Functions)")};
 }

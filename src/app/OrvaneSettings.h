@@ -2,6 +2,7 @@
 
 #include "BoardFamily.h"
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
@@ -9,6 +10,8 @@
 // switches and DbgLevel.ini with each family's log level.
 class OrvaneSettings
 {
+    Q_DECLARE_TR_FUNCTIONS(OrvaneSettings)
+
 public:
     struct System
     {

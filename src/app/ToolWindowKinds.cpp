@@ -87,15 +87,16 @@ void registerToolWindows(ToolWindowFactory& factory)
     factory.registerCommand(FrameCommand::ActualSpeedCalculator, dialogOf<COV_ActSpdCalDlg>());
     factory.registerCommand(FrameCommand::ExportParameters, dialogOf<COV_ExportPrmDlg>());
     factory.registerCommand(FrameCommand::CompareParameters, dialogOf<COV_ComparePrmDlg>());
-    factory.registerCommand(FrameCommand::ImportParameters,
-                            [](const ToolContext& context, QWidget* parent) {
-                                const QString path = QFileDialog::getOpenFileName(
-                                    parent, QStringLiteral("Import Parameters"), QString(),
-                                    QStringLiteral("Parameter files (*.ini *.txt);;All files (*)"));
-                                if (path.isEmpty())
-                                    return;
-                                COV_ImportPrmDlg dialog(context, parent);
-                                dialog.load(path);
-                                dialog.exec();
-                            });
+    factory.registerCommand(FrameCommand::ImportParameters, [](const ToolContext& context,
+                                                               QWidget* parent) {
+        const QString path = QFileDialog::getOpenFileName(
+            parent, QCoreApplication::translate("ToolWindowKinds", "Import Parameters"), QString(),
+            QCoreApplication::translate("ToolWindowKinds",
+                                        "Parameter files (*.ini *.txt);;All files (*)"));
+        if (path.isEmpty())
+            return;
+        COV_ImportPrmDlg dialog(context, parent);
+        dialog.load(path);
+        dialog.exec();
+    });
 }

@@ -5,8 +5,16 @@
 
 namespace {
 
+// Marked for the board-call window, which shows them translated; the CSV keeps them as written.
 const char* const kHeaders[BoardCallText::ColumnCount] = {
-    "Time (us)", "Family", "Operation", "Card", "Axis", "Arguments", "Result", "Caller"};
+    QT_TRANSLATE_NOOP("BoardCallText", "Time (us)"),
+    QT_TRANSLATE_NOOP("BoardCallText", "Family"),
+    QT_TRANSLATE_NOOP("BoardCallText", "Operation"),
+    QT_TRANSLATE_NOOP("BoardCallText", "Card"),
+    QT_TRANSLATE_NOOP("BoardCallText", "Axis"),
+    QT_TRANSLATE_NOOP("BoardCallText", "Arguments"),
+    QT_TRANSLATE_NOOP("BoardCallText", "Result"),
+    QT_TRANSLATE_NOOP("BoardCallText", "Caller")};
 
 QStringList parameterNames(const BoardOpInfo& info)
 {

@@ -18,18 +18,17 @@ QString BoardStartup::loadFailureText(BoardFamily family, std::int32_t result)
     const QString controller = QString::fromLatin1(familyControllerName(family));
     switch (result) {
     case -10:
-        return QStringLiteral("FAIL! %1 NOT SUPPORT THE PROCESS....").arg(controller);
+        return tr("FAIL! %1 NOT SUPPORT THE PROCESS....").arg(controller);
     case -7:
-        return QStringLiteral("FAIL! %1 CHECK THE HARDWARE VERSION....").arg(controller);
+        return tr("FAIL! %1 CHECK THE HARDWARE VERSION....").arg(controller);
     case -5:
-        return QStringLiteral("FAIL! %1 CEHCK UP-BOARD POSITION....").arg(controller);
+        return tr("FAIL! %1 CEHCK UP-BOARD POSITION....").arg(controller);
     case -4:
         // The RM library's message has always read "ERRORR"; users search for it as written.
-        return family == BoardFamily::RM
-                   ? QStringLiteral("FAIL! %1 DATA BUS LINE ERRORR....").arg(controller)
-                   : QStringLiteral("FAIL! %1 DATA BUS LINE ERROR....").arg(controller);
+        return family == BoardFamily::RM ? tr("FAIL! %1 DATA BUS LINE ERRORR....").arg(controller)
+                                         : tr("FAIL! %1 DATA BUS LINE ERROR....").arg(controller);
     case -2:
-        return QStringLiteral("FAIL! %1 PARAMETER FILE DOES NOT MATCH....").arg(controller);
+        return tr("FAIL! %1 PARAMETER FILE DOES NOT MATCH....").arg(controller);
     default:
         return QString();
     }
@@ -58,7 +57,7 @@ bool BoardStartup::loadDevices(const QStringList& libraryProblems)
         anyBoard = anyBoard || result >= 0;
     }
     if (!anyBoard) {
-        m_prompt.inform(QStringLiteral("FAIL! LOAD DEVICE DRIVER ...."));
+        m_prompt.inform(tr("FAIL! LOAD DEVICE DRIVER ...."));
         return false;
     }
     for (BoardFamily family : kAllFamilies)
@@ -90,8 +89,8 @@ bool BoardStartup::offerSave()
         for (int card = 0; card < kMaxCards; ++card) {
             if (!m_registry.parametersChanged(family, card))
                 continue;
-            const QString text = QStringLiteral("%1(%2) board parameters are changed.\n"
-                                                "Do you want to save parameter to file?")
+            const QString text = tr("%1(%2) board parameters are changed.\n"
+                                    "Do you want to save parameter to file?")
                                      .arg(QLatin1String(familyDisplayName(family)))
                                      .arg(card);
             const PromptAnswer answer = m_prompt.askYesNoCancel(text);

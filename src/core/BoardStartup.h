@@ -2,6 +2,7 @@
 
 #include "BoardFamily.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 
 #include <cstdint>
@@ -15,6 +16,8 @@ class PromptService;
 // of each card's information, the save prompt at exit and the unload.
 class BoardStartup
 {
+    Q_DECLARE_TR_FUNCTIONS(BoardStartup)
+
 public:
     BoardStartup(BoardApi& board, CardRegistry& registry, PromptService& prompt);
 

@@ -1,10 +1,17 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
-// The program's message texts that several windows show, written once.
+// The program's message texts that several windows show, written once, in the user's language.
 namespace PromptTexts {
-inline const QString kParametersChanged =
-    QStringLiteral("Parameters are changed. Do you want to set parameter?");
-inline const QString kInputIncorrect = QStringLiteral("Input value is incorrect!");
+inline QString parametersChanged()
+{
+    return QCoreApplication::translate("PromptTexts",
+                                       "Parameters are changed. Do you want to set parameter?");
+}
+inline QString inputIncorrect()
+{
+    return QCoreApplication::translate("PromptTexts", "Input value is incorrect!");
+}
 } // namespace PromptTexts

@@ -53,7 +53,7 @@ QVariant AxisValueGridModel::headerData(int section, Qt::Orientation orientation
     if (role != Qt::DisplayRole)
         return QVariant();
     if (orientation == Qt::Horizontal)
-        return QStringLiteral("%1 Axis").arg(section);
+        return tr("%1 Axis").arg(section);
     return section >= 0 && section < rowCount() ? m_rows[static_cast<std::size_t>(section)].title
                                                 : QString();
 }

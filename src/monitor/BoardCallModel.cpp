@@ -4,6 +4,7 @@
 #include "BoardCallTrace.h"
 
 #include <QBrush>
+#include <QCoreApplication>
 #include <QIODevice>
 
 #include <algorithm>
@@ -120,6 +121,7 @@ QVariant BoardCallModel::data(const QModelIndex& index, int role) const
 QVariant BoardCallModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
     if (orientation == Qt::Horizontal && role == Qt::DisplayRole)
-        return BoardCallText::header(section);
+        return QCoreApplication::translate("BoardCallText",
+                                           BoardCallText::header(section).toLatin1().constData());
     return QVariant();
 }

@@ -27,7 +27,7 @@ COV_AxStMonWnd::COV_AxStMonWnd(const ToolContext& context, QWidget* parent)
     layout->addStretch(1);
     auto* bottom = new QHBoxLayout;
     bottom->addStretch(1);
-    m_close = new QPushButton(QStringLiteral("Close"), this);
+    m_close = new QPushButton(tr("Close"), this);
     m_close->setObjectName(QStringLiteral("closeButton"));
     m_close->setAutoDefault(false);
     bottom->addWidget(m_close);
@@ -60,10 +60,10 @@ QWidget* COV_AxStMonWnd::createSelectorRow()
     m_cardCombo->setObjectName(QStringLiteral("cardCombo"));
     m_axisCombo = new QComboBox(row);
     m_axisCombo->setObjectName(QStringLiteral("axisCombo"));
-    layout->addWidget(new QLabel(QStringLiteral("Card No. : "), row));
+    layout->addWidget(new QLabel(tr("Card No. : "), row));
     layout->addWidget(m_cardCombo);
     layout->addSpacing(16);
-    layout->addWidget(new QLabel(QStringLiteral("Axis No. : "), row));
+    layout->addWidget(new QLabel(tr("Axis No. : "), row));
     layout->addWidget(m_axisCombo);
     layout->addStretch(1);
     return row;
@@ -80,7 +80,7 @@ QWidget* COV_AxStMonWnd::createWordGrid()
     for (int bit = 0; bit < StatusWordColumn::kBits; ++bit) {
         auto* number = new QLabel(QString::number(bit), area);
         number->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        number->setToolTip(QStringLiteral("Bit %1 of each word").arg(bit));
+        number->setToolTip(tr("Bit %1 of each word").arg(bit));
         grid->addWidget(number, StatusWordColumn::kFirstLampRow + bit, 0);
     }
     for (StatusWordKind word : kWordOrder) {
@@ -106,7 +106,7 @@ void COV_AxStMonWnd::fillCardCombo(int card)
 void COV_AxStMonWnd::rebuild()
 {
     AppState& state = m_context.state;
-    setWindowTitle(QStringLiteral("Axis Status - %1(%2)").arg(state.modelName(m_card)).arg(m_card));
+    setWindowTitle(tr("Axis Status - %1(%2)").arg(state.modelName(m_card)).arg(m_card));
     const int axes = state.registry.axisCount(state.active.family, m_card);
     m_axisCombo->clear();
     for (int each = 0; each < axes; ++each)

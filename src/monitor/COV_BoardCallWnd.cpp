@@ -36,7 +36,7 @@ QComboBox* numberCombo(const QString& objectName, int count, QWidget* parent)
 {
     auto* combo = new QComboBox(parent);
     combo->setObjectName(objectName);
-    combo->addItem(QStringLiteral("All"), -1);
+    combo->addItem(QCoreApplication::translate("COV_BoardCallWnd", "All"), -1);
     for (int i = 0; i < count; ++i)
         combo->addItem(QString::number(i), i);
     return combo;
@@ -47,7 +47,7 @@ QComboBox* numberCombo(const QString& objectName, int count, QWidget* parent)
 COV_BoardCallWnd::COV_BoardCallWnd(const ToolContext& context, QWidget* parent)
     : ToolView(parent), m_context(context), m_trace(context.board.trace())
 {
-    setWindowTitle(QStringLiteral("Board Calls"));
+    setWindowTitle(tr("Board Calls"));
     m_model =
         new BoardCallModel(m_trace ? *m_trace : emptyTrace(), m_context.board.callers(), this);
     auto* layout = new QVBoxLayout(this);
@@ -76,29 +76,29 @@ QWidget* COV_BoardCallWnd::createFilters()
     row->setContentsMargins(0, 0, 0, 0);
     m_family = new QComboBox(box);
     m_family->setObjectName(QStringLiteral("family"));
-    m_family->addItem(QStringLiteral("All"), -1);
+    m_family->addItem(tr("All"), -1);
     for (BoardFamily family : kAllFamilies)
         m_family->addItem(QString::fromLatin1(familyShortName(family)), familyIndex(family));
     m_card = numberCombo(QStringLiteral("card"), kMaxCards, box);
     m_axis = numberCombo(QStringLiteral("axis"), kMaxAxes, box);
     m_operation = new QLineEdit(box);
     m_operation->setObjectName(QStringLiteral("operation"));
-    m_operation->setPlaceholderText(QStringLiteral("any"));
-    m_operation->setToolTip(QStringLiteral("Show operations whose name contains this text"));
+    m_operation->setPlaceholderText(tr("any"));
+    m_operation->setToolTip(tr("Show operations whose name contains this text"));
     m_caller = new QComboBox(box);
     m_caller->setObjectName(QStringLiteral("caller"));
-    m_caller->addItem(QStringLiteral("All"), -1);
+    m_caller->addItem(tr("All"), -1);
     m_caller->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    m_caller->setToolTip(QStringLiteral("The window or pane that made the call"));
+    m_caller->setToolTip(tr("The window or pane that made the call"));
     updateCallers();
 
-    const std::pair<const char*, QWidget*> fields[] = {{"Family", m_family},
-                                                       {"Card", m_card},
-                                                       {"Axis", m_axis},
-                                                       {"Operation", m_operation},
-                                                       {"Caller", m_caller}};
+    const std::pair<const char*, QWidget*> fields[] = {{QT_TR_NOOP("Family"), m_family},
+                                                       {QT_TR_NOOP("Card"), m_card},
+                                                       {QT_TR_NOOP("Axis"), m_axis},
+                                                       {QT_TR_NOOP("Operation"), m_operation},
+                                                       {QT_TR_NOOP("Caller"), m_caller}};
     for (const auto& [caption, field] : fields) {
-        row->addWidget(new QLabel(QString::fromLatin1(caption), box));
+        row->addWidget(new QLabel(tr(caption), box));
         row->addWidget(field, field == m_operation ? 1 : 0);
     }
     for (QComboBox* combo : {m_family, m_card, m_axis, m_caller})
@@ -112,42 +112,41 @@ QWidget* COV_BoardCallWnd::createActions()
     auto* box = new QWidget(this);
     auto* row = new QHBoxLayout(box);
     row->setContentsMargins(0, 0, 0, 0);
-    m_hidePolling = new QCheckBox(QStringLiteral("Hide polling reads"), box);
+    m_hidePolling = new QCheckBox(tr("Hide polling reads"), box);
     m_hidePolling->setObjectName(QStringLiteral("hidePolling"));
     m_hidePolling->setChecked(true);
     m_hidePolling->setToolTip(
-        QStringLiteral("Hide the reads the windows repeat every 10 ms (Done, positions, status "
-                       "words, inputs)"));
-    m_failuresOnly = new QCheckBox(QStringLiteral("Failures only"), box);
+        tr("Hide the reads the windows repeat every 10 ms (Done, positions, status "
+           "words, inputs)"));
+    m_failuresOnly = new QCheckBox(tr("Failures only"), box);
     m_failuresOnly->setObjectName(QStringLiteral("failuresOnly"));
     m_failuresOnly->setToolTip(
-        QStringLiteral("Show only setters, moves and stops that the board refused (a negative "
-                       "result)"));
+        tr("Show only setters, moves and stops that the board refused (a negative "
+           "result)"));
     for (QCheckBox* check : {m_hidePolling, m_failuresOnly}) {
         row->addWidget(check);
         connect(check, &QCheckBox::toggled, this, [this] { applyFilters(); });
     }
     row->addStretch(1);
 
-    m_pause = new QPushButton(QStringLiteral("Pause"), box);
+    m_pause = new QPushButton(tr("Pause"), box);
     m_pause->setObjectName(QStringLiteral("pause"));
     m_pause->setCheckable(true);
-    m_pause->setToolTip(QStringLiteral("Stop or resume recording board calls"));
+    m_pause->setToolTip(tr("Stop or resume recording board calls"));
     connect(m_pause, &QPushButton::toggled, this, [this](bool on) { setPaused(on); });
-    auto* clearButton = new QPushButton(QStringLiteral("Clear"), box);
-    clearButton->setToolTip(QStringLiteral("Forget every call recorded so far"));
+    auto* clearButton = new QPushButton(tr("Clear"), box);
+    clearButton->setToolTip(tr("Forget every call recorded so far"));
     connect(clearButton, &QPushButton::clicked, this, [this] { clear(); });
-    auto* copyButton = new QPushButton(QStringLiteral("Copy"), box);
-    copyButton->setToolTip(QStringLiteral("Copy the selected rows to the clipboard"));
+    auto* copyButton = new QPushButton(tr("Copy"), box);
+    copyButton->setToolTip(tr("Copy the selected rows to the clipboard"));
     connect(copyButton, &QPushButton::clicked, this, [this] { copySelection(); });
-    auto* exportButton = new QPushButton(QStringLiteral("Export CSV..."), box);
-    exportButton->setToolTip(QStringLiteral("Save the rows shown to a CSV file"));
+    auto* exportButton = new QPushButton(tr("Export CSV..."), box);
+    exportButton->setToolTip(tr("Save the rows shown to a CSV file"));
     connect(exportButton, &QPushButton::clicked, this, [this] {
-        const QString path = QFileDialog::getSaveFileName(this, QStringLiteral("Export CSV"),
-                                                          QStringLiteral("BoardCalls.csv"),
-                                                          QStringLiteral("CSV files (*.csv)"));
+        const QString path = QFileDialog::getSaveFileName(
+            this, tr("Export CSV"), QStringLiteral("BoardCalls.csv"), tr("CSV files (*.csv)"));
         if (!path.isEmpty() && !exportCsv(path))
-            m_context.prompt.inform(QStringLiteral("Can not write %1 !").arg(path));
+            m_context.prompt.inform(tr("Can not write %1 !").arg(path));
     });
     for (QPushButton* button : {m_pause, clearButton, copyButton, exportButton})
         row->addWidget(button);
@@ -230,7 +229,7 @@ void COV_BoardCallWnd::setPaused(bool paused)
         m_trace->setPaused(paused);
     if (m_pause->isChecked() != paused)
         m_pause->setChecked(paused);
-    m_pause->setText(paused ? QStringLiteral("Resume") : QStringLiteral("Pause"));
+    m_pause->setText(paused ? tr("Resume") : tr("Pause"));
 }
 
 void COV_BoardCallWnd::clear()

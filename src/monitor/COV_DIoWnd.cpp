@@ -176,21 +176,21 @@ void COV_DIoWnd::setUp()
     setWindowTitle(tr("Digital IO - %1(%2)").arg(state.modelName(m_card)).arg(m_card));
     m_filterEnable->setCurrentIndex(m_model.boardFilter());
     m_filterTime->setCurrentIndex(m_model.boardFilterTime());
-    fillTabs(m_inputTabs, "DI_", m_model.inputPage());
-    fillTabs(m_outputTabs, "DO_", m_model.outputPage());
+    fillTabs(m_inputTabs, tr("DI_%1"), m_model.inputPage());
+    fillTabs(m_outputTabs, tr("DO_%1"), m_model.outputPage());
     m_inputPage->setUp(m_model);
     m_outputPage->setUp(m_model);
     m_shownInputWord.clear();
     showOutputWord();
 }
 
-void COV_DIoWnd::fillTabs(QTabBar* tabs, const char* prefix, int page)
+void COV_DIoWnd::fillTabs(QTabBar* tabs, const QString& caption, int page)
 {
     const QSignalBlocker quiet(tabs);
     while (tabs->count() > 0)
         tabs->removeTab(0);
     for (int index = 0; index < m_model.pageCount(); ++index)
-        tabs->addTab(QLatin1String(prefix) + QString::number(index));
+        tabs->addTab(caption.arg(index));
     tabs->setCurrentIndex(page);
 }
 
@@ -223,7 +223,7 @@ void COV_DIoWnd::onOutputWordEntered()
         return;
     std::uint32_t word = 0;
     if (!DigitalIoModel::parseWord(m_outputWord->text(), word)) {
-        m_context.prompt.inform(PromptTexts::kInputIncorrect);
+        m_context.prompt.inform(PromptTexts::inputIncorrect());
         m_outputWord->setText(QStringLiteral("0"));
         return;
     }
@@ -249,7 +249,7 @@ void COV_DIoWnd::checkUnsavedFilter()
 {
     // The model still names the family and card the combo boxes were read from.
     if (m_model.filterDiffers(m_filterEnable->currentIndex(), m_filterTime->currentIndex()) &&
-        m_context.prompt.askYesNo(PromptTexts::kParametersChanged))
+        m_context.prompt.askYesNo(PromptTexts::parametersChanged()))
         setFilterParameters();
 }
 

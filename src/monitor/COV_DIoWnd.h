@@ -44,7 +44,8 @@ private:
 
     void fillCardCombo();
     void setUp();
-    void fillTabs(QTabBar* tabs, const char* prefix, int page);
+    // caption holds the page number as %1.
+    void fillTabs(QTabBar* tabs, const QString& caption, int page);
     void showOutputWord();
     void onOutputWordEntered();
     void onLockToggled(bool locked);

@@ -25,8 +25,8 @@ COV_StBaseWnd::COV_StBaseWnd(AppState& state, BoardApi& board, QWidget* parent)
 QWidget* COV_StBaseWnd::createTabs()
 {
     m_tabs = new QTabBar(this);
-    m_tabs->addTab(QStringLiteral("Card"));
-    m_tabs->addTab(QStringLiteral("Drive"));
+    m_tabs->addTab(tr("Card"));
+    m_tabs->addTab(tr("Drive"));
     m_tabs->setExpanding(false);
     connect(m_tabs, &QTabBar::currentChanged, this,
             [this](int index) { m_stack->setCurrentIndex(index); });
@@ -62,10 +62,11 @@ QWidget* COV_StBaseWnd::createPagingButtons()
     layout->addWidget(createPagingButton(QStringLiteral("<"), &COV_StBaseWnd::pagePrevious));
     layout->addWidget(createPagingButton(QStringLiteral(">"), &COV_StBaseWnd::pageNext));
     layout->addWidget(createPagingButton(QStringLiteral(">>"), &COV_StBaseWnd::pageLast));
-    const char* const tips[] = {"Show the first four axes", "Show the previous four axes",
-                                "Show the next four axes", "Show the last four axes"};
+    const char* const tips[] = {
+        QT_TR_NOOP("Show the first four axes"), QT_TR_NOOP("Show the previous four axes"),
+        QT_TR_NOOP("Show the next four axes"), QT_TR_NOOP("Show the last four axes")};
     for (int i = 0; i < layout->count(); ++i)
-        layout->itemAt(i)->widget()->setToolTip(QString::fromLatin1(tips[i]));
+        layout->itemAt(i)->widget()->setToolTip(tr(tips[i]));
     layout->addStretch(1);
     return row;
 }

@@ -34,27 +34,27 @@ COV_SysDbgWnd::COV_SysDbgWnd(const ToolContext& context, QWidget* parent)
     : ToolView(parent), m_context(context), m_family(context.state.active.family),
       m_card(context.state.active.card)
 {
-    setWindowTitle(QStringLiteral("System Diagnosis"));
-    m_positions = new DiagnosisGrid({{QStringLiteral("Cmd Pos"), Format::Decimal},
-                                     {QStringLiteral("Act Pos"), Format::Decimal},
-                                     {QStringLiteral("Cmd Vel"), Format::Decimal}},
+    setWindowTitle(tr("System Diagnosis"));
+    m_positions = new DiagnosisGrid({{tr("Cmd Pos"), Format::Decimal},
+                                     {tr("Act Pos"), Format::Decimal},
+                                     {tr("Cmd Vel"), Format::Decimal}},
                                     this);
-    m_statuses = new DiagnosisGrid({{QStringLiteral("Card"), Format::HexWord16},
-                                    {QStringLiteral("Drive"), Format::HexWord16},
-                                    {QStringLiteral("Main"), Format::HexWord16},
-                                    {QStringLiteral("Error"), Format::HexWord16},
-                                    {QStringLiteral("Input"), Format::HexWord16}},
+    m_statuses = new DiagnosisGrid({{tr("Card"), Format::HexWord16},
+                                    {tr("Drive"), Format::HexWord16},
+                                    {tr("Main"), Format::HexWord16},
+                                    {tr("Error"), Format::HexWord16},
+                                    {tr("Input"), Format::HexWord16}},
                                    this);
     m_positions->setObjectName(QStringLiteral("positionGrid"));
     m_statuses->setObjectName(QStringLiteral("statusGrid"));
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(createSelectorRow());
-    layout->addWidget(createGridGroup(QStringLiteral(" Position / Speed Status "), m_positions));
-    layout->addWidget(createGridGroup(QStringLiteral(" Axis IO Status "), m_statuses));
+    layout->addWidget(createGridGroup(tr(" Position / Speed Status "), m_positions));
+    layout->addWidget(createGridGroup(tr(" Axis IO Status "), m_statuses));
     auto* io = new QHBoxLayout;
-    io->addWidget(createIoGroup(QStringLiteral(" Digital Input Status "), Inputs));
-    io->addWidget(createIoGroup(QStringLiteral(" Digital Output Status "), Outputs));
+    io->addWidget(createIoGroup(tr(" Digital Input Status "), Inputs));
+    io->addWidget(createIoGroup(tr(" Digital Output Status "), Outputs));
     layout->addLayout(io);
     layout->addStretch(1);
 
@@ -80,13 +80,13 @@ QWidget* COV_SysDbgWnd::createSelectorRow()
     m_familyCombo->setObjectName(QStringLiteral("familyCombo"));
     m_cardCombo = new QComboBox(row);
     m_cardCombo->setObjectName(QStringLiteral("cardCombo"));
-    m_close = new QPushButton(QStringLiteral("Close"), row);
+    m_close = new QPushButton(tr("Close"), row);
     m_close->setObjectName(QStringLiteral("closeButton"));
     m_close->setAutoDefault(false);
-    layout->addWidget(new QLabel(QStringLiteral("Card Type : "), row));
+    layout->addWidget(new QLabel(tr("Card Type : "), row));
     layout->addWidget(m_familyCombo);
     layout->addSpacing(16);
-    layout->addWidget(new QLabel(QStringLiteral("Card No. : "), row));
+    layout->addWidget(new QLabel(tr("Card No. : "), row));
     layout->addWidget(m_cardCombo);
     layout->addStretch(1);
     layout->addWidget(m_close);
@@ -103,7 +103,8 @@ QGroupBox* COV_SysDbgWnd::createGridGroup(const QString& title, DiagnosisGrid* g
 
 QGroupBox* COV_SysDbgWnd::createIoGroup(const QString& title, Side side)
 {
-    static const char* const kLabels[2] = {"Group_0 (   0 ~ 31 )  :", "Group_1 ( 32 ~ 63 )  :"};
+    static const char* const kLabels[2] = {QT_TR_NOOP("Group_0 (   0 ~ 31 )  :"),
+                                           QT_TR_NOOP("Group_1 ( 32 ~ 63 )  :")};
     auto* group = new QGroupBox(title, this);
     auto* layout = new QGridLayout(group);
     for (int each = 0; each < 2; ++each) {
@@ -113,11 +114,11 @@ QGroupBox* COV_SysDbgWnd::createIoGroup(const QString& title, Side side)
         field->setAlignment(Qt::AlignCenter);
         field->setFixedWidth(field->fontMetrics().horizontalAdvance(QStringLiteral("0xDDDDDDDDD")) +
                              8);
-        field->setToolTip(QStringLiteral("Bits %1 to %2, bit %1 on the right")
+        field->setToolTip(tr("Bits %1 to %2, bit %1 on the right")
                               .arg(each * DigitalIoWords::kGroupBits)
                               .arg(each * DigitalIoWords::kGroupBits + 31));
         m_ioFields[static_cast<std::size_t>(side)][static_cast<std::size_t>(each)] = field;
-        layout->addWidget(new QLabel(QString::fromLatin1(kLabels[each]), group), each, 0);
+        layout->addWidget(new QLabel(tr(kLabels[each]), group), each, 0);
         layout->addWidget(field, each, 1);
     }
     layout->setColumnStretch(2, 1);

@@ -12,9 +12,9 @@ COV_UtMtnStWnd::COV_UtMtnStWnd(AppState& state, BoardApi& board, FrameRelay& fra
     : QWidget(parent), m_state(state), m_board(board), m_frame(frame)
 {
     using Format = AxisValueGridModel::Format;
-    m_model = new AxisValueGridModel({{QStringLiteral("Command Position"), Format::Decimal},
-                                      {QStringLiteral("Actual Position"), Format::Decimal},
-                                      {QStringLiteral("Command Velocity"), Format::Decimal}},
+    m_model = new AxisValueGridModel({{tr("Command Position"), Format::Decimal},
+                                      {tr("Actual Position"), Format::Decimal},
+                                      {tr("Command Velocity"), Format::Decimal}},
                                      this);
     // A grid painted by hand: a changed value repaints its own cell and nothing else.
     m_canvas = new AxisGridCanvas(*m_model, this);

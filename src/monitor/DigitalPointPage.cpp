@@ -68,7 +68,7 @@ void DigitalPointPage::setUp(const DigitalIoModel& model)
 {
     const bool inputs = m_side == Inputs;
     const int page = inputs ? model.inputPage() : model.outputPage();
-    const QString kind = inputs ? QStringLiteral("Input") : QStringLiteral("Output");
+    const QString kind = inputs ? tr("Input") : tr("Output");
     const QPixmap off = LedFaces::face(LedLamp::Grey, LedGround::Grey);
     const QPixmap on = LedFaces::face(inputs ? LedLamp::Green : LedLamp::Red, LedGround::Grey);
     const QPixmap flat = LedFaces::face(LedLamp::Flat, LedGround::Grey);
@@ -91,15 +91,13 @@ void DigitalPointPage::setUp(const DigitalIoModel& model)
         QAbstractButton* widget = point(position);
         widget->setText(QStringLiteral("%1").arg(number, 2, 10, QLatin1Char('0')));
         if (!present)
-            widget->setToolTip(QStringLiteral("%1 %2: not on this card").arg(kind).arg(number));
+            widget->setToolTip(tr("%1 %2: not on this card").arg(kind).arg(number));
         else if (inputs)
             widget->setToolTip(
-                QStringLiteral("Input %1: green while the input is on, grey while off")
-                    .arg(number));
+                tr("Input %1: green while the input is on, grey while off").arg(number));
         else
             widget->setToolTip(
-                QStringLiteral("Output %1: red while the output is on; click to switch it over")
-                    .arg(number));
+                tr("Output %1: red while the output is on; click to switch it over").arg(number));
     }
 }
 

@@ -46,7 +46,7 @@ void StatusLampPage::createLayout()
 
 QWidget* StatusLampPage::createTitle(int column)
 {
-    auto* title = new QLineEdit(QStringLiteral("%1 Axis").arg(column), this);
+    auto* title = new QLineEdit(tr("%1 Axis").arg(column), this);
     title->setReadOnly(true);
     title->setFrame(false);
     title->setFocusPolicy(Qt::NoFocus);
@@ -111,7 +111,7 @@ void StatusLampPage::showColumns(const StatusColumnRules::Columns& columns)
             edit->setVisible(columns.titlesShown[index]);
         if (m_shownTitleAxis[index] != columns.titleAxis[index]) {
             m_shownTitleAxis[index] = columns.titleAxis[index];
-            edit->setText(QStringLiteral("%1 Axis").arg(columns.titleAxis[index]));
+            edit->setText(tr("%1 Axis").arg(columns.titleAxis[index]));
         }
     }
 }

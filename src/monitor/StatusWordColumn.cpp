@@ -23,7 +23,7 @@ StatusWordColumn::StatusWordColumn(StatusWordKind word, QWidget& parent, QGridLa
     m_value->setReadOnly(true);
     m_value->setFocusPolicy(Qt::NoFocus);
     m_value->setAlignment(Qt::AlignCenter);
-    m_value->setToolTip(QStringLiteral("%1 status word in hexadecimal, bit 0 on the right")
+    m_value->setToolTip(tr("%1 status word in hexadecimal, bit 0 on the right")
                             .arg(StatusBitCaptions::wordTitle(word)));
     // "0x0000" and a little air, in the program's font.
     m_value->setFixedWidth(m_value->fontMetrics().horizontalAdvance(QStringLiteral("0xDDDDD")) + 8);

@@ -2,6 +2,7 @@
 
 #include "StatusBitCaptions.h"
 
+#include <QCoreApplication>
 #include <QPixmap>
 
 #include <array>
@@ -19,6 +20,8 @@ class QWidget;
 // value field only when its text did.
 class StatusWordColumn
 {
+    Q_DECLARE_TR_FUNCTIONS(StatusWordColumn)
+
 public:
     static constexpr int kBits = StatusBitCaptions::kBits;
     static constexpr int kTitleRow = 0;

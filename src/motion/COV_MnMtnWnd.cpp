@@ -215,7 +215,7 @@ bool COV_MnMtnWnd::profileChanged(BoardFamily boardFamily) const
 void COV_MnMtnWnd::promptIfChanged(BoardFamily boardFamily)
 {
     if (m_axisCount > 0 && profileChanged(boardFamily) &&
-        m_context.prompt.askYesNo(PromptTexts::kParametersChanged))
+        m_context.prompt.askYesNo(PromptTexts::parametersChanged()))
         setParameters();
 }
 
@@ -352,7 +352,7 @@ MotionAxes COV_MnMtnWnd::buttonAxes(bool tell)
 void COV_MnMtnWnd::onErrorLimitEdited(const QString& text)
 {
     if (!IsNumericText(text)) {
-        m_context.prompt.inform(PromptTexts::kInputIncorrect);
+        m_context.prompt.inform(PromptTexts::inputIncorrect());
         m_form.errorLimitEdit->setText(m_lastValidLimit);
         return;
     }

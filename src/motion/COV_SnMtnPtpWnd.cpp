@@ -17,7 +17,6 @@
 #include <QVBoxLayout>
 
 namespace {
-constexpr const char* kPps = QT_TRANSLATE_NOOP("COV_SnMtnPtpWnd", "[pps]");
 constexpr const char* kMsec = QT_TRANSLATE_NOOP("COV_SnMtnPtpWnd", "[msec]");
 constexpr const char* kPulse = QT_TRANSLATE_NOOP("COV_SnMtnPtpWnd", "[pulse]");
 } // namespace
@@ -249,7 +248,7 @@ void COV_SnMtnPtpWnd::onMotionTypeActivated(int index)
 {
     if (index < 0 || index > static_cast<int>(MotionType::Absolute))
         return;
-    if (parametersChanged(family()) && m_prompt.askYesNo(PromptTexts::kParametersChanged)) {
+    if (parametersChanged(family()) && m_prompt.askYesNo(PromptTexts::parametersChanged())) {
         setParameters(family());
         emit parametersWritten();
     }
@@ -281,7 +280,7 @@ void COV_SnMtnPtpWnd::onDriveSpeedChanged(const QString& text)
         m_lastValidDrive = text;
         return;
     }
-    m_prompt.inform(PromptTexts::kInputIncorrect);
+    m_prompt.inform(PromptTexts::inputIncorrect());
     m_restoringDrive = true;
     m_profile.drive->setText(m_lastValidDrive);
     m_restoringDrive = false;

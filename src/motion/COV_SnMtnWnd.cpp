@@ -131,7 +131,7 @@ void COV_SnMtnWnd::promptForVisiblePage(BoardFamily family)
     const bool home = m_currentTab == MotionTab::Home;
     const bool changed =
         home ? m_homePage->parametersChanged(family) : m_ptpPage->parametersChanged(family);
-    if (!changed || !m_context.prompt.askYesNo(PromptTexts::kParametersChanged))
+    if (!changed || !m_context.prompt.askYesNo(PromptTexts::parametersChanged()))
         return;
     if (home)
         m_homePage->setParameters(family);

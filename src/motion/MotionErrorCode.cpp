@@ -42,9 +42,7 @@ QString MotionErrorCode::message(Wording wording) const
 {
     for (const StopMessage& entry : kStopMessages) {
         if (entry.code == m_code)
-            return QCoreApplication::translate("MotionErrorCode", wording == Wording::SingleAxis
-                                                                      ? entry.singleAxis
-                                                                      : entry.multiAxis);
+            return tr(wording == Wording::SingleAxis ? entry.singleAxis : entry.multiAxis);
     }
     return {};
 }

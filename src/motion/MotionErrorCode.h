@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <cstdint>
@@ -8,6 +9,8 @@
 // in the wording of the single-axis or the multi-axis window.
 class MotionErrorCode
 {
+    Q_DECLARE_TR_FUNCTIONS(MotionErrorCode)
+
 public:
     enum Code : std::int32_t
     {

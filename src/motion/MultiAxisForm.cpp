@@ -17,7 +17,6 @@
 #include <QVBoxLayout>
 
 namespace {
-constexpr const char* kPps = QT_TRANSLATE_NOOP("MultiAxisForm", "[pps]");
 constexpr const char* kMsec = QT_TRANSLATE_NOOP("MultiAxisForm", "[msec]");
 constexpr const char* kPulse = QT_TRANSLATE_NOOP("MultiAxisForm", "[pulse]");
 

@@ -57,7 +57,7 @@ std::pair<double, double> fittedRange(const std::vector<double>& values)
 COV_ScopeWnd::COV_ScopeWnd(const ToolContext& context, QWidget* parent)
     : ToolView(parent), m_context(context), m_recorder(context.board)
 {
-    setWindowTitle(QStringLiteral("Scope"));
+    setWindowTitle(tr("Scope"));
     auto elapsed = std::make_shared<QElapsedTimer>();
     elapsed->start();
     m_clock = [elapsed] { return double(elapsed->nsecsElapsed()) / 1e6; };
@@ -65,9 +65,9 @@ COV_ScopeWnd::COV_ScopeWnd(const ToolContext& context, QWidget* parent)
     m_channels = new ScopeChannelTable(context.state.registry);
     m_plot = new PlotWidget;
     m_plot->setObjectName(QStringLiteral("scopePlot"));
-    m_plot->setAxisTitles(QStringLiteral("Time [ms]"), QString());
-    m_plot->setToolTip(QStringLiteral("Wheel: zoom; drag: pan; right or Shift drag: zoom to a "
-                                      "box; double click: fit; drag a dashed line: cursor"));
+    m_plot->setAxisTitles(tr("Time [ms]"), QString());
+    m_plot->setToolTip(tr("Wheel: zoom; drag: pan; right or Shift drag: zoom to a "
+                          "box; double click: fit; drag a dashed line: cursor"));
     m_navigator = new PlotNavigator(m_plot);
     m_plot->setOverlay(
         [this](QPainter& painter, const PlotWidget& plot) { drawOverlay(painter, plot); });
@@ -120,38 +120,35 @@ QWidget* COV_ScopeWnd::createSettingsRow()
     auto* row = new QWidget;
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
-    m_period = makeCombo("period", QStringLiteral("Time between two samples"));
+    m_period = makeCombo("period", tr("Time between two samples"));
     for (const int ms : kPeriods)
-        m_period->addItem(QStringLiteral("%1 ms").arg(ms), ms);
+        m_period->addItem(tr("%1 ms").arg(ms), ms);
     m_period->setCurrentIndex(kDefaultPeriod);
-    m_length = makeCombo("length", QStringLiteral("Time the record keeps (the ring's length)"));
+    m_length = makeCombo("length", tr("Time the record keeps (the ring's length)"));
     for (const int seconds : kLengthsS)
-        m_length->addItem(QStringLiteral("%1 s").arg(seconds), seconds * 1000);
+        m_length->addItem(tr("%1 s").arg(seconds), seconds * 1000);
     m_length->setCurrentIndex(kDefaultLength);
-    m_trigger = makeCombo("trigger", QStringLiteral("Free Run records at once; Axis Starts "
-                                                    "waits for the trigger channel's axis "
-                                                    "to start moving and keeps 10 % before"));
-    m_trigger->addItems({QStringLiteral("Free Run"), QStringLiteral("Axis Starts")});
-    m_triggerChannel = makeCombo("triggerChannel", QStringLiteral("Channel whose axis triggers"));
+    m_trigger = makeCombo("trigger", tr("Free Run records at once; Axis Starts "
+                                        "waits for the trigger channel's axis "
+                                        "to start moving and keeps 10 % before"));
+    m_trigger->addItems({tr("Free Run"), tr("Axis Starts")});
+    m_triggerChannel = makeCombo("triggerChannel", tr("Channel whose axis triggers"));
     for (int i = 1; i <= ScopeRecorder::kChannels; ++i)
-        m_triggerChannel->addItem(QStringLiteral("Ch %1").arg(i));
-    m_repeat = new QCheckBox(QStringLiteral("Repeat"));
+        m_triggerChannel->addItem(tr("Ch %1").arg(i));
+    m_repeat = new QCheckBox(tr("Repeat"));
     m_repeat->setObjectName(QStringLiteral("repeat"));
-    m_repeat->setToolTip(QStringLiteral("Re-arm after each capture instead of one single shot"));
-    m_run = makeNamedButton(QStringLiteral("Run"), "runButton", QStringLiteral("Start recording"));
-    m_stop =
-        makeNamedButton(QStringLiteral("Stop"), "stopButton", QStringLiteral("Stop recording"));
-    m_clear = makeNamedButton(QStringLiteral("Clear"), "clearButton",
-                              QStringLiteral("Forget the record"));
+    m_repeat->setToolTip(tr("Re-arm after each capture instead of one single shot"));
+    m_run = makeNamedButton(tr("Run"), "runButton", tr("Start recording"));
+    m_stop = makeNamedButton(tr("Stop"), "stopButton", tr("Stop recording"));
+    m_clear = makeNamedButton(tr("Clear"), "clearButton", tr("Forget the record"));
     m_status = new QLabel;
     m_status->setObjectName(QStringLiteral("status"));
-    m_status->setMinimumWidth(
-        m_status->fontMetrics().horizontalAdvance(QStringLiteral("Waiting for trigger")));
-    layout->addWidget(new QLabel(QStringLiteral("Period")));
+    m_status->setMinimumWidth(m_status->fontMetrics().horizontalAdvance(tr("Waiting for trigger")));
+    layout->addWidget(new QLabel(tr("Period")));
     layout->addWidget(m_period);
-    layout->addWidget(new QLabel(QStringLiteral("Length")));
+    layout->addWidget(new QLabel(tr("Length")));
     layout->addWidget(m_length);
-    layout->addWidget(new QLabel(QStringLiteral("Trigger")));
+    layout->addWidget(new QLabel(tr("Trigger")));
     layout->addWidget(m_trigger);
     layout->addWidget(m_triggerChannel);
     layout->addWidget(m_repeat);
@@ -168,14 +165,13 @@ QWidget* COV_ScopeWnd::createFileButtons()
     auto* layout = new QVBoxLayout(column);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(2);
-    m_fit = makeNamedButton(QStringLiteral("Fit"), "fitButton",
-                            QStringLiteral("Show the whole record"));
-    m_exportCsv = makeNamedButton(QStringLiteral("Export CSV..."), "exportCsvButton",
-                                  QStringLiteral("Write the record to a CSV file"));
-    m_openCsv = makeNamedButton(QStringLiteral("Open CSV..."), "openCsvButton",
-                                QStringLiteral("View a record from a CSV file"));
-    m_savePng = makeNamedButton(QStringLiteral("Save PNG..."), "savePngButton",
-                                QStringLiteral("Save the plot as a picture"));
+    m_fit = makeNamedButton(tr("Fit"), "fitButton", tr("Show the whole record"));
+    m_exportCsv = makeNamedButton(tr("Export CSV..."), "exportCsvButton",
+                                  tr("Write the record to a CSV file"));
+    m_openCsv =
+        makeNamedButton(tr("Open CSV..."), "openCsvButton", tr("View a record from a CSV file"));
+    m_savePng =
+        makeNamedButton(tr("Save PNG..."), "savePngButton", tr("Save the plot as a picture"));
     // The state sits over the file buttons, out of the way of Run and Stop.
     layout->addWidget(m_status, 0, Qt::AlignHCenter);
     for (QPushButton* button : {m_fit, m_exportCsv, m_openCsv, m_savePng})
@@ -198,20 +194,20 @@ void COV_ScopeWnd::connectControls()
     connect(m_channels, &ScopeChannelTable::scalesChanged, this, [this] { refreshPlot(); });
     connect(m_trigger, &QComboBox::currentIndexChanged, this, [this] { updateControls(); });
     connect(m_exportCsv, &QPushButton::clicked, this, [this] {
-        const QString path = QFileDialog::getSaveFileName(
-            this, QStringLiteral("Export CSV"), QString(), QStringLiteral("CSV files (*.csv)"));
+        const QString path = QFileDialog::getSaveFileName(this, tr("Export CSV"), QString(),
+                                                          tr("CSV files (*.csv)"));
         if (!path.isEmpty())
             exportCsv(path);
     });
     connect(m_openCsv, &QPushButton::clicked, this, [this] {
-        const QString path = QFileDialog::getOpenFileName(
-            this, QStringLiteral("Open CSV"), QString(), QStringLiteral("CSV files (*.csv)"));
+        const QString path =
+            QFileDialog::getOpenFileName(this, tr("Open CSV"), QString(), tr("CSV files (*.csv)"));
         if (!path.isEmpty())
             openCsv(path);
     });
     connect(m_savePng, &QPushButton::clicked, this, [this] {
-        const QString path = QFileDialog::getSaveFileName(
-            this, QStringLiteral("Save PNG"), QString(), QStringLiteral("PNG pictures (*.png)"));
+        const QString path = QFileDialog::getSaveFileName(this, tr("Save PNG"), QString(),
+                                                          tr("PNG pictures (*.png)"));
         if (!path.isEmpty())
             savePng(path);
     });
@@ -247,13 +243,13 @@ void COV_ScopeWnd::updateControls()
     m_triggerChannel->setEnabled(!running && m_trigger->currentIndex() == 1);
     m_repeat->setEnabled(!running && m_trigger->currentIndex() == 1);
     m_stop->setEnabled(running);
-    QString status = QStringLiteral("Stopped");
+    QString status = tr("Stopped");
     if (m_recorder.state() == ScopeRecorder::State::Armed)
-        status = QStringLiteral("Waiting for trigger");
+        status = tr("Waiting for trigger");
     else if (running)
-        status = QStringLiteral("Recording");
+        status = tr("Recording");
     else if (m_viewingFile)
-        status = QStringLiteral("Viewing file");
+        status = tr("Viewing file");
     if (m_status->text() != status)
         m_status->setText(status);
 }
@@ -262,7 +258,7 @@ void COV_ScopeWnd::run()
 {
     applySettings();
     if (m_recorder.enabledCount() == 0) {
-        m_context.prompt.inform(QStringLiteral("Select at least one channel."));
+        m_context.prompt.inform(tr("Select at least one channel."));
         return;
     }
     m_viewingFile = false;
@@ -362,8 +358,8 @@ void COV_ScopeWnd::updateSeries()
                     [](const QVector<QPointF>& curve) { return !curve.isEmpty(); }))
         // A series without points only names the overlay in the legend.
         m_plot->setSeries(static_cast<int>(m_shown.columns.size()), {}, kPredictedColour,
-                          QStringLiteral("Predicted by the speed calculator"));
-    m_plot->setAxisTitles(QStringLiteral("Time [ms]"), leftTitle);
+                          tr("Predicted by the speed calculator"));
+    m_plot->setAxisTitles(tr("Time [ms]"), leftTitle);
 }
 
 void COV_ScopeWnd::updateXRange()
@@ -424,7 +420,7 @@ bool COV_ScopeWnd::exportCsv(const QString& path)
     QString error;
     if (ScopeCsv::write(m_shown, path, &error))
         return true;
-    m_context.prompt.inform(QStringLiteral("Can not write %1:\n%2").arg(path, error));
+    m_context.prompt.inform(tr("Can not write %1:\n%2").arg(path, error));
     return false;
 }
 
@@ -433,14 +429,14 @@ bool COV_ScopeWnd::openCsv(const QString& path)
     QString error;
     std::optional<ScopeRecording> record = ScopeCsv::read(path, &error);
     if (!record) {
-        m_context.prompt.inform(QStringLiteral("Can not read %1:\n%2").arg(path, error));
+        m_context.prompt.inform(tr("Can not read %1:\n%2").arg(path, error));
         return false;
     }
     m_file = std::move(*record);
     m_viewingFile = true;
     m_userView = false;
     m_placeCursors = true;
-    setWindowTitle(QStringLiteral("Scope - %1").arg(QFileInfo(path).fileName()));
+    setWindowTitle(tr("Scope - %1").arg(QFileInfo(path).fileName()));
     refreshPlot();
     return true;
 }
@@ -449,6 +445,6 @@ bool COV_ScopeWnd::savePng(const QString& path)
 {
     if (m_plot->grab().save(path, "PNG"))
         return true;
-    m_context.prompt.inform(QStringLiteral("Can not write %1.").arg(path));
+    m_context.prompt.inform(tr("Can not write %1.").arg(path));
     return false;
 }

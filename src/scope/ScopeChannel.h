@@ -2,11 +2,15 @@
 
 #include "BoardFamily.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 // What one scope channel reads: an axis of a board and one of its signals.
 struct ScopeChannel
 {
+    Q_DECLARE_TR_FUNCTIONS(ScopeChannel)
+
+public:
     enum Signal
     {
         CommandPosition = 0,
@@ -26,13 +30,13 @@ struct ScopeChannel
     {
         switch (signal) {
         case CommandPosition:
-            return QStringLiteral("Command Position");
+            return tr("Command Position");
         case ActualPosition:
-            return QStringLiteral("Actual Position");
+            return tr("Actual Position");
         case CommandSpeed:
-            return QStringLiteral("Command Speed");
+            return tr("Command Speed");
         case FollowingError:
-            return QStringLiteral("Following Error");
+            return tr("Following Error");
         }
         return {};
     }

@@ -34,34 +34,30 @@ ScopeChannelTable::ScopeChannelTable(const CardRegistry& registry, QWidget* pare
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setVerticalSpacing(2);
-    const QStringList titles{QString(),
-                             QStringLiteral("Axis"),
-                             QStringLiteral("Signal"),
-                             QStringLiteral("Scale"),
-                             QStringLiteral("Low"),
-                             QStringLiteral("High")};
+    const QStringList titles{QString(),   tr("Axis"), tr("Signal"),
+                             tr("Scale"), tr("Low"),  tr("High")};
     for (int column = 0; column < titles.size(); ++column)
         grid->addWidget(new QLabel(titles[column]), 0, column);
     for (int i = 0; i < kChannels; ++i) {
         Row& row = m_rows[static_cast<size_t>(i)];
         const QString number = QString::number(i + 1);
-        row.enabled = new QCheckBox(QStringLiteral("Ch %1").arg(number));
+        row.enabled = new QCheckBox(tr("Ch %1").arg(number));
         row.enabled->setIcon(swatch(colour(i)));
         row.enabled->setObjectName(QStringLiteral("channel%1").arg(number));
-        row.enabled->setToolTip(QStringLiteral("Record this channel; the swatch is its colour"));
+        row.enabled->setToolTip(tr("Record this channel; the swatch is its colour"));
         row.axis = new QComboBox;
         row.axis->setObjectName(QStringLiteral("axis%1").arg(number));
-        row.axis->setToolTip(QStringLiteral("Board family, card and axis (card.axis)"));
+        row.axis->setToolTip(tr("Board family, card and axis (card.axis)"));
         fillAxes(row.axis, registry);
         row.signal = new QComboBox;
         row.signal->setObjectName(QStringLiteral("signal%1").arg(number));
         for (int s = 0; s < ScopeChannel::kSignalCount; ++s)
             row.signal->addItem(ScopeChannel::signalName(static_cast<ScopeChannel::Signal>(s)));
-        row.signal->setToolTip(QStringLiteral("Following Error is command minus actual position"));
+        row.signal->setToolTip(tr("Following Error is command minus actual position"));
         row.scale = new QComboBox;
         row.scale->setObjectName(QStringLiteral("scale%1").arg(number));
-        row.scale->addItems({QStringLiteral("Auto"), QStringLiteral("Fixed")});
-        row.scale->setToolTip(QStringLiteral("Fit the channel's values, or show Low to High"));
+        row.scale->addItems({tr("Auto"), tr("Fixed")});
+        row.scale->setToolTip(tr("Fit the channel's values, or show Low to High"));
         row.low = new QLineEdit(QStringLiteral("0"));
         row.high = new QLineEdit(QStringLiteral("10000"));
         for (QLineEdit* edit : {row.low, row.high}) {

@@ -71,7 +71,7 @@ std::optional<ScopeRecording> ScopeCsv::read(const QString& path, QString* error
     QTextStream in(&file);
     const QStringList header = in.readLine().split(QLatin1Char(','));
     if (header.size() < 2 || !header.first().trimmed().startsWith(QLatin1String("Time"))) {
-        fail(error, QStringLiteral("Not a scope record: the first column must be the time."));
+        fail(error, tr("Not a scope record: the first column must be the time."));
         return std::nullopt;
     }
     ScopeRecording recording;
@@ -88,7 +88,7 @@ std::optional<ScopeRecording> ScopeCsv::read(const QString& path, QString* error
             continue;
         const QStringList fields = line.split(QLatin1Char(','));
         if (fields.size() != header.size()) {
-            fail(error, QStringLiteral("Line %1 has %2 values instead of %3.")
+            fail(error, tr("Line %1 has %2 values instead of %3.")
                             .arg(lineNumber)
                             .arg(fields.size())
                             .arg(header.size()));
@@ -106,7 +106,7 @@ std::optional<ScopeRecording> ScopeCsv::read(const QString& path, QString* error
             }
         }
         if (!recording.times.empty() && row[0] < recording.times.back()) {
-            fail(error, QStringLiteral("Line %1: the time goes backwards.").arg(lineNumber));
+            fail(error, tr("Line %1: the time goes backwards.").arg(lineNumber));
             return std::nullopt;
         }
         recording.times.push_back(row[0]);

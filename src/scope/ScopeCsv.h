@@ -2,6 +2,7 @@
 
 #include "ScopeRecording.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <optional>
@@ -10,6 +11,8 @@
 // Numbers are written so that reading them back gives the same values.
 class ScopeCsv
 {
+    Q_DECLARE_TR_FUNCTIONS(ScopeCsv)
+
 public:
     static bool write(const ScopeRecording& recording, const QString& path,
                       QString* error = nullptr);

@@ -23,8 +23,7 @@ ScopeReadout::ScopeReadout(QWidget* parent) : QWidget(parent)
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setVerticalSpacing(0);
     grid->setHorizontalSpacing(12);
-    const QStringList titles{QString(), QStringLiteral("Cursor 1"), QStringLiteral("Cursor 2"),
-                             QStringLiteral("Difference")};
+    const QStringList titles{QString(), tr("Cursor 1"), tr("Cursor 2"), tr("Difference")};
     for (int column = 0; column < titles.size(); ++column) {
         auto* title = new QLabel(QStringLiteral("<b>%1</b>").arg(titles[column]));
         grid->addWidget(title, 0, column, column == 0 ? Qt::AlignLeft : Qt::AlignRight);
@@ -40,8 +39,8 @@ ScopeReadout::ScopeReadout(QWidget* parent) : QWidget(parent)
         }
     }
     grid->setColumnStretch(0, 1);
-    setToolTip(QStringLiteral("Drag the dashed cursor lines on the plot; values are the last "
-                              "sample at or before each cursor"));
+    setToolTip(tr("Drag the dashed cursor lines on the plot; values are the last "
+                  "sample at or before each cursor"));
 }
 
 double ScopeReadout::valueAt(const ScopeRecording& recording, int column, double timeMs)
@@ -60,7 +59,7 @@ double ScopeReadout::valueAt(const ScopeRecording& recording, int column, double
 void ScopeReadout::showValues(const ScopeRecording& recording, double cursor1, double cursor2)
 {
     const bool any = !recording.isEmpty();
-    setText(0, 0, QStringLiteral("Time [ms]"));
+    setText(0, 0, tr("Time [ms]"));
     setText(0, 1, number(cursor1));
     setText(0, 2, number(cursor2));
     setText(0, 3, number(cursor2 - cursor1));

@@ -42,17 +42,17 @@ void styleResult(QLineEdit* edit, const QColor& text, bool transparent)
 COV_ActSpdCalDlg::COV_ActSpdCalDlg(const ToolContext& context, QWidget* parent)
     : QDialog(parent, kDialogFlags), m_context(context), m_family(context.state.active.family)
 {
-    setWindowTitle(QStringLiteral("Actual Speed Calculator"));
+    setWindowTitle(tr("Actual Speed Calculator"));
     auto* left = new QVBoxLayout;
     left->addWidget(createSelectors());
     left->addWidget(createFields());
     left->addStretch(1);
     left->addWidget(createButtons());
     m_plot = new PlotWidget(this);
-    m_plot->setAxisTitles(QStringLiteral("Time [ms]"), QStringLiteral("Speed [pps]"));
+    m_plot->setAxisTitles(tr("Time [ms]"), tr("Speed [pps]"));
     m_plot->setMinimumSize(420, 300);
-    m_plot->setToolTip(QStringLiteral("Requested (grey) and actual (blue) speed profile of one "
-                                      "move: ramp up, a short cruise, ramp down"));
+    m_plot->setToolTip(tr("Requested (grey) and actual (blue) speed profile of one "
+                          "move: ramp up, a short cruise, ramp down"));
     auto* layout = new QHBoxLayout(this);
     layout->addLayout(left);
     layout->addWidget(m_plot, 1);
@@ -80,10 +80,10 @@ QWidget* COV_ActSpdCalDlg::createSelectors()
     layout->setContentsMargins(0, 0, 0, 0);
     m_cards = new QComboBox(row);
     m_axes = new QComboBox(row);
-    layout->addWidget(new QLabel(QStringLiteral("Card No. : "), row));
+    layout->addWidget(new QLabel(tr("Card No. : "), row));
     layout->addWidget(m_cards);
     layout->addSpacing(12);
-    layout->addWidget(new QLabel(QStringLiteral("Axis No. : "), row));
+    layout->addWidget(new QLabel(tr("Axis No. : "), row));
     layout->addWidget(m_axes);
     layout->addStretch(1);
     return row;
@@ -93,12 +93,11 @@ QWidget* COV_ActSpdCalDlg::createFields()
 {
     auto* box = new QGroupBox(this);
     auto* grid = new QGridLayout(box);
-    grid->addWidget(new QLabel(QStringLiteral("Request"), box), 0, 1, Qt::AlignCenter);
-    grid->addWidget(new QLabel(QStringLiteral("Actual"), box), 0, 2, Qt::AlignCenter);
-    const QString names[] = {QStringLiteral(" Drive Speed"), QStringLiteral(" Initial Speed"),
-                             QStringLiteral(" Accel Time"), QStringLiteral(" Decel Time")};
-    const QString units[] = {QStringLiteral("[pps]"), QStringLiteral("[pps]"),
-                             QStringLiteral("[msec]"), QStringLiteral("[msec]")};
+    grid->addWidget(new QLabel(tr("Request"), box), 0, 1, Qt::AlignCenter);
+    grid->addWidget(new QLabel(tr("Actual"), box), 0, 2, Qt::AlignCenter);
+    const QString names[] = {tr(" Drive Speed"), tr(" Initial Speed"), tr(" Accel Time"),
+                             tr(" Decel Time")};
+    const QString units[] = {tr("[pps]"), tr("[pps]"), tr("[msec]"), tr("[msec]")};
     for (int row = 0; row < 4; ++row) {
         grid->addWidget(new QLabel(names[row], box), row + 1, 0);
         m_inputs[row] = new QLineEdit(box);
@@ -114,20 +113,20 @@ QWidget* COV_ActSpdCalDlg::createFields()
         grid->addWidget(m_outputs[row], row + 1, 2);
         grid->addWidget(new QLabel(units[row], box), row + 1, 3);
     }
-    grid->addWidget(new QLabel(QStringLiteral(" Speed Mode"), box), 5, 0);
+    grid->addWidget(new QLabel(tr(" Speed Mode"), box), 5, 0);
     m_speedMode = new QComboBox(box);
-    m_speedMode->addItems({QStringLiteral("Trapezoid"), QStringLiteral("Paravola(S-Curve)")});
+    m_speedMode->addItems({tr("Trapezoid"), tr("Paravola(S-Curve)")});
     grid->addWidget(m_speedMode, 5, 1, 1, 2);
-    grid->addWidget(new QLabel(QStringLiteral(" Range Mode"), box), 6, 0);
+    grid->addWidget(new QLabel(tr(" Range Mode"), box), 6, 0);
     m_rangeMode = new QComboBox(box);
-    m_rangeMode->addItems({QStringLiteral("Automatic Range"), QStringLiteral("Fixed Range")});
+    m_rangeMode->addItems({tr("Automatic Range"), tr("Fixed Range")});
     grid->addWidget(m_rangeMode, 6, 1, 1, 2);
-    grid->addWidget(new QLabel(QStringLiteral(" Range"), box), 7, 0);
+    grid->addWidget(new QLabel(tr(" Range"), box), 7, 0);
     m_range = new QLineEdit(box);
     m_range->setAlignment(Qt::AlignRight);
     m_range->setFixedWidth(90);
-    m_range->setToolTip(QStringLiteral("Speed magnification R: speeds are whole multiples of R, "
-                                       "from R to R x 8000 pps"));
+    m_range->setToolTip(tr("Speed magnification R: speeds are whole multiples of R, "
+                           "from R to R x 8000 pps"));
     grid->addWidget(m_range, 7, 1);
     m_rangeText = new QLineEdit(box);
     m_rangeText->setReadOnly(true);
@@ -142,8 +141,8 @@ QWidget* COV_ActSpdCalDlg::createButtons()
     auto* row = new QWidget(this);
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
-    auto* calculateButton = new QPushButton(QStringLiteral("Calculate"), row);
-    auto* closeButton = new QPushButton(QStringLiteral("Close"), row);
+    auto* calculateButton = new QPushButton(tr("Calculate"), row);
+    auto* closeButton = new QPushButton(tr("Close"), row);
     calculateButton->setObjectName(QStringLiteral("calculate"));
     calculateButton->setDefault(true);
     layout->addStretch(1);
@@ -237,8 +236,6 @@ void COV_ActSpdCalDlg::drawProfile(const ActualSpeedCalculator::Request& request
     const SpeedProfileCurve::Ramps asked = SpeedProfileCurve::requested(request);
     const SpeedProfileCurve::Ramps made = SpeedProfileCurve::actual(request, result);
     const double cruise = SpeedProfileCurve::cruiseFor(asked, made);
-    m_plot->setSeries(0, SpeedProfileCurve::points(asked, cruise), kRequestColour,
-                      QStringLiteral("Request"));
-    m_plot->setSeries(1, SpeedProfileCurve::points(made, cruise), kResultColour,
-                      QStringLiteral("Actual"));
+    m_plot->setSeries(0, SpeedProfileCurve::points(asked, cruise), kRequestColour, tr("Request"));
+    m_plot->setSeries(1, SpeedProfileCurve::points(made, cruise), kResultColour, tr("Actual"));
 }

@@ -23,27 +23,26 @@ const QColor kDifferent(255, 214, 153);
 COV_ComparePrmDlg::COV_ComparePrmDlg(const ToolContext& context, QWidget* parent)
     : QDialog(parent, kDialogFlags), m_context(context)
 {
-    setWindowTitle(QStringLiteral("Compare Parameters"));
+    setWindowTitle(tr("Compare Parameters"));
     resize(760, 600);
     auto* layout = new QVBoxLayout(this);
     auto* sources = new QHBoxLayout;
     const QList<ParameterSourceBox::Kind> kinds{ParameterSourceBox::Axis, ParameterSourceBox::Card,
                                                 ParameterSourceBox::File};
-    const char* titles[] = {" A ", " B "};
+    const char* const titles[] = {QT_TR_NOOP(" A "), QT_TR_NOOP(" B ")};
     const ActiveController& active = context.state.active;
     for (int i = 0; i < 2; ++i) {
-        m_sources[i] = new ParameterSourceBox(QString::fromLatin1(titles[i]), kinds,
-                                              context.state.registry, this);
+        m_sources[i] = new ParameterSourceBox(tr(titles[i]), kinds, context.state.registry, this);
         m_sources[i]->setScope(active.family, active.card, i == 0 ? active.axis : 0);
         sources->addWidget(m_sources[i]);
     }
     layout->addLayout(sources);
 
     auto* bar = new QHBoxLayout;
-    auto* compareButton = new QPushButton(QStringLiteral("Compare"), this);
-    compareButton->setToolTip(QStringLiteral("Read both sources and list their parameters"));
-    m_differencesOnly = new QCheckBox(QStringLiteral(" Differences only"), this);
-    m_differencesOnly->setToolTip(QStringLiteral("Hide the parameters both sources agree on"));
+    auto* compareButton = new QPushButton(tr("Compare"), this);
+    compareButton->setToolTip(tr("Read both sources and list their parameters"));
+    m_differencesOnly = new QCheckBox(tr(" Differences only"), this);
+    m_differencesOnly->setToolTip(tr("Hide the parameters both sources agree on"));
     m_summary = new QLabel(this);
     bar->addWidget(compareButton);
     bar->addWidget(m_differencesOnly);
@@ -78,8 +77,8 @@ bool COV_ComparePrmDlg::read(const ParameterSourceBox& box, ParameterSet& set)
     set = ParameterText::readFile(box.filePath(), faults);
     if (faults.empty())
         return true;
-    m_context.prompt.inform(QStringLiteral("%1 cannot be compared:\n%2")
-                                .arg(box.filePath(), ParameterText::faultList(faults)));
+    m_context.prompt.inform(
+        tr("%1 cannot be compared:\n%2").arg(box.filePath(), ParameterText::faultList(faults)));
     return false;
 }
 
@@ -89,10 +88,10 @@ bool COV_ComparePrmDlg::compare()
     if (!read(*m_sources[0], sets[0]) || !read(*m_sources[1], sets[1]))
         return false;
     m_rows = ParameterComparison::compare(sets[0], sets[1]);
-    m_table->setHorizontalHeaderLabels({QStringLiteral("Section"), QStringLiteral("Parameter"),
-                                        QStringLiteral("A: ") + m_sources[0]->label(),
-                                        QStringLiteral("B: ") + m_sources[1]->label()});
-    m_summary->setText(QStringLiteral("%1 of %2 parameters differ")
+    m_table->setHorizontalHeaderLabels({tr("Section"), tr("Parameter"),
+                                        tr("A: ") + m_sources[0]->label(),
+                                        tr("B: ") + m_sources[1]->label()});
+    m_summary->setText(tr("%1 of %2 parameters differ")
                            .arg(ParameterComparison::differenceCount(m_rows))
                            .arg(m_rows.size()));
     showRows();

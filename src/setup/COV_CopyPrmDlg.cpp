@@ -27,13 +27,13 @@ COV_CopyPrmDlg::COV_CopyPrmDlg(const ToolContext& context, CardNo card, AxisNo a
                                QWidget* parent)
     : QDialog(parent, kDialogFlags), m_context(context), m_page(page)
 {
-    setWindowTitle(QStringLiteral("Copy Parameter"));
+    setWindowTitle(tr("Copy Parameter"));
     auto* groups = new QHBoxLayout;
     groups->addWidget(createSourceGroup(card, axis));
     groups->addWidget(createTargetGroup(card), 1);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    buttons->button(QDialogButtonBox::Ok)->setText(QStringLiteral("OK"));
-    buttons->button(QDialogButtonBox::Cancel)->setText(QStringLiteral("Cancel"));
+    buttons->button(QDialogButtonBox::Ok)->setText(tr("OK"));
+    buttons->button(QDialogButtonBox::Cancel)->setText(tr("Cancel"));
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(groups);
     layout->addWidget(buttons);
@@ -46,15 +46,15 @@ COV_CopyPrmDlg::COV_CopyPrmDlg(const ToolContext& context, CardNo card, AxisNo a
 
 QWidget* COV_CopyPrmDlg::createSourceGroup(CardNo card, AxisNo axis)
 {
-    auto* group = new QGroupBox(QStringLiteral(" From "), this);
+    auto* group = new QGroupBox(tr(" From "), this);
     const AppState& state = m_context.state;
     m_source = new CardTypeSelector(state.registry, state.active.family, card, group);
     m_sourceAxes = new QComboBox(group);
     fillSourceAxes(m_source->family(), m_source->card(), axis);
     auto* form = new QFormLayout(group);
-    form->addRow(QStringLiteral("Card Type"), m_source->typeList());
-    form->addRow(QStringLiteral("Card No."), m_source->cardList());
-    form->addRow(QStringLiteral("Axis No."), m_sourceAxes);
+    form->addRow(tr("Card Type"), m_source->typeList());
+    form->addRow(tr("Card No."), m_source->cardList());
+    form->addRow(tr("Axis No."), m_sourceAxes);
     connect(m_source, &CardTypeSelector::familyChosen, this,
             [this] { fillSourceAxes(m_source->family(), m_source->card(), 0); });
     connect(m_source, &CardTypeSelector::cardChosen, this,
@@ -64,23 +64,23 @@ QWidget* COV_CopyPrmDlg::createSourceGroup(CardNo card, AxisNo axis)
 
 QWidget* COV_CopyPrmDlg::createTargetGroup(CardNo card)
 {
-    auto* group = new QGroupBox(QStringLiteral(" To "), this);
+    auto* group = new QGroupBox(tr(" To "), this);
     const AppState& state = m_context.state;
     m_target = new CardTypeSelector(state.registry, state.active.family, card, group);
     m_rows = new QTableWidget(0, 1, group);
-    m_rows->setHorizontalHeaderLabels({QStringLiteral("Contents")});
+    m_rows->setHorizontalHeaderLabels({tr("Contents")});
     m_rows->horizontalHeader()->setStretchLastSection(true);
     m_rows->verticalHeader()->hide();
     m_rows->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_rows->setSelectionMode(QAbstractItemView::NoSelection);
     m_rows->setMinimumHeight(m_rows->horizontalHeader()->sizeHint().height() +
                              m_rows->verticalHeader()->defaultSectionSize() * kMaxAxes + 4);
-    m_toAll = new QCheckBox(QStringLiteral(" To All"), group);
-    m_toAll->setToolTip(QStringLiteral("Tick or untick every axis of the target card"));
+    m_toAll = new QCheckBox(tr(" To All"), group);
+    m_toAll->setToolTip(tr("Tick or untick every axis of the target card"));
     auto* form = new QFormLayout(group);
-    form->addRow(QStringLiteral("Card Type"), m_target->typeList());
-    form->addRow(QStringLiteral("Card No."), m_target->cardList());
-    form->addRow(QStringLiteral("Select Axis"), m_rows);
+    form->addRow(tr("Card Type"), m_target->typeList());
+    form->addRow(tr("Card No."), m_target->cardList());
+    form->addRow(tr("Select Axis"), m_rows);
     form->addRow(QString(), m_toAll);
     m_targetCard = m_target->card();
     fillRows();
@@ -109,7 +109,7 @@ void COV_CopyPrmDlg::fillRows()
     m_rows->setRowCount(0);
     m_rows->setRowCount(qMax(0, m_targetAxisCount));
     for (int row = 0; row < m_targetAxisCount; ++row) {
-        auto* item = new QTableWidgetItem(QStringLiteral("%1 Axis").arg(row));
+        auto* item = new QTableWidgetItem(tr("%1 Axis").arg(row));
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsUserCheckable);
         item->setCheckState(Qt::Unchecked);
         m_rows->setItem(row, 0, item);

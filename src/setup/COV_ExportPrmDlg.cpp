@@ -20,10 +20,10 @@
 COV_ExportPrmDlg::COV_ExportPrmDlg(const ToolContext& context, QWidget* parent)
     : QDialog(parent, kDialogFlags), m_context(context)
 {
-    setWindowTitle(QStringLiteral("Export Parameters"));
+    setWindowTitle(tr("Export Parameters"));
     setMinimumWidth(460);
     auto* layout = new QVBoxLayout(this);
-    m_source = new ParameterSourceBox(QStringLiteral(" Cards "),
+    m_source = new ParameterSourceBox(tr(" Cards "),
                                       {ParameterSourceBox::Card, ParameterSourceBox::EveryCard},
                                       context.state.registry, this);
     m_source->setScope(context.state.active.family, context.state.active.card, 0);
@@ -31,24 +31,23 @@ COV_ExportPrmDlg::COV_ExportPrmDlg(const ToolContext& context, QWidget* parent)
 
     auto* fileRow = new QHBoxLayout;
     m_file = new QLineEdit(this);
-    m_file->setPlaceholderText(QStringLiteral("file to write"));
-    auto* browse = new QPushButton(QStringLiteral("Browse..."), this);
-    browse->setToolTip(QStringLiteral("Choose the file to write"));
-    fileRow->addWidget(new QLabel(QStringLiteral("File"), this));
+    m_file->setPlaceholderText(tr("file to write"));
+    auto* browse = new QPushButton(tr("Browse..."), this);
+    browse->setToolTip(tr("Choose the file to write"));
+    fileRow->addWidget(new QLabel(tr("File"), this));
     fileRow->addWidget(m_file, 1);
     fileRow->addWidget(browse);
     layout->addLayout(fileRow);
 
     auto* buttons = new QDialogButtonBox(this);
-    QPushButton* exportButton =
-        buttons->addButton(QStringLiteral("Export"), QDialogButtonBox::AcceptRole);
-    buttons->addButton(QStringLiteral("Close"), QDialogButtonBox::RejectRole);
+    QPushButton* exportButton = buttons->addButton(tr("Export"), QDialogButtonBox::AcceptRole);
+    buttons->addButton(tr("Close"), QDialogButtonBox::RejectRole);
     layout->addWidget(buttons);
 
     connect(browse, &QPushButton::clicked, this, [this] {
         const QString path =
-            QFileDialog::getSaveFileName(this, QStringLiteral("Export Parameters"), m_file->text(),
-                                         QStringLiteral("Parameter files (*.ini);;All files (*)"));
+            QFileDialog::getSaveFileName(this, tr("Export Parameters"), m_file->text(),
+                                         tr("Parameter files (*.ini);;All files (*)"));
         if (!path.isEmpty())
             m_file->setText(path);
     });
@@ -68,7 +67,7 @@ bool COV_ExportPrmDlg::exportFile()
 {
     const QString path = m_file->text().trimmed();
     if (path.isEmpty()) {
-        m_context.prompt.inform(QStringLiteral("Choose the file to export to."));
+        m_context.prompt.inform(tr("Choose the file to export to."));
         return false;
     }
     const ParameterSet set =
@@ -78,11 +77,10 @@ bool COV_ExportPrmDlg::exportFile()
                                << (error.isEmpty() ? QStringLiteral("done") : error);
     if (!error.isEmpty()) {
         m_context.prompt.inform(
-            QStringLiteral("The parameters could not be exported to %1:\n%2").arg(path, error));
+            tr("The parameters could not be exported to %1:\n%2").arg(path, error));
         return false;
     }
-    m_context.prompt.inform(QStringLiteral("The parameters of %1 card(s) were exported to %2.")
-                                .arg(set.cards.size())
-                                .arg(path));
+    m_context.prompt.inform(
+        tr("The parameters of %1 card(s) were exported to %2.").arg(set.cards.size()).arg(path));
     return true;
 }

@@ -18,8 +18,8 @@ struct FilterRow
     const char* parameter;
 };
 constexpr FilterRow kRows[] = {
-    {QT_TRANSLATE_NOOP("COV_FilterSetWnd", "+Limit, -Limit, Origin"), "FilterSensor"},
-    {QT_TRANSLATE_NOOP("COV_FilterSetWnd", "Inposition, Alarm"), "FilterServo"},
+    {QT_TRANSLATE_NOOP("COV_FilterSetWnd", "+Limit\n-Limit\nOrigin"), "FilterSensor"},
+    {QT_TRANSLATE_NOOP("COV_FilterSetWnd", "Inposition\nAlarm"), "FilterServo"},
     {QT_TRANSLATE_NOOP("COV_FilterSetWnd", "Encoder Z"), "FilterEncoderZ"},
     {QT_TRANSLATE_NOOP("COV_FilterSetWnd", "MPG"), "FilterExternal"},
     {QT_TRANSLATE_NOOP("COV_FilterSetWnd", "Stop"), "FilterStop"},
@@ -50,8 +50,7 @@ COV_FilterSetWnd::COV_FilterSetWnd(BoardApi& board, QWidget* parent)
         box->setObjectName(QLatin1String(row.parameter));
         m_boxes.append(box);
         // The three sensors share one row, as they share one board setting.
-        QFrame* frame =
-            rowFrame(tr(row.label).replace(QLatin1String(", "), QLatin1String("\n")), box);
+        QFrame* frame = rowFrame(tr(row.label), box);
         layout->addWidget(frame);
         if (&row == &kRows[kStopRow])
             m_stopRow = frame;

@@ -24,16 +24,16 @@
 COV_ImportPrmDlg::COV_ImportPrmDlg(const ToolContext& context, QWidget* parent)
     : QDialog(parent, kDialogFlags), m_context(context)
 {
-    setWindowTitle(QStringLiteral("Import Parameters"));
+    setWindowTitle(tr("Import Parameters"));
     resize(720, 520);
     auto* layout = new QVBoxLayout(this);
 
     auto* fileRow = new QHBoxLayout;
     m_file = new QLineEdit(this);
     m_file->setReadOnly(true);
-    auto* browse = new QPushButton(QStringLiteral("Browse..."), this);
-    browse->setToolTip(QStringLiteral("Choose the parameter file to import"));
-    fileRow->addWidget(new QLabel(QStringLiteral("File"), this));
+    auto* browse = new QPushButton(tr("Browse..."), this);
+    browse->setToolTip(tr("Choose the parameter file to import"));
+    fileRow->addWidget(new QLabel(tr("File"), this));
     fileRow->addWidget(m_file, 1);
     fileRow->addWidget(browse);
     layout->addLayout(fileRow);
@@ -46,9 +46,8 @@ COV_ImportPrmDlg::COV_ImportPrmDlg(const ToolContext& context, QWidget* parent)
     m_faults->setVisible(false);
     layout->addWidget(m_faults, 1);
     m_changes = new QTableWidget(0, 4, this);
-    m_changes->setHorizontalHeaderLabels({QStringLiteral("Section"), QStringLiteral("Parameter"),
-                                          QStringLiteral("Board value"),
-                                          QStringLiteral("File value")});
+    m_changes->setHorizontalHeaderLabels(
+        {tr("Section"), tr("Parameter"), tr("Board value"), tr("File value")});
     m_changes->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_changes->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_changes->verticalHeader()->setVisible(false);
@@ -59,16 +58,16 @@ COV_ImportPrmDlg::COV_ImportPrmDlg(const ToolContext& context, QWidget* parent)
     layout->addWidget(m_changes, 1);
 
     auto* buttons = new QDialogButtonBox(this);
-    m_write = buttons->addButton(QStringLiteral("Write to Boards"), QDialogButtonBox::ActionRole);
-    m_write->setToolTip(QStringLiteral("Write the file values listed above to the boards"));
+    m_write = buttons->addButton(tr("Write to Boards"), QDialogButtonBox::ActionRole);
+    m_write->setToolTip(tr("Write the file values listed above to the boards"));
     m_write->setEnabled(false);
-    buttons->addButton(QStringLiteral("Close"), QDialogButtonBox::RejectRole);
+    buttons->addButton(tr("Close"), QDialogButtonBox::RejectRole);
     layout->addWidget(buttons);
 
     connect(browse, &QPushButton::clicked, this, [this] {
-        const QString path = QFileDialog::getOpenFileName(
-            this, QStringLiteral("Import Parameters"), m_file->text(),
-            QStringLiteral("Parameter files (*.ini *.txt);;All files (*)"));
+        const QString path =
+            QFileDialog::getOpenFileName(this, tr("Import Parameters"), m_file->text(),
+                                         tr("Parameter files (*.ini *.txt);;All files (*)"));
         if (!path.isEmpty())
             load(path);
     });
@@ -90,7 +89,7 @@ void COV_ImportPrmDlg::load(const QString& path)
     m_changes->setVisible(faults.empty());
     if (!faults.empty()) {
         m_import.reset();
-        m_summary->setText(QStringLiteral("The file cannot be imported; nothing will be written:"));
+        m_summary->setText(tr("The file cannot be imported; nothing will be written:"));
         m_faults->setPlainText(ParameterText::faultList(faults));
         m_write->setEnabled(false);
         return;
@@ -114,11 +113,10 @@ void COV_ImportPrmDlg::showChanges()
         for (int column = 0; column < cells.size(); ++column)
             m_changes->setItem(row, column, new QTableWidgetItem(cells[column]));
     }
-    QString summary = changes.empty()
-                          ? QStringLiteral("The boards already hold every value of the file.")
-                          : QStringLiteral("%1 parameter(s) would change:").arg(changes.size());
+    QString summary = changes.empty() ? tr("The boards already hold every value of the file.")
+                                      : tr("%1 parameter(s) would change:").arg(changes.size());
     for (const QString& skipped : m_import->skipped())
-        summary += QStringLiteral("\nSkipped %1.").arg(skipped);
+        summary += tr("\nSkipped %1.").arg(skipped);
     m_summary->setText(summary);
     m_write->setEnabled(!changes.empty());
 }
@@ -129,11 +127,11 @@ bool COV_ImportPrmDlg::writeToBoards()
         return false;
     // New limits or pulse settings under a moving axis could run it anywhere.
     if (m_context.state.active.anyAxesMoving()) {
-        m_context.prompt.inform(QStringLiteral("Axes are moving !\nCan not import parameters !"));
+        m_context.prompt.inform(tr("Axes are moving !\nCan not import parameters !"));
         return false;
     }
-    if (!m_context.prompt.askYesNo(QStringLiteral("Write %1 changed parameter(s) to the boards?")
-                                       .arg(m_import->changes().size())))
+    if (!m_context.prompt.askYesNo(
+            tr("Write %1 changed parameter(s) to the boards?").arg(m_import->changes().size())))
         return false;
     AppState& state = m_context.state;
     const auto touched = m_import->apply();

@@ -33,8 +33,9 @@ COV_PrmSuWnd::COV_PrmSuWnd(const ToolContext& context, QWidget* parent)
     left->addWidget(createSelectorRow());
     m_tabBar = new QTabBar;
     m_tabBar->setObjectName(QStringLiteral("tabBar"));
-    for (const char* title : {"System IO", "Motion Parameter", "Filter"})
-        m_tabBar->addTab(QLatin1String(title));
+    for (const char* title :
+         {QT_TR_NOOP("System IO"), QT_TR_NOOP("Motion Parameter"), QT_TR_NOOP("Filter")})
+        m_tabBar->addTab(tr(title));
     m_stack = new QStackedWidget;
     m_stack->setFrameShape(QFrame::StyledPanel);
     for (ParameterSetupPage* page : m_pages)
@@ -72,10 +73,10 @@ QWidget* COV_PrmSuWnd::createSelectorRow()
     m_cardCombo->setObjectName(QStringLiteral("cardCombo"));
     m_axisCombo = new QComboBox;
     m_axisCombo->setObjectName(QStringLiteral("axisCombo"));
-    layout->addWidget(caption(QStringLiteral("Card No.")));
+    layout->addWidget(caption(tr("Card No.")));
     layout->addWidget(m_cardCombo);
     layout->addSpacing(16);
-    layout->addWidget(caption(QStringLiteral("Axis No.")));
+    layout->addWidget(caption(tr("Axis No.")));
     layout->addWidget(m_axisCombo);
     layout->addStretch();
     return row;
@@ -86,16 +87,14 @@ QWidget* COV_PrmSuWnd::createButtonColumn()
     auto* column = new QWidget;
     auto* layout = new QVBoxLayout(column);
     layout->setContentsMargins(0, 0, 0, 0);
-    QPushButton* set = makeNamedButton(QStringLiteral("Set Prm"), "setPrmButton",
-                                       QStringLiteral("Write the shown page to the board"));
+    QPushButton* set =
+        makeNamedButton(tr("Set Prm"), "setPrmButton", tr("Write the shown page to the board"));
     QPushButton* copy =
-        makeNamedButton(QStringLiteral("Copy Prm"), "copyPrmButton",
-                        QStringLiteral("Copy the shown page's parameters to axes of another card"));
-    QPushButton* reset =
-        makeNamedButton(QStringLiteral("Default Prm"), "defaultPrmButton",
-                        QStringLiteral("Restore the factory parameters of this axis"));
-    QPushButton* close =
-        makeNamedButton(QStringLiteral("Close"), "closeButton", QStringLiteral("Close the window"));
+        makeNamedButton(tr("Copy Prm"), "copyPrmButton",
+                        tr("Copy the shown page's parameters to axes of another card"));
+    QPushButton* reset = makeNamedButton(tr("Default Prm"), "defaultPrmButton",
+                                         tr("Restore the factory parameters of this axis"));
+    QPushButton* close = makeNamedButton(tr("Close"), "closeButton", tr("Close the window"));
     for (QPushButton* button : {set, copy, reset})
         layout->addWidget(button);
     layout->addStretch();
@@ -122,8 +121,7 @@ void COV_PrmSuWnd::fillCardCombo()
 void COV_PrmSuWnd::refresh()
 {
     AppState& state = m_context.state;
-    setWindowTitle(
-        QStringLiteral("Parameter Setup - %1(%2)").arg(state.modelName(m_card)).arg(m_card));
+    setWindowTitle(tr("Parameter Setup - %1(%2)").arg(state.modelName(m_card)).arg(m_card));
     m_axis = static_cast<AxisNo>(NumberList::fillAxes(*m_axisCombo, state, m_card, m_axis));
     handPagesAxis();
 }
@@ -143,7 +141,7 @@ bool COV_PrmSuWnd::leaveCheck(BoardFamily family)
     ParameterSetupPage* page = m_pages[std::size_t(m_page)];
     if (!page->IsChanged(family))
         return false;
-    if (!m_context.prompt.askYesNo(PromptTexts::kParametersChanged))
+    if (!m_context.prompt.askYesNo(PromptTexts::parametersChanged()))
         return true;
     page->Apply(family);
     m_context.frame.sendToFrame(UM_PARAM_CHANGED, m_card);
@@ -200,8 +198,7 @@ void COV_PrmSuWnd::onAxisChanged(int axis)
 
 void COV_PrmSuWnd::onDefaultClicked()
 {
-    if (!m_context.prompt.askYesNo(
-            QStringLiteral("%1 axis parameter set to default value?").arg(m_axis)))
+    if (!m_context.prompt.askYesNo(tr("%1 axis parameter set to default value?").arg(m_axis)))
         return;
     const nrx_i32 result =
         m_context.board.SetSystemDefault(m_context.state.active.family, m_card, m_axis);

@@ -17,19 +17,19 @@
 COV_SavePrmDlg::COV_SavePrmDlg(const ToolContext& context, QWidget* parent)
     : QDialog(parent, kDialogFlags), m_context(context)
 {
-    setWindowTitle(QStringLiteral("Save Parameter"));
+    setWindowTitle(tr("Save Parameter"));
     const ActiveController& active = context.state.active;
     m_selector = new CardTypeSelector(context.state.registry, active.family, active.card, this);
-    m_allCards = new QCheckBox(QStringLiteral(" All Cards"), this);
+    m_allCards = new QCheckBox(tr(" All Cards"), this);
     auto* form = new QFormLayout;
-    form->addRow(QStringLiteral("Card Type"), m_selector->typeList());
-    form->addRow(QStringLiteral("Card No."), m_selector->cardList());
+    form->addRow(tr("Card Type"), m_selector->typeList());
+    form->addRow(tr("Card No."), m_selector->cardList());
     form->addRow(QString(), m_allCards);
 
-    auto* saveButton = new QPushButton(QStringLiteral("Save"), this);
-    auto* closeButton = new QPushButton(QStringLiteral("Close"), this);
-    saveButton->setToolTip(QStringLiteral("Write the board parameter file of the chosen card, or "
-                                          "of every card when \"All Cards\" is ticked"));
+    auto* saveButton = new QPushButton(tr("Save"), this);
+    auto* closeButton = new QPushButton(tr("Close"), this);
+    saveButton->setToolTip(tr("Write the board parameter file of the chosen card, or "
+                              "of every card when \"All Cards\" is ticked"));
     auto* buttons = new QHBoxLayout;
     buttons->addStretch(1);
     buttons->addWidget(saveButton);
@@ -51,7 +51,7 @@ void COV_SavePrmDlg::save()
         return;
     }
     if (!m_context.prompt.askYesNo(
-            QStringLiteral("Are you sure you want to save the parameter files of all the cards?")))
+            tr("Are you sure you want to save the parameter files of all the cards?")))
         return;
     for (BoardFamily family : kAllFamilies) {
         for (int card = 0; card < m_context.state.registry.cardCount(family); ++card)

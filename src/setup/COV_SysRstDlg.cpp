@@ -17,16 +17,16 @@
 COV_SysRstDlg::COV_SysRstDlg(const ToolContext& context, QWidget* parent)
     : QDialog(parent, kDialogFlags), m_context(context)
 {
-    setWindowTitle(QStringLiteral("System Reset"));
+    setWindowTitle(tr("System Reset"));
     const ActiveController& active = context.state.active;
     m_selector = new CardTypeSelector(context.state.registry, active.family, active.card, this);
     auto* form = new QFormLayout;
-    form->addRow(QStringLiteral("Card Type"), m_selector->typeList());
-    form->addRow(QStringLiteral("Card No."), m_selector->cardList());
+    form->addRow(tr("Card Type"), m_selector->typeList());
+    form->addRow(tr("Card No."), m_selector->cardList());
 
-    auto* resetButton = new QPushButton(QStringLiteral("Reset"), this);
-    auto* closeButton = new QPushButton(QStringLiteral("Close"), this);
-    resetButton->setToolTip(QStringLiteral("Reset the chosen card; open tool windows reload"));
+    auto* resetButton = new QPushButton(tr("Reset"), this);
+    auto* closeButton = new QPushButton(tr("Close"), this);
+    resetButton->setToolTip(tr("Reset the chosen card; open tool windows reload"));
     auto* buttons = new QHBoxLayout;
     buttons->addStretch(1);
     buttons->addWidget(resetButton);
@@ -41,7 +41,7 @@ COV_SysRstDlg::COV_SysRstDlg(const ToolContext& context, QWidget* parent)
 
 void COV_SysRstDlg::reset()
 {
-    if (!m_context.prompt.askYesNo(QStringLiteral("Do you want system reset?")))
+    if (!m_context.prompt.askYesNo(tr("Do you want system reset?")))
         return;
     const nrx_i32 result =
         m_context.board.Reset(m_selector->family(), static_cast<CardNo>(m_selector->card()));

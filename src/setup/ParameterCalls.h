@@ -30,7 +30,7 @@
         P(InpositionUse, oneOf(kEnable)) \
         P(InpositionLevel, oneOf(kLevels)) \
     CALL(Hlmt, SystemIo) \
-        P(LimitStopMode, oneOf({"E-Stop", "S-Stop"})) \
+        P(LimitStopMode, oneOf(kLimitStops)) \
         P(LimitLevel, oneOf(kLevels)) \
     CALL(Org, SystemIo) \
         P(OriginLevel, oneOf(kLevels)) \
@@ -48,20 +48,19 @@
     CALL(RangeMode, MotionParameter) \
         P(RangeMagnification, between(1, 500)) \
     CALL(FixedRange, MotionParameter) \
-        P(RangeMode, oneOf({"Automatic Range", "Fixed Range"})) \
+        P(RangeMode, oneOf(kRangeModes)) \
     CALL(SpeedMode, MotionParameter) \
-        P(SpeedMode, oneOf({"Trapezoid", "Paravola(S-Curve)"})) \
+        P(SpeedMode, oneOf(kSpeedModes)) \
     CALL(PulseMode, MotionParameter) \
-        P(PulseMode, oneOf({"CW/CCW Positive", "CW/CCW Negative", "PLS POS/DIR Low", \
-                            "PLS POS/DIR HI", "PLS NEG/DIR Low", "PLS NEG/DIR HI"})) \
+        P(PulseMode, oneOf(kPulseModes)) \
     CALL(EncoderDir, MotionParameter) \
         P(EncoderDirection, oneOf(kDirections)) \
     CALL(EncoderMode, MotionParameter) \
-        P(EncoderMode, oneOf({"x4(EA/EB)", "x2(EA/EB)", "x1(EA/EB)", "Up/Down"})) \
+        P(EncoderMode, oneOf(kEncoderModes)) \
     CALL(HomeDir, MotionParameter) \
         P(OriginDirection, oneOf(kDirections)) \
     CALL(CompCountMode, MotionParameter) \
-        P(CompareCounter, oneOf({"Command", "Actual"})) \
+        P(CompareCounter, oneOf(kCompareCounters)) \
     CALL(Slmt, MotionParameter) \
         P(SoftLimitPlus, anyNumber) \
         P(SoftLimitMinus, anyNumber) \
@@ -86,10 +85,7 @@
         P(FilterStop, oneOf(kEnable)) \
     /* The single-axis window's pages. */ \
     CALL(HomeMode, Home) \
-        P(HomeMode, oneOf({"0 : LowHome (ORG)", "1 : LowHome (ORG+EZ)", "2 : HighHome (ORG)", \
-                           "3 : HighHome (ORG+EZ)", "4 : LowHome (Limit)", \
-                           "5 : LowHome (Limit+EZ)", "6 : HighHome (Limit)", \
-                           "7 : HighHome (Limit+EZ)", "8 : LowHome (EZ)", "9 : CurPos (ORG)"})) \
+        P(HomeMode, oneOf(kHomeModes)) \
     CALL(HomeOffset, Home) \
         P(HomeOffset, anyNumber) \
     CALL(HomeSpeed, Home) \

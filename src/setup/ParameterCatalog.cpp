@@ -2,6 +2,8 @@
 
 #include "BoardApi.h"
 
+#include <QCoreApplication>
+
 #include <iterator>
 #include <limits>
 #include <tuple>
@@ -20,10 +22,44 @@ struct Domain
 
 using Texts = std::vector<const char*>;
 
-const Texts kLevels{"Low Active", "High Active"};
-const Texts kEnable{"Disable", "Enable"};
-const Texts kUse{"Unused", "Use"};
-const Texts kDirections{"CW", "CCW"};
+const Texts kLevels{QT_TRANSLATE_NOOP("ParameterCatalog", "Low Active"),
+                    QT_TRANSLATE_NOOP("ParameterCatalog", "High Active")};
+const Texts kEnable{QT_TRANSLATE_NOOP("ParameterCatalog", "Disable"),
+                    QT_TRANSLATE_NOOP("ParameterCatalog", "Enable")};
+const Texts kUse{QT_TRANSLATE_NOOP("ParameterCatalog", "Unused"),
+                 QT_TRANSLATE_NOOP("ParameterCatalog", "Use")};
+const Texts kDirections{QT_TRANSLATE_NOOP("ParameterCatalog", "CW"),
+                        QT_TRANSLATE_NOOP("ParameterCatalog", "CCW")};
+// The lists with words in them, marked here for translation: the parameter list in
+// ParameterCalls.h is a macro, where the translation tools do not look.
+const Texts kLimitStops{QT_TRANSLATE_NOOP("ParameterCatalog", "E-Stop"),
+                        QT_TRANSLATE_NOOP("ParameterCatalog", "S-Stop")};
+const Texts kRangeModes{QT_TRANSLATE_NOOP("ParameterCatalog", "Automatic Range"),
+                        QT_TRANSLATE_NOOP("ParameterCatalog", "Fixed Range")};
+const Texts kSpeedModes{QT_TRANSLATE_NOOP("ParameterCatalog", "Trapezoid"),
+                        QT_TRANSLATE_NOOP("ParameterCatalog", "Paravola(S-Curve)")};
+const Texts kPulseModes{QT_TRANSLATE_NOOP("ParameterCatalog", "CW/CCW Positive"),
+                        QT_TRANSLATE_NOOP("ParameterCatalog", "CW/CCW Negative"),
+                        QT_TRANSLATE_NOOP("ParameterCatalog", "PLS POS/DIR Low"),
+                        QT_TRANSLATE_NOOP("ParameterCatalog", "PLS POS/DIR HI"),
+                        QT_TRANSLATE_NOOP("ParameterCatalog", "PLS NEG/DIR Low"),
+                        QT_TRANSLATE_NOOP("ParameterCatalog", "PLS NEG/DIR HI")};
+const Texts kEncoderModes{QT_TRANSLATE_NOOP("ParameterCatalog", "x4(EA/EB)"),
+                          QT_TRANSLATE_NOOP("ParameterCatalog", "x2(EA/EB)"),
+                          QT_TRANSLATE_NOOP("ParameterCatalog", "x1(EA/EB)"),
+                          QT_TRANSLATE_NOOP("ParameterCatalog", "Up/Down")};
+const Texts kCompareCounters{QT_TRANSLATE_NOOP("ParameterCatalog", "Command"),
+                             QT_TRANSLATE_NOOP("ParameterCatalog", "Actual")};
+const Texts kHomeModes{QT_TRANSLATE_NOOP("ParameterCatalog", "0 : LowHome (ORG)"),
+                       QT_TRANSLATE_NOOP("ParameterCatalog", "1 : LowHome (ORG+EZ)"),
+                       QT_TRANSLATE_NOOP("ParameterCatalog", "2 : HighHome (ORG)"),
+                       QT_TRANSLATE_NOOP("ParameterCatalog", "3 : HighHome (ORG+EZ)"),
+                       QT_TRANSLATE_NOOP("ParameterCatalog", "4 : LowHome (Limit)"),
+                       QT_TRANSLATE_NOOP("ParameterCatalog", "5 : LowHome (Limit+EZ)"),
+                       QT_TRANSLATE_NOOP("ParameterCatalog", "6 : HighHome (Limit)"),
+                       QT_TRANSLATE_NOOP("ParameterCatalog", "7 : HighHome (Limit+EZ)"),
+                       QT_TRANSLATE_NOOP("ParameterCatalog", "8 : LowHome (EZ)"),
+                       QT_TRANSLATE_NOOP("ParameterCatalog", "9 : CurPos (ORG)")};
 
 Domain oneOf(Texts choices)
 {

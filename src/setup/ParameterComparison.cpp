@@ -18,9 +18,9 @@ QString sectionKey(const ParameterSet& set, const ParameterSection& section, boo
     if (!relative)
         return QString::fromStdString(section.name());
     if (section.axis < 0)
-        return QStringLiteral("Card");
-    return set.sections.size() == 1 ? QStringLiteral("Axis")
-                                    : QStringLiteral("Axis %1").arg(section.axis);
+        return ParameterComparison::tr("Card");
+    return set.sections.size() == 1 ? ParameterComparison::tr("Axis")
+                                    : ParameterComparison::tr("Axis %1").arg(section.axis);
 }
 
 // A card or an axis set against a larger set meets only its own part of it, when there.

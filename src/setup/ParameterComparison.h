@@ -2,6 +2,7 @@
 
 #include "ParameterSet.h"
 
+#include <QCoreApplication>
 #include <optional>
 
 // One parameter of two sources side by side; a value is missing where a source lacks it.
@@ -20,6 +21,8 @@ struct ComparisonRow
 // A card or axis against a file of many cards meets the file's part for that card or axis.
 class ParameterComparison
 {
+    Q_DECLARE_TR_FUNCTIONS(ParameterComparison)
+
 public:
     static std::vector<ComparisonRow> compare(const ParameterSet& first,
                                               const ParameterSet& second);

@@ -19,15 +19,14 @@ void ParameterImport::check(const ParameterSet& file, const CardRegistry& regist
         if (!registry.hasBoards(section.family)) {
             if (section.axis < 0)
                 m_faults.push_back(
-                    {section.line, QStringLiteral("this PC has no %1 board")
+                    {section.line, tr("this PC has no %1 board")
                                        .arg(QLatin1String(familyDisplayName(section.family)))});
             continue;
         }
         if (section.card >= registry.cardCount(section.family)) {
             if (section.axis < 0)
                 m_faults.push_back(
-                    {section.line,
-                     QStringLiteral("this PC has no %1 card %2").arg(family).arg(section.card)});
+                    {section.line, tr("this PC has no %1 card %2").arg(family).arg(section.card)});
             continue;
         }
         if (section.axis >= registry.axisCount(section.family, section.card)) {
@@ -35,12 +34,12 @@ void ParameterImport::check(const ParameterSet& file, const CardRegistry& regist
             const std::string model = registry.modelName(section.family, section.card);
             // Same family, other model: the axes both have are what the user is after.
             if (described != nullptr && !described->model.empty() && described->model != model)
-                m_skipped << QStringLiteral("%1 (the file is for a %2, the card is a %3)")
+                m_skipped << tr("%1 (the file is for a %2, the card is a %3)")
                                  .arg(QString::fromStdString(section.name()),
                                       QString::fromStdString(described->model),
                                       QString::fromStdString(model));
             else
-                m_faults.push_back({section.line, QStringLiteral("%1 card %2 has no axis %3")
+                m_faults.push_back({section.line, tr("%1 card %2 has no axis %3")
                                                       .arg(family)
                                                       .arg(section.card)
                                                       .arg(section.axis)});

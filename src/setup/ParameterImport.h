@@ -2,6 +2,7 @@
 
 #include "ParameterSet.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 
 #include <utility>
@@ -21,6 +22,8 @@ struct ParameterChange
 // what would change and writes only that, through the calls the pages use.
 class ParameterImport
 {
+    Q_DECLARE_TR_FUNCTIONS(ParameterImport)
+
 public:
     // Compares the file with the boards at once; nothing is written until apply().
     ParameterImport(const ParameterSet& file, BoardApi& board, const CardRegistry& registry);

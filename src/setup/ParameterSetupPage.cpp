@@ -3,6 +3,7 @@
 #include "ParameterCatalog.h"
 
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QGroupBox>
 
 bool ParameterSetupPage::IsChanged(BoardFamily family)
@@ -26,7 +27,7 @@ QComboBox* ParameterSetupPage::listFor(const char* parameter)
     combo->setObjectName(QLatin1String(parameter));
     if (const ParameterInfo* info = ParameterCatalog::find(parameter)) {
         for (const char* text : info->choices)
-            combo->addItem(QLatin1String(text));
+            combo->addItem(QCoreApplication::translate("ParameterCatalog", text));
     }
     return combo;
 }

@@ -15,13 +15,13 @@ const char* kindText(ParameterSourceBox::Kind kind)
 {
     switch (kind) {
     case ParameterSourceBox::Axis:
-        return "An axis";
+        return QT_TRANSLATE_NOOP("ParameterSourceBox", "An axis");
     case ParameterSourceBox::Card:
-        return "A card";
+        return QT_TRANSLATE_NOOP("ParameterSourceBox", "A card");
     case ParameterSourceBox::EveryCard:
-        return "Every card";
+        return QT_TRANSLATE_NOOP("ParameterSourceBox", "Every card");
     case ParameterSourceBox::File:
-        return "A file";
+        return QT_TRANSLATE_NOOP("ParameterSourceBox", "A file");
     }
     return "";
 }
@@ -34,7 +34,7 @@ ParameterSourceBox::ParameterSourceBox(const QString& title, const QList<Kind>& 
     auto* form = new QFormLayout(this);
     m_kind = new QComboBox(this);
     for (Kind kind : kinds)
-        m_kind->addItem(QString::fromLatin1(kindText(kind)));
+        m_kind->addItem(tr(kindText(kind)));
     m_family = new QComboBox(this);
     for (BoardFamily family : kAllFamilies) {
         if (registry.hasBoards(family))
@@ -43,16 +43,16 @@ ParameterSourceBox::ParameterSourceBox(const QString& title, const QList<Kind>& 
     m_card = new QComboBox(this);
     m_axis = new QComboBox(this);
     m_file = new QLineEdit(this);
-    m_browse = new QPushButton(QStringLiteral("Browse..."), this);
-    m_browse->setToolTip(QStringLiteral("Choose a parameter file"));
+    m_browse = new QPushButton(tr("Browse..."), this);
+    m_browse->setToolTip(tr("Choose a parameter file"));
     auto* fileRow = new QHBoxLayout;
     fileRow->addWidget(m_file);
     fileRow->addWidget(m_browse);
-    form->addRow(QStringLiteral("Source"), m_kind);
-    form->addRow(QStringLiteral("Card Type"), m_family);
-    form->addRow(QStringLiteral("Card No."), m_card);
-    form->addRow(QStringLiteral("Axis No."), m_axis);
-    form->addRow(QStringLiteral("File"), fileRow);
+    form->addRow(tr("Source"), m_kind);
+    form->addRow(tr("Card Type"), m_family);
+    form->addRow(tr("Card No."), m_card);
+    form->addRow(tr("Axis No."), m_axis);
+    form->addRow(tr("File"), fileRow);
     // Only the rows the kinds on offer can use.
     form->setRowVisible(m_axis, kinds.contains(Axis));
     form->setRowVisible(fileRow, kinds.contains(File));
@@ -62,9 +62,9 @@ ParameterSourceBox::ParameterSourceBox(const QString& title, const QList<Kind>& 
     connect(m_family, &QComboBox::currentIndexChanged, this, [this] { fillCards(); });
     connect(m_card, &QComboBox::currentIndexChanged, this, [this] { fillAxes(); });
     connect(m_browse, &QPushButton::clicked, this, [this] {
-        const QString path = QFileDialog::getOpenFileName(
-            this, QStringLiteral("Parameter File"), m_file->text(),
-            QStringLiteral("Parameter files (*.ini *.txt);;All files (*)"));
+        const QString path =
+            QFileDialog::getOpenFileName(this, tr("Parameter File"), m_file->text(),
+                                         tr("Parameter files (*.ini *.txt);;All files (*)"));
         if (!path.isEmpty())
             m_file->setText(path);
     });
@@ -116,7 +116,7 @@ QString ParameterSourceBox::label() const
     const ParameterScope chosen = scope();
     switch (kind()) {
     case EveryCard:
-        return QStringLiteral("Every card");
+        return tr("Every card");
     case File:
         return QFileInfo(filePath()).fileName();
     case Axis:
@@ -130,7 +130,7 @@ QString ParameterSourceBox::label() const
             .arg(QString::fromStdString(m_registry.modelName(*chosen.family, chosen.card)))
             .arg(chosen.card);
     if (chosen.axis >= 0)
-        text += QStringLiteral(" Axis %1").arg(chosen.axis);
+        text += tr(" Axis %1").arg(chosen.axis);
     return text;
 }
 

@@ -120,7 +120,7 @@ private:
         for (QChar c : decoded)
             control = control || (c.unicode() < 0x20 && c != QLatin1Char('\t'));
         if (decoder.hasError() || control)
-            return fault(lineNo, QStringLiteral("not text (binary or damaged data)"));
+            return fault(lineNo, ParameterText::tr("not text (binary or damaged data)"));
         QString text = decoded.trimmed();
         if (text.isEmpty() || text.startsWith(QLatin1Char(';')) ||
             text.startsWith(QLatin1Char('#')))
@@ -150,7 +150,7 @@ private:
         const QString inner = text.mid(1, text.size() - 2).trimmed();
         const QString shown = inner.left(40);
         if (!m_sectionLines.emplace(inner, lineNo).second)
-            return fault(lineNo, QStringLiteral("section [%1] given twice (first on line %2)")
+            return fault(lineNo, ParameterText::tr("section [%1] given twice (first on line %2)")
                                      .arg(shown)
                                      .arg(m_sectionLines[inner]));
         const SectionName name = parseSectionName(inner);
@@ -161,7 +161,7 @@ private:
             return;
         }
         if (!name.family)
-            return fault(lineNo, QStringLiteral("unknown section [%1]").arg(shown));
+            return fault(lineNo, ParameterText::tr("unknown section [%1]").arg(shown));
         m_current.section = m_set.sections.size();
         m_set.sections.push_back({*name.family, name.card, name.axis, lineNo, {}});
         if (name.axis < 0)
@@ -174,9 +174,9 @@ private:
         if (m_current.ignored)
             return;
         if (!m_current.header && !m_current.section)
-            return fault(lineNo, QStringLiteral("%1 comes before any section").arg(shownKey));
+            return fault(lineNo, ParameterText::tr("%1 comes before any section").arg(shownKey));
         if (!m_current.keys.emplace(key, lineNo).second)
-            return fault(lineNo, QStringLiteral("%1 given twice (first on line %2)")
+            return fault(lineNo, ParameterText::tr("%1 given twice (first on line %2)")
                                      .arg(shownKey)
                                      .arg(m_current.keys[key]));
         if (m_current.header)
@@ -203,13 +203,13 @@ private:
         const ParameterInfo* info = ParameterCatalog::find(key.toStdString());
         const bool cardLevel = section.axis < 0;
         if (info == nullptr)
-            return fault(lineNo, QStringLiteral("unknown parameter %1").arg(shownKey));
+            return fault(lineNo, ParameterText::tr("unknown parameter %1").arg(shownKey));
         if ((info->level == ParameterLevel::Card) != cardLevel)
             return fault(lineNo, cardLevel
-                                     ? QStringLiteral("%1 belongs in an axis section").arg(key)
-                                     : QStringLiteral("%1 belongs in a card section").arg(key));
+                                     ? ParameterText::tr("%1 belongs in an axis section").arg(key)
+                                     : ParameterText::tr("%1 belongs in a card section").arg(key));
         if (!info->existsIn(section.family))
-            return fault(lineNo, QStringLiteral("%1 boards have no %2")
+            return fault(lineNo, ParameterText::tr("%1 boards have no %2")
                                      .arg(QLatin1String(familyShortName(section.family)), key));
         const auto number = parseNumber(value);
         if (!number)
@@ -217,7 +217,7 @@ private:
                 lineNo,
                 QStringLiteral("%1: \"%2\" is not a whole number").arg(key, value.left(40)));
         if (!info->accepts(*number))
-            return fault(lineNo, QStringLiteral("%1: %2 is out of range (%3 .. %4)")
+            return fault(lineNo, ParameterText::tr("%1: %2 is out of range (%3 .. %4)")
                                      .arg(key)
                                      .arg(*number)
                                      .arg(info->minimum)
@@ -228,7 +228,7 @@ private:
     void readHeaderValue(int lineNo, const QString& key, const QString& value)
     {
         if (!kHeaderKeys.contains(key))
-            return fault(lineNo, QStringLiteral("unknown header key %1").arg(key.left(40)));
+            return fault(lineNo, ParameterText::tr("unknown header key %1").arg(key.left(40)));
         if (key == QLatin1String("Cards")) {
             m_cards = parseNumber(value).value_or(-1);
             m_cardsLine = lineNo;
@@ -236,7 +236,7 @@ private:
         if (key == QLatin1String("FormatVersion")) {
             m_formatVersion = true;
             if (parseNumber(value) != ParameterText::kFormatVersion)
-                fault(lineNo, QStringLiteral("format version %1 is not one this program reads")
+                fault(lineNo, ParameterText::tr("format version %1 is not one this program reads")
                                   .arg(value.left(20)));
         }
     }
@@ -244,14 +244,14 @@ private:
     void finish()
     {
         if (m_headerLine == 0)
-            fault(0, QStringLiteral("no [Header] section: not an Orvane parameter file"));
+            fault(0, ParameterText::tr("no [Header] section: not an Orvane parameter file"));
         else if (!m_formatVersion)
-            fault(m_headerLine, QStringLiteral("the header lacks FormatVersion"));
+            fault(m_headerLine, ParameterText::tr("the header lacks FormatVersion"));
         if (m_set.sections.empty())
-            fault(0, QStringLiteral("the file holds no card"));
+            fault(0, ParameterText::tr("the file holds no card"));
         else if (m_cardsLine == 0 || m_cards != static_cast<int>(m_set.cards.size()))
             fault(m_cardsLine != 0 ? m_cardsLine : m_headerLine,
-                  QStringLiteral("the header counts %1 card(s), the file holds %2")
+                  ParameterText::tr("the header counts %1 card(s), the file holds %2")
                       .arg(m_cards)
                       .arg(m_set.cards.size()));
         for (const CardDescription& card : m_set.cards) {
@@ -259,9 +259,9 @@ private:
             const ParameterSection* own = m_set.section(card.family, card.card, -1);
             const QString name = QString::fromStdString(own->name());
             if (card.axes < 0)
-                fault(own->line, QStringLiteral("[%1] lacks Axes").arg(name));
+                fault(own->line, ParameterText::tr("[%1] lacks Axes").arg(name));
             else if (card.axes != held)
-                fault(own->line, QStringLiteral("[%1] counts %2 axes, the file holds %3")
+                fault(own->line, ParameterText::tr("[%1] counts %2 axes, the file holds %3")
                                      .arg(name)
                                      .arg(card.axes)
                                      .arg(held));
@@ -269,7 +269,7 @@ private:
         for (std::size_t i = 0; i < m_set.sections.size(); ++i) {
             ParameterSection& section = m_set.sections[i];
             if (section.axis >= 0 && !m_set.section(section.family, section.card, -1))
-                fault(section.line, QStringLiteral("[%1] has no card section")
+                fault(section.line, ParameterText::tr("[%1] has no card section")
                                         .arg(QString::fromStdString(section.name())));
             reportMissing(section, m_named[i]);
             sortByCatalogue(section);
@@ -291,9 +291,9 @@ private:
         const int shown = 4;
         QString list = QStringList(missing.mid(0, shown)).join(QStringLiteral(", "));
         if (missing.size() > shown)
-            list += QStringLiteral(" and %1 more").arg(missing.size() - shown);
+            list += ParameterText::tr(" and %1 more").arg(missing.size() - shown);
         fault(section.line,
-              QStringLiteral("[%1] lacks %2").arg(QString::fromStdString(section.name()), list));
+              ParameterText::tr("[%1] lacks %2").arg(QString::fromStdString(section.name()), list));
     }
 
     static void sortByCatalogue(ParameterSection& section)
@@ -388,11 +388,11 @@ ParameterSet ParameterText::readFile(const QString& path, std::vector<ParameterF
     constexpr qint64 kLargest = 4 * 1024 * 1024;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        faults.push_back({0, QStringLiteral("cannot read %1: %2").arg(path, file.errorString())});
+        faults.push_back({0, tr("cannot read %1: %2").arg(path, file.errorString())});
         return {};
     }
     if (file.size() > kLargest) {
-        faults.push_back({0, QStringLiteral("%1 is too large for a parameter file").arg(path)});
+        faults.push_back({0, tr("%1 is too large for a parameter file").arg(path)});
         return {};
     }
     return read(file.readAll(), faults);
@@ -411,6 +411,6 @@ QString ParameterText::faultList(const std::vector<ParameterFault>& faults)
 {
     QStringList lines;
     for (const ParameterFault& f : faults)
-        lines << (f.line > 0 ? QStringLiteral("Line %1: %2").arg(f.line).arg(f.text) : f.text);
+        lines << (f.line > 0 ? tr("Line %1: %2").arg(f.line).arg(f.text) : f.text);
     return lines.join(QLatin1Char('\n'));
 }

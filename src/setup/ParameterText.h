@@ -3,6 +3,7 @@
 #include "ParameterSet.h"
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QDateTime>
 
 // Parameters as a readable UTF-8 INI text: a [Header] section, a section per card
@@ -10,6 +11,8 @@
 // checks the whole text and reports every fault with its line.
 class ParameterText
 {
+    Q_DECLARE_TR_FUNCTIONS(ParameterText)
+
 public:
     static constexpr int kFormatVersion = 1;
 

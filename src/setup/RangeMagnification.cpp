@@ -24,11 +24,11 @@ QString RangeMagnification::message(Typed outcome)
 {
     switch (outcome) {
     case Typed::NotNumeric:
-        return PromptTexts::kInputIncorrect;
+        return PromptTexts::inputIncorrect();
     case Typed::TooSmall:
-        return QStringLiteral("Speed range is greater than 0!");
+        return tr("Speed range is greater than 0!");
     case Typed::TooLarge:
-        return QStringLiteral("Speed range is smaller than 500!");
+        return tr("Speed range is smaller than 500!");
     case Typed::Accepted:
         break;
     }

@@ -1,11 +1,14 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 // The speed range magnification R as the motion page's editable list takes it: typed text is
 // checked before it selects an item, and the range it gives is R .. R x 8000 pulses per second.
 class RangeMagnification
 {
+    Q_DECLARE_TR_FUNCTIONS(RangeMagnification)
+
 public:
     static constexpr int kItems = 500;
     static constexpr int kRangeFactor = 8000;
