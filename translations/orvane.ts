@@ -429,10 +429,6 @@ Do you want to save parameter to file?</source>
 <context>
     <name>COV_DIoWnd</name>
     <message>
-        <source>Card No. : </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The inputs of the page as a hexadecimal word</source>
         <translation type="unfinished"></translation>
     </message>
@@ -526,6 +522,10 @@ Do you want to save parameter to file?</source>
     </message>
     <message>
         <source>DO_%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The outputs of the page as a hexadecimal word; type a word and press Enter to write it</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -890,55 +890,11 @@ Can not change active controller !</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Servo Off</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Servo On</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source> Acc/Dec Time</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source> Accel Time</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source> Distance</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source> Position 2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>-Jog</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>+Jog</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Dec.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Inc</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Pos. 1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Pos. 2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Auto Move</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1010,6 +966,10 @@ Can not change active controller !</source>
     </message>
     <message>
         <source> COMP Counter </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(100 ~ 800000)</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1390,47 +1350,11 @@ Can not change active controller !</source>
 <context>
     <name>COV_SnMtnPtpWnd</name>
     <message>
-        <source>[pps]</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>[msec]</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>[pulse]</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>0 : Jog</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>1 : Relative</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>2 : Absolute</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source> Motion Type</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source> Drive Speed</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source> Initial Speed</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source> Accel Time</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source> Decel Time</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1469,17 +1393,9 @@ Can not change active controller !</source>
         <source> Distance</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source> Acc/Dec Time</source>
-        <translation type="unfinished"></translation>
-    </message>
 </context>
 <context>
     <name>COV_SnMtnWnd</name>
-    <message>
-        <source>Card No. : </source>
-        <translation type="unfinished"></translation>
-    </message>
     <message>
         <source>Axis No. : </source>
         <translation type="unfinished"></translation>
@@ -1493,79 +1409,11 @@ Can not change active controller !</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>E-Stop</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>S-Stop</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Servo On</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Alarm Reset</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Counter Clear</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Set Prm</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Parameter Setup</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Scope</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Record this axis&apos; positions and speed</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Close</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Single Axis Motion - %1(%2)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Servo Off</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>-Jog</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>+Jog</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Dec.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Inc</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Pos. 1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Pos. 2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Auto Move</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1744,10 +1592,6 @@ High Active : Normal Close</source>
 </context>
 <context>
     <name>COV_SysIoWnd</name>
-    <message>
-        <source>Card No. : </source>
-        <translation type="unfinished"></translation>
-    </message>
     <message>
         <source>%1 Axis</source>
         <translation type="unfinished"></translation>
@@ -1979,6 +1823,13 @@ High Active : Normal Close</source>
     </message>
 </context>
 <context>
+    <name>CardSelectorRow</name>
+    <message>
+        <source>Card No. : </source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>CounterPresets</name>
     <message>
         <source>[pulse]</source>
@@ -2021,6 +1872,81 @@ High Active : Normal Close</source>
     </message>
     <message>
         <source>Output %1: red while the output is on; click to switch it over</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>MotionButtonColumn</name>
+    <message>
+        <source>-Jog</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>+Jog</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dec.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Inc</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pos. 1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pos. 2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>E-Stop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>S-Stop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Servo On</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alarm Reset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Counter Clear</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set Prm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Parameter Setup</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scope</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Auto Move</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Servo Off</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2078,10 +2004,6 @@ High Active : Normal Close</source>
 <context>
     <name>MultiAxisForm</name>
     <message>
-        <source>[pps]</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>[msec]</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2090,47 +2012,11 @@ High Active : Normal Close</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Card No. : </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Select Axis</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source> All Axes</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>0 : Jog</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>1 : Relative</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>2 : Absolute</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source> Motion Type</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source> Drive Speed</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source> Initial Speed</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source> Accel Time</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source> Decel Time</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2218,14 +2104,6 @@ High Active : Normal Close</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>E-Stop</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>S-Stop</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Stop the checked axes at once</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2234,39 +2112,15 @@ High Active : Normal Close</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Servo On</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>-Jog</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>+Jog</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Alarm Reset</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Counter Clear</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Parameter Setup</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Scope</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Record the axes&apos; positions and speeds</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Close</source>
+        <source>Tick the axes that move together; the highlighted axis is the one the fields show</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every millisecond while the axes move, compare each checked axis with the next; stop them all when two differ by more than the error limit</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2625,6 +2479,53 @@ High Active : Normal Close</source>
     </message>
     <message>
         <source>Line %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ProfileFields</name>
+    <message>
+        <source>0 : Jog</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 : Relative</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>2 : Absolute</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Motion Type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Drive Speed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>[pps]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Initial Speed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Accel Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>[msec]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Decel Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Acc/Dec Time</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

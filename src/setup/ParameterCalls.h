@@ -9,7 +9,8 @@
 //                     have it (the families that export the getter) come from nrx_contract.h.
 //   P(name, domain)   One value the call carries, in the call's argument order. The name is
 //                     the parameter's key in parameter files; the domain is built by the
-//                     helpers in ParameterCatalog.cpp: oneOf(texts by code), between(min, max),
+//                     helpers in ParameterCatalog.cpp: oneOf(texts by code; lists with words
+//                     are named there, where the translation tools find them), between(min, max),
 //                     anyNumber, notNegative, and hidden(...) for a value the page writes
 //                     without a control for it.
 //

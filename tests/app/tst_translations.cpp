@@ -84,8 +84,9 @@ bool hasWords(const QString& text)
 // with their base classes, and the plain classes that lay windows out.
 QStringList contextsOf(const QWidget* widget, const QWidget* window)
 {
-    QStringList contexts{QStringLiteral("MultiAxisForm"), QStringLiteral("ToolWindowKinds"),
-                         QStringLiteral("StatusBitCaptions")};
+    QStringList contexts{QStringLiteral("MultiAxisForm"),      QStringLiteral("ProfileFields"),
+                         QStringLiteral("MotionButtonColumn"), QStringLiteral("CardSelectorRow"),
+                         QStringLiteral("ToolWindowKinds"),    QStringLiteral("StatusBitCaptions")};
     for (const QWidget* each = widget; each; each = each->parentWidget()) {
         for (const QMetaObject* meta = each->metaObject(); meta; meta = meta->superClass())
             contexts << QLatin1String(meta->className());
