@@ -26,7 +26,6 @@ public:
     ToolKind kind() const override { return ToolParameter; }
     void handleUserMessage(UserMessage message, int wParam) override;
 
-
 protected:
     void askBeforeClose() override;
 
