@@ -413,6 +413,7 @@ void COV_MainFrame::sendToFrame(UserMessage message, int wParam)
         break;
     case UM_HOME_LIMIT_USE:
     case UM_VIEW_COMMAND:
+    case UM_PARAM_LEAVE_CHECK:
         relayToToolViews(message, wParam);
         break;
     default:

@@ -133,6 +133,8 @@ bool COV_ImportPrmDlg::writeToBoards()
     if (!m_context.prompt.askYesNo(
             tr("Write %1 changed parameter(s) to the boards?").arg(m_import->changes().size())))
         return false;
+    // An open Parameter window reloads after the import: it asks about its edits first.
+    m_context.frame.sendToFrame(UM_PARAM_LEAVE_CHECK);
     AppState& state = m_context.state;
     const auto touched = m_import->apply();
     qCInfo(lcParams).noquote() << "Import of" << m_import->changes().size() << "change(s) from"

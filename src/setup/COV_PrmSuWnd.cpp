@@ -144,7 +144,12 @@ bool COV_PrmSuWnd::leaveCheck(BoardFamily family)
     if (!m_context.prompt.askYesNo(PromptTexts::parametersChanged()))
         return true;
     page->Apply(family);
-    m_context.frame.sendToFrame(UM_PARAM_CHANGED, m_card);
+    // The frame marks the active family's card; after a controller change the written card
+    // is the previous family's, so it is marked here.
+    if (family == m_context.state.active.family)
+        m_context.frame.sendToFrame(UM_PARAM_CHANGED, m_card);
+    else
+        m_context.state.registry.setParametersChanged(family, m_card, true);
     return false;
 }
 
@@ -205,6 +210,9 @@ void COV_PrmSuWnd::onDefaultClicked()
     qCInfo(lcParams) << "Default Prm" << familyShortName(m_context.state.active.family) << "card"
                      << m_card << "axis" << m_axis << "returned" << result;
     refresh();
+    // The other windows showing this axis's parameters take the defaults too.
+    for (ToolKind kind : {ToolSingleAxis, ToolMultiAxis, ToolDigitalIo})
+        m_context.frame.sendToFrame(UM_VIEW_COMMAND, kind);
 }
 
 void COV_PrmSuWnd::onCopyClicked()
@@ -238,6 +246,9 @@ void COV_PrmSuWnd::handleUserMessage(UserMessage message, int wParam)
     case UM_VIEW_COMMAND:
         if (wParam == ToolParameter)
             refresh();
+        break;
+    case UM_PARAM_LEAVE_CHECK:
+        leaveCheck(m_context.state.active.family);
         break;
     default:
         break;

@@ -298,11 +298,12 @@ private slots:
         QCOMPARE(seen, QStringList{"status first axis 4, card combo 1"});
 
         rig.log.clear();
-        for (UserMessage message :
-             {UM_STATUS_CARD_CHANGED, UM_STATUS_AXIS_CHANGED, UM_HOME_LIMIT_USE, UM_VIEW_COMMAND})
+        for (UserMessage message : {UM_STATUS_CARD_CHANGED, UM_STATUS_AXIS_CHANGED,
+                                    UM_HOME_LIMIT_USE, UM_VIEW_COMMAND, UM_PARAM_LEAVE_CHECK})
             rig.frame->sendToFrame(message, 3);
         QCOMPARE(rig.log, (QStringList{"101:1144:3", "102:1144:3", "101:1145:3", "102:1145:3",
-                                       "101:1138:3", "102:1138:3", "101:1154:3", "102:1154:3"}));
+                                       "101:1138:3", "102:1138:3", "101:1154:3", "102:1154:3",
+                                       "101:1155:3", "102:1155:3"}));
 
         // Opening the single-axis window announces the active axis.
         rig.log.clear();

@@ -281,6 +281,10 @@ private slots:
         QCOMPARE(run({"diff", "RL:0", file}), 1);
         QCOMPARE(out, QStringLiteral("Axis 2 OriginDirection: 0 (CW) | 1 (CCW)\n"));
         QCOMPARE(run({"diff", "RL:0:2", "RL:0:1"}), 1);
+        // An axis meets its own section of its card, live or exported.
+        QCOMPARE(run({"diff", "RL:0:1", "RL:0"}), 0);
+        QCOMPARE(run({"diff", "RL:0:2", file}), 1);
+        QCOMPARE(out, QStringLiteral("Axis OriginDirection: 0 (CW) | 1 (CCW)\n"));
 
         QCOMPARE(run({"import", file}), 0);
         QCOMPARE(out, QStringLiteral("RL.Card0.Axis2 OriginDirection: 0 (CW) -> 1 (CCW)\n"));
@@ -322,7 +326,8 @@ private slots:
         QCOMPARE(rig.api.GetFilterTime(BoardFamily::RL, 1, 0), 6);
         QVERIFY(import.writeToBoards());
         QCOMPARE(rig.api.GetFilterTime(BoardFamily::RL, 1, 0), 0);
-        QCOMPARE(frame.sent, (QList<QPair<int, int>>{{UM_PARAM_CHANGED, 1},
+        QCOMPARE(frame.sent, (QList<QPair<int, int>>{{UM_PARAM_LEAVE_CHECK, 0},
+                                                     {UM_PARAM_CHANGED, 1},
                                                      {UM_VIEW_COMMAND, ToolParameter},
                                                      {UM_VIEW_COMMAND, ToolSingleAxis},
                                                      {UM_VIEW_COMMAND, ToolMultiAxis},
