@@ -4,12 +4,16 @@
 #include "MotionButtonTarget.h"
 #include "MotionSequencer.h"
 
-void MotionButtonActions::press(MotionButton button)
+bool MotionButtonActions::press(MotionButton button)
 {
-    if (button == MotionButton::AlarmReset)
+    if (button == MotionButton::AlarmReset) {
         holdAlarmReset(true);
-    else if (m_target.mayStartMotion())
-        m_sequencer.press(button == MotionButton::Minus ? DirectionMinus : DirectionPlus);
+        return true;
+    }
+    if (!m_target.mayStartMotion())
+        return false;
+    m_sequencer.press(button == MotionButton::Minus ? DirectionMinus : DirectionPlus);
+    return true;
 }
 
 void MotionButtonActions::release(MotionButton button)

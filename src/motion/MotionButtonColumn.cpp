@@ -169,10 +169,11 @@ bool MotionButtonColumn::eventFilter(QObject* watched, QEvent* event)
     const MotionButton button = watched == alarmReset ? MotionButton::AlarmReset
                                 : watched == minus    ? MotionButton::Minus
                                                       : MotionButton::Plus;
+    // A refused press never reaches the button: its message box took the release, so the
+    // button would stay drawn pressed.
     if (type == QEvent::MouseButtonPress)
-        m_actions->press(button);
-    else
-        m_actions->release(button);
+        return !m_actions->press(button);
+    m_actions->release(button);
     // The buttons still get the event, so they look pressed.
     return false;
 }
