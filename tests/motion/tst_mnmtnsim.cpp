@@ -116,7 +116,10 @@ private slots:
         QVERIFY(rig.start());
         auto* plus = rig.find<QPushButton>("plusButton");
         rig.check({1});
-        QTest::mouseClick(plus, Qt::LeftButton); // the focused row 0 is not checked
+        // The focused row 0 is not checked: refused, the button is not left drawn pressed.
+        QTest::mousePress(plus, Qt::LeftButton);
+        QVERIFY(!plus->isDown());
+        QTest::mouseRelease(plus, Qt::LeftButton);
         rig.find<QPushButton>("eStopButton")->click();
         rig.focus(1);
         QTest::mouseClick(plus, Qt::LeftButton);
@@ -165,6 +168,7 @@ private slots:
         const QSize size = rig.window->size();
         for (MotionType type : {MotionType::Relative, MotionType::Absolute, MotionType::Jog}) {
             rig.choose("motionType", int(type));
+            QCOMPARE(rig.find<QCheckBox>("repeat")->isVisible(), type != MotionType::Jog);
             for (int click = 0; click < 2 && type != MotionType::Jog; ++click) {
                 rig.find<QCheckBox>("repeat")->click();
                 QCoreApplication::processEvents();
