@@ -1949,6 +1949,26 @@ High Active : Normal Close</source>
         <source>Servo Off</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Stop at once, without deceleration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop with the set deceleration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hold the servo driver&apos;s alarm-reset output on while pressed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pulse the servo driver&apos;s counter-clear output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write the parameters shown to the board</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>MotionErrorCode</name>

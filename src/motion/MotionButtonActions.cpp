@@ -6,10 +6,8 @@
 
 bool MotionButtonActions::press(MotionButton button)
 {
-    if (button == MotionButton::AlarmReset) {
-        holdAlarmReset(true);
-        return true;
-    }
+    if (button == MotionButton::AlarmReset)
+        return holdAlarmReset(true);
     if (!m_target.mayStartMotion())
         return false;
     m_sequencer.press(button == MotionButton::Minus ? DirectionMinus : DirectionPlus);
@@ -24,12 +22,13 @@ void MotionButtonActions::release(MotionButton button)
         m_sequencer.release();
 }
 
-void MotionButtonActions::holdAlarmReset(bool down)
+bool MotionButtonActions::holdAlarmReset(bool down)
 {
     // Only the press tells why nothing happens; the release follows it silently.
     const MotionAxes axes = m_target.buttonAxes(down);
     for (AxisNo axis : axes.axes)
         m_board.PutSvAlmRst(axes.family, axes.card, axis, down ? 1 : 0);
+    return !axes.axes.empty();
 }
 
 void MotionButtonActions::stop(bool sudden)

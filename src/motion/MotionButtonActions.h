@@ -38,7 +38,8 @@ public:
     void endHeldJog();
 
 private:
-    void holdAlarmReset(bool down);
+    // False when no axis may be reset now.
+    bool holdAlarmReset(bool down);
 
     BoardApi& m_board;
     MotionSequencer& m_sequencer;
