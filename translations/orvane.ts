@@ -2343,6 +2343,10 @@ High Active : Normal Close</source>
         <source>%1 card %2 has no axis %3</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>%1 is a %2; the file describes it as a %3</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ParameterSourceBox</name>

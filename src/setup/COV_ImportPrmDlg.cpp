@@ -115,6 +115,8 @@ void COV_ImportPrmDlg::showChanges()
     }
     QString summary = changes.empty() ? tr("The boards already hold every value of the file.")
                                       : tr("%1 parameter(s) would change:").arg(changes.size());
+    for (const QString& other : m_import->otherModels())
+        summary += QLatin1Char('\n') + other + QLatin1Char('.');
     for (const QString& skipped : m_import->skipped())
         summary += tr("\nSkipped %1.").arg(skipped);
     m_summary->setText(summary);

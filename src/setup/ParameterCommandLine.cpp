@@ -222,6 +222,8 @@ int ParameterCommandLine::importFile(const QStringList& arguments)
               << ParameterText::faultList(faults) << Qt::endl;
         return BadInput;
     }
+    for (const QString& other : import.otherModels())
+        m_err << other << Qt::endl;
     for (const QString& skipped : import.skipped())
         m_err << "Skipped " << skipped << Qt::endl;
     for (const ParameterChange& c : import.changes()) {

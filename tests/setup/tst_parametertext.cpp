@@ -255,6 +255,11 @@ private slots:
         std::vector<ParameterFault> faults;
         ParameterImport import(ParameterText::read(text, faults), rig.api, rig.state.registry);
         QVERIFY(faults.empty() && import.canApply());
+        QCOMPARE(
+            import.otherModels(),
+            QStringList{QStringLiteral("RM.Card0 is a %1; the file describes it as a NRX-RL416V")
+                            .arg(QString::fromStdString(
+                                rig.state.registry.modelName(BoardFamily::RM, 0)))});
         QCOMPARE(import.skipped().size(), 2);
         QVERIFY(import.skipped().front().startsWith(
             QStringLiteral("RM.Card0.Axis2 (the file is for a NRX-RL416V")));
