@@ -17,6 +17,7 @@
 #include <QFileInfo>
 #include <QTextStream>
 
+#include <algorithm>
 #include <cstring>
 #include <map>
 
@@ -87,6 +88,8 @@ QString ParameterCommandLine::usage()
         "      Check FILE and list what it would change on the boards. Only with --yes\n"
         "      are the changes written; --save then saves the parameter file of every\n"
         "      card written to, so the boards keep the values after power-off.\n"
+        "      Simulated boards belong to the one command that runs them: without\n"
+        "      --save what import writes to them is gone when it ends.\n"
         "  diff A B\n"
         "      Compare two sources, each a FILE or a board as RL:0 (a card) or RL:0:1\n"
         "      (an axis), and list the parameters that differ.\n"
@@ -133,7 +136,14 @@ int ParameterCommandLine::main(int argc, char** argv)
         for (int card = 0; card < registry.cardCount(family); ++card)
             startup.readCardInfo(family, static_cast<CardNo>(card));
     }
-    const int result = ParameterCommandLine(board, registry, out, err).run(arguments);
+    ParameterCommandLine command(board, registry, out, err);
+    std::vector<BoardFamily> simulated;
+    for (BoardFamily family : kAllFamilies) {
+        if (loader.isSimulated(family))
+            simulated.push_back(family);
+    }
+    command.setSimulated(std::move(simulated));
+    const int result = command.run(arguments);
     startup.unloadDevices();
     return result;
 }
@@ -258,6 +268,13 @@ int ParameterCommandLine::importFile(const QStringList& arguments)
         m_err << "Not saved: the boards forget these values at power-off unless saved "
                  "(--save)."
               << Qt::endl;
+        const bool simulated = std::any_of(touched.begin(), touched.end(), [this](const auto& t) {
+            return std::find(m_simulated.begin(), m_simulated.end(), t.first) != m_simulated.end();
+        });
+        if (simulated)
+            m_err << "The boards are simulated and belong to this command alone: without "
+                     "--save these values are gone when it ends."
+                  << Qt::endl;
     }
     return Success;
 }

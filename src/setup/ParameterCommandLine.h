@@ -1,6 +1,10 @@
 #pragma once
 
+#include "BoardFamily.h"
+
 #include <QStringList>
+
+#include <vector>
 
 class BoardApi;
 class CardRegistry;
@@ -24,6 +28,8 @@ public:
 
     // The arguments after "params".
     int run(const QStringList& arguments);
+    // The families whose boards are simulated: their values live only as long as the process.
+    void setSimulated(std::vector<BoardFamily> families) { m_simulated = std::move(families); }
 
     // True when the program was started as "orvane params ...".
     static bool isCommand(int argc, char** argv);
@@ -43,4 +49,5 @@ private:
     const CardRegistry& m_registry;
     QTextStream& m_out;
     QTextStream& m_err;
+    std::vector<BoardFamily> m_simulated;
 };

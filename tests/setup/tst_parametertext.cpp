@@ -291,12 +291,17 @@ private slots:
         QCOMPARE(run({"diff", "RL:0:2", file}), 1);
         QCOMPARE(out, QStringLiteral("Axis OriginDirection: 0 (CW) | 1 (CCW)\n"));
 
+        cli.setSimulated({BoardFamily::RL});
         QCOMPARE(run({"import", file}), 0);
         QCOMPARE(out, QStringLiteral("RL.Card0.Axis2 OriginDirection: 0 (CW) -> 1 (CCW)\n"));
         QCOMPARE(rig.api.GetHomeDir(BoardFamily::RL, 0, 2), 0);
         QCOMPARE(run({"import", file, "--yes", "--save"}), 0);
         QCOMPARE(rig.api.GetHomeDir(BoardFamily::RL, 0, 2), 1);
         QVERIFY(QFile::exists(rig.folder.filePath(QStringLiteral("NrxSimRL_Card0.prm"))));
+        // Unsaved on simulated boards: said to last only as long as the command.
+        rig.api.SetHomeDir(BoardFamily::RL, 0, 2, 0);
+        QCOMPARE(run({"import", file, "--yes"}), 0);
+        QVERIFY(err.contains(QLatin1String("simulated")));
 
         for (const QStringList& bad :
              {QStringList{"frob"}, QStringList{"export"},
