@@ -255,6 +255,26 @@ void COV_PrmSuWnd::handleUserMessage(UserMessage message, int wParam)
     }
 }
 
+bool COV_PrmSuWnd::settleBeforeExit()
+{
+    const BoardFamily family = m_context.state.active.family;
+    ParameterSetupPage* page = m_pages[std::size_t(m_page)];
+    if (!page->IsChanged(family))
+        return true;
+    switch (m_context.prompt.askYesNoCancel(PromptTexts::parametersChanged())) {
+    case PromptAnswer::Cancel:
+        return false;
+    case PromptAnswer::Yes:
+        page->Apply(family);
+        m_context.frame.sendToFrame(UM_PARAM_CHANGED, m_card);
+        return true;
+    default:
+        // Dropped, so closing the window asks nothing more.
+        page->Load(family);
+        return true;
+    }
+}
+
 void COV_PrmSuWnd::askBeforeClose()
 {
     leaveCheck(m_context.state.active.family);

@@ -50,6 +50,8 @@ public:
             emit closeRequested();
     }
     void endMotion() override { m_log << QStringLiteral("%1:end").arg(m_kind); }
+    bool settleBeforeExit() override { return agreeToExit; }
+    bool agreeToExit = true;
     std::function<void(UserMessage, int)> onMessage;
     bool agreeToClose = true;
     int closeRequests = 0;
@@ -433,6 +435,12 @@ private slots:
         rig.frame->sendToFrame(UM_PARAM_CHANGED, 0);
         rig.frame->chooseFamily(1);
         rig.frame->sendToFrame(UM_PARAM_CHANGED, 1);
+        // A window that cancels the exit keeps the program running, and nothing is asked.
+        rig.frame->openTool(ToolParameter);
+        rig.view(ToolParameter)->agreeToExit = false;
+        QVERIFY(!rig.frame->close());
+        QVERIFY(rig.prompt.questions().isEmpty());
+        rig.view(ToolParameter)->agreeToExit = true;
         rig.prompt.queueAnswers({false, true});
         rig.frame->close();
         QCOMPARE(rig.prompt.questions(),

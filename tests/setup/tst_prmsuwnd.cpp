@@ -184,6 +184,30 @@ private slots:
         }
     }
 
+    void exit_asksAboutUnwrittenEdits()
+    {
+        Rig rig;
+        QVERIFY(rig.start());
+        rig.open();
+        QVERIFY(rig.window->settleBeforeExit());
+        rig.choose("LimitLevel", 1);
+        rig.prompt.queueCancel();
+        QVERIFY(!rig.window->settleBeforeExit());
+        QCOMPARE(rig.list("LimitLevel")->currentIndex(), 1);
+        rig.prompt.queueAnswers({false});
+        QVERIFY(rig.window->settleBeforeExit());
+        QCOMPARE(rig.list("LimitLevel")->currentIndex(), 0);
+        rig.choose("LimitLevel", 1);
+        rig.prompt.queueAnswers({true});
+        QVERIFY(rig.window->settleBeforeExit());
+        QCOMPARE(rig.limitLevel(BoardFamily::RL, 0, 0), 1);
+        QVERIFY(rig.paramChangedSent(0));
+        QCOMPARE(rig.prompt.questions(), QStringList(3, kChanged));
+        // Nothing is left to ask when the window then closes.
+        rig.window->requestClose();
+        QCOMPARE(rig.prompt.questions().size(), 3);
+    }
+
     void defaultPrm_andRefresh_resetAxisAndSelectors()
     {
         Rig rig;
