@@ -2505,6 +2505,18 @@ High Active : Normal Close</source>
         <source>Line %1: %2</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>UTF-16 text: save the file as UTF-8</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>... and %1 more fault(s)</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ProfileFields</name>

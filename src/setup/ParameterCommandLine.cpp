@@ -95,12 +95,19 @@ QString ParameterCommandLine::usage()
         "      (an axis), and list the parameters that differ.\n"
         "\n"
         "Exit codes: 0 success (diff: no difference), 1 diff found differences,\n"
-        "2 bad input (a wrong argument, a damaged file, a board the PC lacks).\n");
+        "2 bad input (a wrong argument, a damaged file, a board the PC lacks),\n"
+        "3 export left out a family whose boards failed to load.\n");
 }
 
 bool ParameterCommandLine::isCommand(int argc, char** argv)
 {
     return argc >= 2 && std::strcmp(argv[1], "params") == 0;
+}
+
+bool ParameterCommandLine::isStray(int argc, char** argv)
+{
+    // Qt's own options start with "-"; any other first word must be a command.
+    return argc >= 2 && argv[1][0] != '-' && !isCommand(argc, argv);
 }
 
 int ParameterCommandLine::main(int argc, char** argv)
@@ -206,7 +213,16 @@ int ParameterCommandLine::exportFile(const QStringList& arguments)
                                << positional[0];
     m_err << "Exported " << set.cards.size() << (set.cards.size() == 1 ? " card" : " cards")
           << " to " << positional[0] << Qt::endl;
-    return Success;
+    // A family whose boards failed to load is missing from the file: say so, and fail.
+    bool missing = false;
+    for (BoardFamily family : kAllFamilies) {
+        if ((!scope.family || *scope.family == family) && m_registry.count(family) < 0) {
+            m_err << "Not exported: " << familyDisplayName(family) << " (its boards failed to load)"
+                  << Qt::endl;
+            missing = true;
+        }
+    }
+    return missing ? Incomplete : Success;
 }
 
 int ParameterCommandLine::importFile(const QStringList& arguments)
@@ -294,6 +310,13 @@ bool ParameterCommandLine::source(const QString& text, ParameterSet& set)
     const bool known = m_registry.hasBoards(family) && scope->card >= 0 &&
                        scope->card < m_registry.cardCount(family) &&
                        scope->axis < m_registry.axisCount(family, scope->card);
+    const bool card = m_registry.hasBoards(family) && scope->card >= 0 &&
+                      scope->card < m_registry.cardCount(family);
+    if (!known && card) {
+        m_err << "orvane params diff: " << familyDisplayName(family) << '(' << scope->card
+              << ") has no axis " << scope->axis << " on this PC" << Qt::endl;
+        return false;
+    }
     if (!known) {
         m_err << "orvane params diff: this PC has no board " << text
               << " (give a card, e.g. RL:0, or an axis, e.g. RL:0:1)" << Qt::endl;

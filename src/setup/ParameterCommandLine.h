@@ -21,6 +21,7 @@ public:
         Success = 0,
         Differences = 1, // diff found some
         BadInput = 2,
+        Incomplete = 3, // export: a family's boards failed to load, the rest was written
     };
 
     ParameterCommandLine(BoardApi& board, const CardRegistry& registry, QTextStream& out,
@@ -33,6 +34,8 @@ public:
 
     // True when the program was started as "orvane params ...".
     static bool isCommand(int argc, char** argv);
+    // True when the first argument is a word that is no command ("orvane param ...").
+    static bool isStray(int argc, char** argv);
     // The whole run without a display: loads the boards from the program's folder as the
     // program does, runs, unloads. Call instead of creating a QApplication.
     static int main(int argc, char** argv);

@@ -303,6 +303,27 @@ private slots:
         QCOMPARE(run({"import", file, "--yes"}), 0);
         QVERIFY(err.contains(QLatin1String("simulated")));
 
+        // A family whose boards failed to load is left out, and the export says so.
+        rig.state.registry.setLoadResult(BoardFamily::RN, -3);
+        QCOMPARE(run({"export", file}), 3);
+        QVERIFY(err.contains(QLatin1String("Not exported")));
+        QCOMPARE(run({"diff", "RL:0:9", "RL:0"}), 2);
+        QVERIFY(err.contains(QLatin1String("has no axis 9")));
+        QCOMPARE(run({"import", "/dev/zero"}), 2);
+        QByteArray utf16("\xFF\xFE");
+        for (char c : QByteArray("[Header]\nFormatVersion=1\n"))
+            utf16 += QByteArray(1, c) + QByteArray(1, '\0');
+        const QString wide = rig.folder.filePath(QStringLiteral("wide.ini"));
+        QFile wideFile(wide);
+        QVERIFY(wideFile.open(QIODevice::WriteOnly) && wideFile.write(utf16) > 0);
+        wideFile.close();
+        QCOMPARE(run({"import", wide}), 2);
+        QCOMPARE(err.count(QLatin1String("UTF-16")), 1);
+        const QStringList listed =
+            ParameterText::faultList(std::vector<ParameterFault>(250, {1, "x"})).split('\n');
+        QCOMPARE(listed.size(), 201);
+        QCOMPARE(listed.back(), QStringLiteral("... and 50 more fault(s)"));
+
         for (const QStringList& bad :
              {QStringList{"frob"}, QStringList{"export"},
               QStringList{"export", file, "--card", "0"},
