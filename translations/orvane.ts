@@ -1876,6 +1876,13 @@ High Active : Normal Close</source>
     </message>
 </context>
 <context>
+    <name>MessageBoxPrompt</name>
+    <message>
+        <source>... and %1 more line(s) under Show Details</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>MotionButtonColumn</name>
     <message>
         <source>-Jog</source>
