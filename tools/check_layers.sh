@@ -5,7 +5,7 @@
 set -euo pipefail
 src="${1:-$(dirname "$0")/../src}"
 declare -A rank=([board]=0 [core]=1 [controls]=1 [sim]=1
-                 [setup]=2 [motion]=2 [monitor]=2 [scope]=2 [app]=3)
+                 [setup]=2 [motion]=2 [axistest]=2 [monitor]=2 [scope]=2 [app]=3)
 declare -A home
 while IFS= read -r path; do
   rel="${path#"$src"/}"
