@@ -2,6 +2,196 @@
 <!DOCTYPE TS>
 <TS version="2.1">
 <context>
+    <name>AxisTestReport</name>
+    <message>
+        <source>Completed position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Position [pulse]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Completed position of each search</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mean deviation, approach from below</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>+2s from below</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>-2s from below</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mean deviation, approach from above</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>+2s from above</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>-2s from above</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Target [pulse]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Deviation [pulse]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Deviation against target position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cycle time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cycle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time [ms]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cycle time over the cycles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Largest following error</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Following error [pulse]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Largest following error of each cycle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Axis Test: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Board and axis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Figures (pulses)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At each target (pulses)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Searches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Parameters of the card and the axis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not write %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AxisTestRun</name>
+    <message>
+        <source>No axis is chosen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only a run-in tests several axes at once.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An axis is named twice.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The number of runs must be from 1 to 10000.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The dwell must be from 0 to 600000 ms.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The speed must be a positive number of pulses per second.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The number of targets must be from 2 to 1000.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The travel is too short for %1 targets.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The overrun must not be negative.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A run-in needs a number of cycles or a duration.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The move pattern needs at least %1 position(s).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The servo of axis %1 is off.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Axis %1 is moving.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Position %1 of axis %2 is outside its soft limits (%3 to %4).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refused: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Following error of %1 pulses on axis %2, over the tolerance of %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The board refused the move (result %1).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stopped with code %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>AxisValueGridModel</name>
     <message>
         <source>%1 Axis</source>
