@@ -2,6 +2,145 @@
 <!DOCTYPE TS>
 <TS version="2.1">
 <context>
+    <name>AxisTestForm</name>
+    <message>
+        <source>Home Repeatability</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Positioning (ISO 230-2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run-in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Axis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Axes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drive speed of the test&apos;s moves; 0 keeps the axis&apos;s positioning profile</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Speed [pps]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Switch the servo on first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Searches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move away [pulse]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tolerance of the range [pulse]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From [pulse]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To [pulse]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Targets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Approaches each way</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Overrun [pulse]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dwell [ms]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tolerance of the accuracy A [pulse]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Relative back and forth</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Absolute between two points</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Absolute through a list of points</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The distance, the two points or the list of points, in pulses, separated by commas</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Positions [pulse]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cycles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Or duration [s]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Largest following error [pulse]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop at the first fault</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Axis %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be a whole number.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;Positions&quot; must be whole numbers separated by commas.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>AxisTestReport</name>
     <message>
         <source>Completed position</source>
@@ -395,6 +534,137 @@ Do you want to save parameter to file?</source>
     </message>
     <message>
         <source>Axis Status - %1(%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>COV_AxisTestWnd</name>
+    <message>
+        <source>Start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stops the tested axes at once and writes a partial report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Figure</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value [pulse]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop pressed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Axis Test - %1(%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refused: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The test cannot start: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be created.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>samples.csv cannot be written in %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>window closed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cycle %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, elapsed %1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, %1 s left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, worst following error %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report in %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Completed position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Position [pulse]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mean deviation from below</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mean deviation from above</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Target [pulse]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Deviation [pulse]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cycle time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cycle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time [ms]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Largest following error</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Following error [pulse]</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -3365,6 +3635,10 @@ High Active : Normal Close</source>
     </message>
     <message>
         <source>Parameter files (*.ini *.txt);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Axis Test</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

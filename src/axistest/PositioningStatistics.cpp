@@ -28,6 +28,8 @@ PositioningStatistics::PositioningStatistics(std::vector<Target> targets)
     for (const Target& target : targets) {
         AtTarget at;
         at.position = target.position;
+        at.countUp = static_cast<int>(target.up.size());
+        at.countDown = static_cast<int>(target.down.size());
         at.meanUp = mean(target.up);
         at.meanDown = mean(target.down);
         at.mean = (at.meanUp + at.meanDown) / 2;

@@ -21,6 +21,8 @@ public:
     struct AtTarget
     {
         double position = 0;
+        int countUp = 0; // approaches measured so far
+        int countDown = 0;
         double meanUp = 0;   // x̄↑
         double meanDown = 0; // x̄↓
         double mean = 0;     // x̄, the mean of both directions
