@@ -139,6 +139,10 @@
         <source>&quot;Positions&quot; must be whole numbers separated by commas.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Documents/Orvane Axis Tests; each run in a dated folder inside</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>AxisTestReport</name>

@@ -59,6 +59,8 @@ AxisTestForm::AxisTestForm(QWidget* parent) : QWidget(parent)
     common->addRow(QString(), m_servoOn);
     auto* folderRow = new QHBoxLayout;
     m_folder = new QLineEdit(this);
+    m_folder->setPlaceholderText(
+        tr("Documents/Orvane Axis Tests; each run in a dated folder inside"));
     auto* browse = new QPushButton(tr("Browse..."), this);
     folderRow->addWidget(m_folder);
     folderRow->addWidget(browse);

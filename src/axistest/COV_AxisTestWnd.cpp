@@ -64,7 +64,7 @@ COV_AxisTestWnd::COV_AxisTestWnd(const ToolContext& context, QWidget* parent)
     m_figures->horizontalHeader()->setStretchLastSection(true);
     m_figures->verticalHeader()->hide();
     m_figures->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_figures->setMaximumHeight(160);
+    m_figures->setMaximumHeight(130);
     right->addWidget(m_figures);
     m_plot = new PlotWidget(this);
     m_secondPlot = new PlotWidget(this);
@@ -139,13 +139,14 @@ bool COV_AxisTestWnd::startTest()
     }
 
     m_started = QDateTime::currentDateTime();
-    m_folder = m_form->outputFolder();
-    if (m_folder.isEmpty()) {
-        m_folder = QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
-                       .filePath(QStringLiteral("Orvane Axis Tests/%1-%2")
-                                     .arg(AxisTestReport::kindKey(settings->kind),
-                                          m_started.toString(QStringLiteral("yyyyMMdd-HHmmss"))));
-    }
+    // Each run gets a dated folder of its own, so no earlier report is overwritten.
+    QString parent = m_form->outputFolder();
+    if (parent.isEmpty())
+        parent = QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
+                     .filePath(QStringLiteral("Orvane Axis Tests"));
+    m_folder = QDir(parent).filePath(
+        QStringLiteral("%1-%2").arg(AxisTestReport::kindKey(settings->kind),
+                                    m_started.toString(QStringLiteral("yyyyMMdd-HHmmss-zzz"))));
     if (!QDir().mkpath(m_folder)) {
         m_context.prompt.inform(tr("The folder %1 cannot be created.").arg(m_folder));
         return false;
@@ -279,6 +280,7 @@ void COV_AxisTestWnd::showFigures()
         m_figures->setItem(row, 1,
                            new QTableWidgetItem(QString::number(it.value().toDouble(), 'f', 3)));
     }
+    m_figures->resizeColumnToContents(0);
 }
 
 void COV_AxisTestWnd::redrawPlots()

@@ -35,6 +35,8 @@ public:
     void handleUserMessage(UserMessage message, int wParam) override;
     void endMotion() override;
     QTimer* pollTimer() override { return &m_timer; }
+    // Room for the fields beside a figure table and two plots.
+    QSize sizeHint() const override { return {960, 540}; }
 
     // Starts the test the form describes; false (with a message shown) when refused.
     bool startTest();

@@ -101,8 +101,10 @@ void TestAxisTestWnd::runIn_typedSettingsThenStopAll()
     QVERIFY(!rig.state.active.anyAxesMoving());
     QCOMPARE(rig.api.Done(BoardFamily::RL, 0, 0), nrx_u16(0));
     QVERIFY(rig.window->progressText()->text().startsWith("STOPPED"));
-    QVERIFY(QFile::exists(rig.out.filePath("report.html")));
-    QVERIFY(QFile::exists(rig.out.filePath("summary.json")));
+    const QString folder = rig.window->reportFolder();
+    QVERIFY(folder.startsWith(rig.out.path()));
+    QVERIFY(QFile::exists(folder + "/report.html"));
+    QVERIFY(QFile::exists(folder + "/summary.json"));
 }
 
 void TestAxisTestWnd::start_refusesTypedNonsense()
@@ -120,6 +122,7 @@ void TestAxisTestWnd::start_refusesTypedNonsense()
     rig.press("Start");
     QCOMPARE(rig.prompt.messages().last(),
              QString("The test cannot start: The servo of axis 0 is off."));
+    QVERIFY(QDir(rig.out.path()).isEmpty()); // a refused start leaves no folder
 }
 
 void TestAxisTestWnd::close_endsTheTest()
