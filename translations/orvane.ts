@@ -145,7 +145,23 @@
     </message>
 </context>
 <context>
-    <name>AxisTestReport</name>
+    <name>AxisTestPlots</name>
+    <message>
+        <source>Completed position of each search</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Deviation against target position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cycle time over the cycles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Largest following error of each cycle</source>
+        <translation type="unfinished"></translation>
+    </message>
     <message>
         <source>Completed position</source>
         <translation type="unfinished"></translation>
@@ -156,10 +172,6 @@
     </message>
     <message>
         <source>Position [pulse]</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Completed position of each search</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -195,10 +207,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Deviation against target position</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Cycle time</source>
         <translation type="unfinished"></translation>
     </message>
@@ -211,10 +219,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Cycle time over the cycles</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Largest following error</source>
         <translation type="unfinished"></translation>
     </message>
@@ -222,10 +226,9 @@
         <source>Following error [pulse]</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>Largest following error of each cycle</source>
-        <translation type="unfinished"></translation>
-    </message>
+</context>
+<context>
+    <name>AxisTestReport</name>
     <message>
         <source>Axis Test: %1</source>
         <translation type="unfinished"></translation>
@@ -621,54 +624,6 @@ Do you want to save parameter to file?</source>
     </message>
     <message>
         <source>Report in %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Completed position</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Search</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Position [pulse]</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Mean deviation from below</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Mean deviation from above</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Target [pulse]</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Deviation [pulse]</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Cycle time</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Cycle</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Time [ms]</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Largest following error</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Following error [pulse]</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -1,5 +1,6 @@
 #include "AxisTestReport.h"
 
+#include "AxisTestPlots.h"
 #include "BoardApi.h"
 #include "CardRegistry.h"
 #include "ParameterSet.h"
@@ -13,18 +14,6 @@
 #include <QSaveFile>
 
 namespace {
-const QColor kUp(0, 90, 200);
-const QColor kDown(200, 60, 0);
-
-QImage render(PlotWidget& plot)
-{
-    QImage image(800, 360, QImage::Format_RGB32);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    plot.paintPlot(painter, image.rect());
-    return image;
-}
-
 QString escaped(const QString& text)
 {
     return text.toHtmlEscaped();
@@ -186,59 +175,16 @@ QJsonObject AxisTestReport::summary() const
 std::vector<std::pair<QString, QImage>> AxisTestReport::plots() const
 {
     std::vector<std::pair<QString, QImage>> images;
+    const AxisTestKind kind = m_run.settings().kind;
     PlotWidget plot;
-    switch (m_run.settings().kind) {
-    case AxisTestKind::Home: {
-        QVector<QPointF> points;
-        for (const AxisTestRecord& r : m_run.homeRuns())
-            points.append({double(r.run), double(r.actual)});
-        plot.setSeries(0, points, kUp, tr("Completed position"));
-        plot.setAxisTitles(tr("Search"), tr("Position [pulse]"));
-        images.emplace_back(tr("Completed position of each search"), QImage());
-        break;
+    for (int index = 0; index < AxisTestPlots::count(kind); ++index) {
+        AxisTestPlots::draw(plot, m_run, index);
+        QImage image(800, 360, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        plot.paintPlot(painter, image.rect());
+        images.emplace_back(AxisTestPlots::caption(kind, index), image);
     }
-    case AxisTestKind::Positioning: {
-        QVector<QPointF> series[6];
-        const PositioningStatistics stats = m_run.positioning();
-        for (const auto& t : stats.atTargets()) {
-            series[0].append({t.position, t.meanUp});
-            series[1].append({t.position, t.meanUp + 2 * t.sUp});
-            series[2].append({t.position, t.meanUp - 2 * t.sUp});
-            series[3].append({t.position, t.meanDown});
-            series[4].append({t.position, t.meanDown + 2 * t.sDown});
-            series[5].append({t.position, t.meanDown - 2 * t.sDown});
-        }
-        const QColor upBand = kUp.lighter(160);
-        const QColor downBand = kDown.lighter(160);
-        plot.setSeries(0, series[0], kUp, tr("Mean deviation, approach from below"));
-        plot.setSeries(1, series[1], upBand, tr("+2s from below"));
-        plot.setSeries(2, series[2], upBand, tr("-2s from below"));
-        plot.setSeries(3, series[3], kDown, tr("Mean deviation, approach from above"));
-        plot.setSeries(4, series[4], downBand, tr("+2s from above"));
-        plot.setSeries(5, series[5], downBand, tr("-2s from above"));
-        plot.setAxisTitles(tr("Target [pulse]"), tr("Deviation [pulse]"));
-        images.emplace_back(tr("Deviation against target position"), QImage());
-        break;
-    }
-    case AxisTestKind::RunIn: {
-        const auto toVector = [](const BoundedSeries& s) {
-            return QVector<QPointF>(s.points().begin(), s.points().end());
-        };
-        plot.setSeries(0, toVector(m_run.cycleTimes()), kUp, tr("Cycle time"));
-        plot.setAxisTitles(tr("Cycle"), tr("Time [ms]"));
-        plot.fitX();
-        plot.fitY();
-        images.emplace_back(tr("Cycle time over the cycles"), render(plot));
-        plot.clearSeries();
-        plot.setSeries(0, toVector(m_run.followingErrors()), kDown, tr("Largest following error"));
-        plot.setAxisTitles(tr("Cycle"), tr("Following error [pulse]"));
-        images.emplace_back(tr("Largest following error of each cycle"), QImage());
-        break;
-    }
-    }
-    plot.fitX();
-    plot.fitY();
-    images.back().second = render(plot);
     return images;
 }
 

@@ -3,6 +3,7 @@
 #include "AppState.h"
 #include "AxisTestCsv.h"
 #include "AxisTestForm.h"
+#include "AxisTestPlots.h"
 #include "AxisTestReport.h"
 #include "AxisTestRun.h"
 #include "OrvaneLog.h"
@@ -22,16 +23,6 @@
 #include <QTableWidget>
 #include <QUrl>
 #include <QVBoxLayout>
-
-namespace {
-const QColor kFirst(0, 90, 200);
-const QColor kSecond(200, 60, 0);
-
-QVector<QPointF> pointsOf(const BoundedSeries& series)
-{
-    return QVector<QPointF>(series.points().begin(), series.points().end());
-}
-} // namespace
 
 COV_AxisTestWnd::COV_AxisTestWnd(const ToolContext& context, QWidget* parent)
     : ToolView(parent), m_context(context)
@@ -285,42 +276,9 @@ void COV_AxisTestWnd::showFigures()
 
 void COV_AxisTestWnd::redrawPlots()
 {
-    const AxisTestRun& run = *m_run;
-    switch (run.settings().kind) {
-    case AxisTestKind::Home: {
-        QVector<QPointF> points;
-        for (const AxisTestRecord& r : run.homeRuns())
-            points.append({double(r.run), double(r.actual)});
-        m_plot->setSeries(0, points, kFirst, tr("Completed position"));
-        m_plot->setAxisTitles(tr("Search"), tr("Position [pulse]"));
-        break;
-    }
-    case AxisTestKind::Positioning: {
-        QVector<QPointF> up, down;
-        const PositioningStatistics stats = run.positioning();
-        for (const auto& t : stats.atTargets()) {
-            if (t.countUp > 0)
-                up.append({t.position, t.meanUp});
-            if (t.countDown > 0)
-                down.append({t.position, t.meanDown});
-        }
-        m_plot->setSeries(0, up, kFirst, tr("Mean deviation from below"));
-        m_plot->setSeries(1, down, kSecond, tr("Mean deviation from above"));
-        m_plot->setAxisTitles(tr("Target [pulse]"), tr("Deviation [pulse]"));
-        break;
-    }
-    case AxisTestKind::RunIn:
-        m_plot->setSeries(0, pointsOf(run.cycleTimes()), kFirst, tr("Cycle time"));
-        m_plot->setAxisTitles(tr("Cycle"), tr("Time [ms]"));
-        m_secondPlot->setSeries(0, pointsOf(run.followingErrors()), kSecond,
-                                tr("Largest following error"));
-        m_secondPlot->setAxisTitles(tr("Cycle"), tr("Following error [pulse]"));
-        m_secondPlot->fitX();
-        m_secondPlot->fitY();
-        break;
-    }
-    m_plot->fitX();
-    m_plot->fitY();
+    AxisTestPlots::draw(*m_plot, *m_run, 0);
+    if (AxisTestPlots::count(m_run->settings().kind) > 1)
+        AxisTestPlots::draw(*m_secondPlot, *m_run, 1);
 }
 
 void COV_AxisTestWnd::record(const AxisTestRecord& record)
