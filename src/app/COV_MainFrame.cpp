@@ -13,6 +13,7 @@
 #include "OrvaneSettings.h"
 #include "PollInterval.h"
 #include "PromptService.h"
+#include "StopAllKey.h"
 #include "ToolView.h"
 #include "ToolWindowHost.h"
 #include "ToolWindowKinds.h"
@@ -250,6 +251,7 @@ void COV_MainFrame::createStopAllAction()
                              "at once and ends every running motion sequence"));
     connect(m_stopAll, &QAction::triggered, this, [this] { stopAllAxes(); });
     addAction(m_stopAll);
+    new StopAllKey(*m_stopAll, this);
 }
 
 void COV_MainFrame::createToolBar()

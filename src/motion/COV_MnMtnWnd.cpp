@@ -225,7 +225,7 @@ bool COV_MnMtnWnd::focusedChecked(bool tell)
     if (row != nullptr && row->checkState() == Qt::Checked)
         return true;
     if (tell)
-        m_context.prompt.inform(tr(kNotChecked));
+        m_context.prompt.report(tr(kNotChecked));
     return false;
 }
 
@@ -336,7 +336,7 @@ bool COV_MnMtnWnd::mayStartMotion()
     if (!focusedChecked(true))
         return false;
     if (m_checked.size() < 2) {
-        m_context.prompt.inform(tr(kTwoAxes));
+        m_context.prompt.report(tr(kTwoAxes));
         return false;
     }
     return true;
