@@ -57,7 +57,7 @@ COV_MnMtnWnd::~COV_MnMtnWnd()
     m_form.buttons->disconnectActions();
     m_gantry.setOn(false);
     m_listWatch.stop();
-    m_sequencer.endHeldJog();
+    m_sequencer.endForClose();
     m_context.state.active.setAxesMoving(MovingOwner::MultiAxis, false);
 }
 

@@ -47,7 +47,7 @@ COV_SnMtnWnd::COV_SnMtnWnd(const ToolContext& context, QWidget* parent, Sequence
 COV_SnMtnWnd::~COV_SnMtnWnd()
 {
     m_buttons->disconnectActions();
-    m_sequencer.endHeldJog();
+    m_sequencer.endForClose();
     m_context.state.active.axis = 0;
     m_context.state.active.setAxesMoving(MovingOwner::SingleAxis, false);
 }

@@ -261,9 +261,12 @@ void MotionSequencer::endHeldJog()
 
 void MotionSequencer::endForClose()
 {
-    if (m_jogHeld)
-        qCInfo(lcMotion).noquote() << "Jog stopped on" << axesText(m_target) << ": window closed";
-    endHeldJog();
+    if (!m_moving && !m_jogHeld)
+        return;
+    // Nothing of the window is left to stop the axes later: a slowing stop now, as S-Stop.
+    qCInfo(lcMotion).noquote() << "Motion stopped on" << axesText(m_target) << ": window closed";
+    stopRunning(false);
+    endSequence();
 }
 
 void MotionSequencer::onCycleClock()

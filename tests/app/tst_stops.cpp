@@ -7,15 +7,21 @@
 #include "MessageBoxPrompt.h"
 #include "SimBoardsRig.h"
 #include "ToolWindowHost.h"
+#include "ToolWindowKinds.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QListWidget>
+#include <QMdiSubWindow>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStandardPaths>
 #include <QStatusBar>
+#include <QTabBar>
 #include <QTest>
 #include <QTimer>
 #include <QToolBar>
@@ -44,12 +50,7 @@ private:
             if (!sim.start(false, boards))
                 return false;
             state.moduleDirectory = sim.folder.path() + QLatin1Char('/');
-            factory.registerKind(ToolSingleAxis, [](const ToolContext& c, QWidget* p) {
-                return static_cast<ToolView*>(new COV_SnMtnWnd(c, p));
-            });
-            factory.registerKind(ToolMultiAxis, [](const ToolContext& c, QWidget* p) {
-                return static_cast<ToolView*>(new COV_MnMtnWnd(c, p));
-            });
+            registerToolWindows(factory);
             frame = std::make_unique<COV_MainFrame>(state, board, prompt, factory);
             prompt.setParent(frame.get());
             if (!frame->create(sim.loader.problems()))
@@ -73,6 +74,70 @@ private:
             sim.advance(BoardFamily::RL, 1);
             return board.Done(BoardFamily::RL, CardNo(card), AxisNo(axis)) != 0;
         }
+        // The kind's window, opened as its menu entry does, and its controls by name.
+        ToolView* open(ToolKind kind)
+        {
+            frame->openTool(kind);
+            return frame->toolWindows().view(kind);
+        }
+        template <typename T> T* find(ToolKind kind, const char* name) const
+        {
+            T* widget = frame->toolWindows().view(kind)->findChild<T*>(QLatin1String(name));
+            Q_ASSERT(widget);
+            return widget;
+        }
+        void choose(ToolKind kind, const char* combo, int index)
+        {
+            auto* list = find<QComboBox>(kind, combo);
+            list->setCurrentIndex(index);
+            emit list->activated(index);
+        }
+        // A relative repeat of axes 0 and 1 of card 0 that runs for minutes.
+        void startMultiRepeat()
+        {
+            open(ToolMultiAxis);
+            auto* list = find<QListWidget>(ToolMultiAxis, "axisList");
+            list->item(0)->setCheckState(Qt::Checked);
+            list->item(1)->setCheckState(Qt::Checked);
+            choose(ToolMultiAxis, "motionType", int(MotionType::Relative));
+            auto* repeat = find<QCheckBox>(ToolMultiAxis, "repeat");
+            if (!repeat->isChecked())
+                repeat->click();
+            find<QLineEdit>(ToolMultiAxis, "count")->setText(QStringLiteral("5"));
+            find<QLineEdit>(ToolMultiAxis, "position2")->setText(QStringLiteral("10000000"));
+            find<QPushButton>(ToolMultiAxis, "applyButton")->click();
+            QTest::mouseClick(find<QPushButton>(ToolMultiAxis, "plusButton"), Qt::LeftButton);
+        }
+        // A relative step of axis 2 of card 0 that runs for minutes.
+        void startSingleStep()
+        {
+            open(ToolSingleAxis);
+            find<QTabBar>(ToolSingleAxis, "tabBar")->setCurrentIndex(int(MotionTab::PointToPoint));
+            choose(ToolSingleAxis, "axisCombo", 2);
+            choose(ToolSingleAxis, "motionType", int(MotionType::Relative));
+            find<QLineEdit>(ToolSingleAxis, "position2")->setText(QStringLiteral("10000000"));
+            QTest::mouseClick(find<QPushButton>(ToolSingleAxis, "plusButton"), Qt::LeftButton);
+        }
+        // Whether the axes still move after the boards ran on for `ms`.
+        bool movingAfter(int ms, int card, const std::vector<int>& axes)
+        {
+            sim.advance(BoardFamily::RL, ms);
+            for (int axis : axes) {
+                if (board.Done(BoardFamily::RL, CardNo(card), AxisNo(axis)) != 0)
+                    return true;
+            }
+            return false;
+        }
+        void triggerMenu(const QString& entry) const
+        {
+            for (QAction* action : frame->findChildren<QAction*>()) {
+                if (action->text().remove(QLatin1Char('&')) == entry) {
+                    action->trigger();
+                    return;
+                }
+            }
+            QFAIL(qPrintable(entry));
+        }
         QWidget* stopSign() const
         {
             return frame->findChild<QToolBar*>(QStringLiteral("Main"))
@@ -80,24 +145,25 @@ private:
         }
     };
 
-    // Once `modal` runs, presses F12 on the focused widget of the modal window, notes whether
-    // the axes still move, and closes it with Escape.
+    // Once `modal` runs, presses F12 on the focused widget of the first modal window, notes
+    // whether the axes still move, and closes it and any modal window after it with Escape.
     static void pressF12Inside(Rig& rig, const std::function<void()>& modal, bool& stillMoving,
                                bool& hadFocus)
     {
-        auto* poll = new QTimer(rig.frame.get());
-        QObject::connect(poll, &QTimer::timeout, poll, [&rig, &stillMoving, &hadFocus, poll] {
+        QTimer poll;
+        QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
             QWidget* shown = QApplication::activeModalWidget();
             QWidget* focus = QApplication::focusWidget();
             if (shown == nullptr || focus == nullptr || focus->window() != shown)
                 return;
-            poll->deleteLater();
-            hadFocus = true;
-            QTest::keyClick(focus, Qt::Key_F12);
-            stillMoving = rig.moving(0, 1) || rig.moving(1, 2);
+            if (!hadFocus) {
+                hadFocus = true;
+                QTest::keyClick(focus, Qt::Key_F12);
+                stillMoving = rig.moving(0, 1) || rig.moving(1, 2);
+            }
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
         });
-        poll->start(10);
+        poll.start(10);
         modal();
     }
 
@@ -108,31 +174,78 @@ private slots:
     {
         Rig rig;
         QVERIFY(rig.create());
-        const std::vector<std::pair<const char*, std::function<void()>>> modals{
+        const std::vector<std::pair<QString, std::function<void()>>> modals{
             {"message box", [&] { rig.prompt.inform(QStringLiteral("Input Incorrect !")); }},
             {"question", [&] { rig.prompt.askYesNo(QStringLiteral("Parameters are changed")); }},
-            {"dialog",
-             [&] {
-                 COV_AboutDlg about(rig.frame.get());
-                 about.exec();
-             }},
+            {"About Orvane...", {}},
+            {"Environment Setup", {}},
+            {"Log Level", {}},
+            {"Save Parameter", {}},
+            {"System Reset", {}},
+            {"Export Parameters...", {}},
+            {"Import Parameters...", {}},
+            {"Compare Parameters...", {}},
+            {"Actual Speed Calculator", {}},
             {"file dialog",
              [&] {
-                 QFileDialog::getOpenFileName(rig.frame.get(), QString(), rig.sim.folder.path(),
-                                              QString(), nullptr, QFileDialog::DontUseNativeDialog);
+                 QFileDialog::getOpenFileName(rig.frame.get(), QString(), rig.sim.folder.path());
              }},
         };
         for (const auto& [name, modal] : modals) {
-            rig.jog(0, 1);
+            rig.startMultiRepeat();
             rig.jog(1, 2);
+            auto& repeat = static_cast<COV_MnMtnWnd*>(rig.frame->toolWindows().view(ToolMultiAxis))
+                               ->sequencer();
+            QVERIFY(repeat.isMoving());
             QVERIFY(rig.moving(0, 1));
             bool stillMoving = true;
             bool hadFocus = false;
-            pressF12Inside(rig, modal, stillMoving, hadFocus);
-            QVERIFY2(hadFocus, name);
-            QVERIFY2(!stillMoving, name);
+            pressF12Inside(
+                rig, modal ? modal : [&, entry = name] { rig.triggerMenu(entry); }, stillMoving,
+                hadFocus);
+            QVERIFY2(hadFocus, qPrintable(name));
+            QVERIFY2(!stillMoving, qPrintable(name));
+            QVERIFY2(!repeat.isMoving(), qPrintable(name));
             QVERIFY(QApplication::activeModalWidget() == nullptr);
         }
+    }
+
+    // Closing a motion window during a long move, whatever closes it, stops its axes.
+    void closing_stopsTheWindowsAxes_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QString>("how");
+        for (int kind : {int(ToolMultiAxis), int(ToolSingleAxis)}) {
+            for (const char* how : {"Close", "title bar", "Close All", "frame goes"})
+                QTest::addRow("%s, %s", kind == ToolMultiAxis ? "multi" : "single", how)
+                    << kind << QString::fromLatin1(how);
+        }
+    }
+    void closing_stopsTheWindowsAxes()
+    {
+        QFETCH(int, kind);
+        QFETCH(QString, how);
+        Rig rig;
+        QVERIFY(rig.create());
+        const bool multi = kind == ToolMultiAxis;
+        if (multi)
+            rig.startMultiRepeat();
+        else
+            rig.startSingleStep();
+        const std::vector<int> axes = multi ? std::vector<int>{0, 1} : std::vector<int>{2};
+        QVERIFY(rig.movingAfter(200, 0, axes));
+        const auto tool = static_cast<ToolKind>(kind);
+        if (how == "Close")
+            rig.find<QPushButton>(tool, "closeButton")->click();
+        else if (how == "title bar")
+            rig.frame->toolWindows().window(tool)->close();
+        else if (how == "Close All")
+            rig.triggerMenu(QStringLiteral("Close All"));
+        else
+            rig.frame->toolWindows().destroyAll();
+        QVERIFY(rig.frame->toolWindows().view(tool) == nullptr);
+        QVERIFY(!rig.state.active.anyAxesMoving());
+        QVERIFY(!rig.movingAfter(3000, 0, axes));
     }
 
     void motionReport_leavesTheStopSignUsable()
