@@ -437,25 +437,29 @@ void COV_MainFrame::relayToToolViews(UserMessage message, int wParam)
         view->handleUserMessage(message, wParam);
 }
 
-bool COV_MainFrame::refuseWhileMoving()
+bool COV_MainFrame::mayChangeController()
 {
-    if (!m_state.active.anyAxesMoving())
-        return false;
+    bool moving = m_state.active.anyAxesMoving();
+    for (ToolView* view : m_tools->openViews())
+        moving = moving || view->movesAxes();
+    if (!moving)
+        return true;
     qCInfo(lcUi).noquote() << "Change of the active controller refused:" << kMovingRefusal;
-    m_prompt.inform(tr(kMovingRefusal));
+    // A report, not a modal box: the stop sign must stay within reach of the moving axes.
+    m_prompt.report(tr(kMovingRefusal));
     fillCombos();
-    return true;
+    return false;
 }
 
+// The tree makes every change of the active controller, and asks the gate first.
 void COV_MainFrame::setActiveControllerFromTree()
 {
-    if (!refuseWhileMoving())
-        m_tree->handleUserMessage(UM_CONTROLLER_CHANGED);
+    m_tree->handleUserMessage(UM_CONTROLLER_CHANGED);
 }
 
 void COV_MainFrame::chooseFamily(int comboIndex)
 {
-    if (refuseWhileMoving())
+    if (!mayChangeController())
         return;
     const QString text = m_familyCombo->itemText(comboIndex);
     for (BoardFamily family : kAllFamilies) {
@@ -470,8 +474,7 @@ void COV_MainFrame::chooseFamily(int comboIndex)
 
 void COV_MainFrame::chooseCard(int comboIndex)
 {
-    if (!refuseWhileMoving())
-        m_tree->handleUserMessage(UM_SELECT_CARD, comboIndex);
+    m_tree->handleUserMessage(UM_SELECT_CARD, comboIndex);
 }
 
 void COV_MainFrame::fillCardCombo(BoardFamily family, int selection)

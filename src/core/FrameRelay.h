@@ -8,4 +8,7 @@ class FrameRelay
 public:
     virtual ~FrameRelay() = default;
     virtual void sendToFrame(UserMessage message, int wParam = 0) = 0;
+    // The one gate of every change of the active family or card (and of a motion window's own
+    // card): false, with the user told why, while any motion window moves axes.
+    virtual bool mayChangeController() { return true; }
 };

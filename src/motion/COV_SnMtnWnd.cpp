@@ -161,6 +161,10 @@ void COV_SnMtnWnd::onTabChanged(int index)
 
 void COV_SnMtnWnd::onCardActivated(int index)
 {
+    if (!m_context.frame.mayChangeController()) {
+        m_cardRow->combo()->setCurrentIndex(m_card);
+        return;
+    }
     promptForVisiblePage(m_context.state.active.family);
     m_card = static_cast<CardNo>(index);
     reload();

@@ -1,9 +1,11 @@
 #include "AppState.h"
 #include "BoardApi.h"
+#include "BoardCallTrace.h"
 #include "COV_AboutDlg.h"
 #include "COV_MainFrame.h"
 #include "COV_MnMtnWnd.h"
 #include "COV_SnMtnWnd.h"
+#include "COV_WsSysWnd.h"
 #include "MessageBoxPrompt.h"
 #include "SimBoardsRig.h"
 #include "ToolWindowHost.h"
@@ -92,8 +94,8 @@ private:
             list->setCurrentIndex(index);
             emit list->activated(index);
         }
-        // A relative repeat of axes 0 and 1 of card 0 that runs for minutes.
-        void startMultiRepeat()
+        // A relative repeat of axes 0 and 1 of card 0, by default one that runs for minutes.
+        void startMultiRepeat(int distance = 10000000)
         {
             open(ToolMultiAxis);
             auto* list = find<QListWidget>(ToolMultiAxis, "axisList");
@@ -104,7 +106,7 @@ private:
             if (!repeat->isChecked())
                 repeat->click();
             find<QLineEdit>(ToolMultiAxis, "count")->setText(QStringLiteral("5"));
-            find<QLineEdit>(ToolMultiAxis, "position2")->setText(QStringLiteral("10000000"));
+            find<QLineEdit>(ToolMultiAxis, "position2")->setText(QString::number(distance));
             find<QPushButton>(ToolMultiAxis, "applyButton")->click();
             QTest::mouseClick(find<QPushButton>(ToolMultiAxis, "plusButton"), Qt::LeftButton);
         }
@@ -117,6 +119,15 @@ private:
             choose(ToolSingleAxis, "motionType", int(MotionType::Relative));
             find<QLineEdit>(ToolSingleAxis, "position2")->setText(QStringLiteral("10000000"));
             QTest::mouseClick(find<QPushButton>(ToolSingleAxis, "plusButton"), Qt::LeftButton);
+        }
+        // A jog of axis 2 of card 0, held down on the single-axis window's "+".
+        void holdSingleJog()
+        {
+            open(ToolSingleAxis);
+            find<QTabBar>(ToolSingleAxis, "tabBar")->setCurrentIndex(int(MotionTab::PointToPoint));
+            choose(ToolSingleAxis, "axisCombo", 2);
+            choose(ToolSingleAxis, "motionType", int(MotionType::Jog));
+            QTest::mousePress(find<QPushButton>(ToolSingleAxis, "plusButton"), Qt::LeftButton);
         }
         // Whether the axes still move after the boards ran on for `ms`.
         bool movingAfter(int ms, int card, const std::vector<int>& axes)
@@ -246,6 +257,85 @@ private slots:
         QVERIFY(rig.frame->toolWindows().view(tool) == nullptr);
         QVERIFY(!rig.state.active.anyAxesMoving());
         QVERIFY(!rig.movingAfter(3000, 0, axes));
+    }
+
+    // Every way to another active controller, tried while a multi-axis repeat runs and while a
+    // single-axis jog is held: each is refused, the running window keeps its axes and its
+    // lock, the repeat's steps keep to the card they started on, and S-Stop still stops them.
+    void controllerChange_refusedFromEveryPathWhileMoving_data()
+    {
+        QTest::addColumn<bool>("repeat");
+        QTest::newRow("multi-axis repeat") << true;
+        QTest::newRow("held single-axis jog") << false;
+    }
+    void controllerChange_refusedFromEveryPathWhileMoving()
+    {
+        QFETCH(bool, repeat);
+        BoardCallTrace trace; // outlives the rig, whose windows still call the boards as they go
+        Rig rig;
+        QVERIFY(rig.create("[RL]\nCards=2\n[RM]\nCards=1\n"));
+        rig.board.setTrace(&trace);
+        const ToolKind running = repeat ? ToolMultiAxis : ToolSingleAxis;
+        if (repeat)
+            rig.startMultiRepeat(3000);
+        else
+            rig.holdSingleJog();
+        // The single-axis window's card list is one of the paths.
+        rig.open(ToolSingleAxis);
+        QVERIFY(rig.movingAfter(20, 0, repeat ? std::vector<int>{0, 1} : std::vector<int>{2}));
+        const std::uint64_t mark = trace.end();
+
+        const std::vector<std::pair<const char*, std::function<void()>>> paths{
+            {"toolbar family", [&] { emit rig.frame->familyCombo()->activated(1); }},
+            {"toolbar card", [&] { emit rig.frame->cardCombo()->activated(1); }},
+            {"tree",
+             [&] {
+                 COV_WsSysWnd* tree = rig.frame->tree();
+                 tree->setCurrentItem(tree->cardItem(BoardFamily::RL, 1));
+                 rig.frame->setActiveControllerFromTree();
+             }},
+            {"single-axis card list", [&] { rig.choose(ToolSingleAxis, "cardCombo", 1); }},
+            {"relay", [&] { rig.frame->sendToFrame(UM_CARD_CHANGED, 1); }},
+        };
+        for (const auto& [name, path] : paths) {
+            path();
+            QVERIFY2(rig.state.active.family == BoardFamily::RL && rig.state.active.card == 0,
+                     name);
+            QVERIFY2(rig.find<QComboBox>(ToolSingleAxis, "cardCombo")->currentIndex() == 0, name);
+            QVERIFY2(rig.frame->cardCombo()->currentIndex() == 0, name);
+        }
+        QCOMPARE(rig.frame->findChildren<QMessageBox*>(QStringLiteral("MotionReport")).size(),
+                 qsizetype(paths.size()));
+        if (repeat) {
+            auto* list = rig.find<QListWidget>(ToolMultiAxis, "axisList");
+            QVERIFY(list->item(0)->checkState() == Qt::Checked);
+            QVERIFY(list->item(1)->checkState() == Qt::Checked);
+            QVERIFY(!list->isEnabled());
+            QVERIFY(!rig.find<QComboBox>(ToolMultiAxis, "cardCombo")->isEnabled());
+            // Further steps of the repeat: speeds and moves still go to card 0 only.
+            int moves = 0;
+            for (int ms = 0; ms < 5000 && moves < 2; ms += 10) {
+                rig.sim.advance(BoardFamily::RL, 10);
+                QTest::qWait(11);
+                moves = 0;
+                for (std::uint64_t n = mark; n < trace.end(); ++n)
+                    moves += trace.at(n).op == BoardOp::Multi_Inc_Move ? 1 : 0;
+            }
+            QCOMPARE(moves, 2);
+            int speeds = 0;
+            for (std::uint64_t n = mark; n < trace.end(); ++n) {
+                const BoardCall& call = trace.at(n);
+                QVERIFY(call.card() <= 0);
+                speeds += call.op == BoardOp::SetPosSpeed ? 1 : 0;
+            }
+            QVERIFY(speeds >= 4);
+            QVERIFY(rig.state.registry.parametersChanged(BoardFamily::RL, 0));
+            QVERIFY(!rig.state.registry.parametersChanged(BoardFamily::RL, 1));
+        }
+        QTest::mouseClick(rig.find<QPushButton>(running, "sStopButton"), Qt::LeftButton);
+        QVERIFY(!rig.movingAfter(3000, 0, repeat ? std::vector<int>{0, 1} : std::vector<int>{2}));
+        for (QMessageBox* report : rig.frame->findChildren<QMessageBox*>())
+            report->close();
     }
 
     void motionReport_leavesTheStopSignUsable()
