@@ -862,7 +862,15 @@ Can not change active controller !</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>All axes stopped</source>
+        <source>%1(%2) axis %3 (%4)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All axes stopped (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop All: %1 axes stopped; the board refused to stop %2</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

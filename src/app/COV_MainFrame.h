@@ -19,6 +19,7 @@ class PromptService;
 class QAction;
 class QComboBox;
 class QDockWidget;
+class QLabel;
 class QMdiArea;
 class QMenu;
 class ToolWindowHost;
@@ -75,6 +76,7 @@ public:
     ToolWindowHost& toolWindows() const { return *m_tools; }
     QTimer& monitorTimer() { return m_monitorTimer; }
     QAction* stopAllAction() const { return m_stopAll; }
+    QLabel* stopReport() const { return m_stopReport; }
     const ToolContext& context() const { return m_context; }
 
 protected:
@@ -100,6 +102,8 @@ private:
     void restoreLayout();
     void saveLayout() const;
 
+    // Whether any motion window has axes moving or a sequence running.
+    bool anyMotion() const;
     void fillCombos();
     void fillCardCombo(BoardFamily family, int selection);
     void updatePaneTitles();
@@ -125,6 +129,7 @@ private:
     QComboBox* m_familyCombo = nullptr;
     QComboBox* m_cardCombo = nullptr;
     QAction* m_stopAll = nullptr;
+    QLabel* m_stopReport = nullptr; // what the last Stop All did
     // the panes' own board handles, so that the trace tells their calls apart
     std::unique_ptr<BoardApi> m_statusBoard;
     std::unique_ptr<BoardApi> m_motionBoard;

@@ -16,6 +16,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMdiSubWindow>
@@ -336,6 +337,34 @@ private slots:
         QVERIFY(!rig.movingAfter(3000, 0, repeat ? std::vector<int>{0, 1} : std::vector<int>{2}));
         for (QMessageBox* report : rig.frame->findChildren<QMessageBox*>())
             report->close();
+    }
+
+    // The report counts what stopped and names each axis the board would not stop; it stays
+    // through the notes of refused calls until the next motion.
+    void stopAll_reportNamesTheAxesTheBoardRefused()
+    {
+        Rig rig;
+        QVERIFY(rig.create("[RL]\nCards=1\nFail.Sudden_Stop=-1\n[RM]\nCards=1\n"));
+        const int refused = rig.state.registry.axisCount(BoardFamily::RL, 0);
+        const int stopped = rig.state.registry.axisCount(BoardFamily::RM, 0);
+        rig.jog(0, 1);
+        QTest::keyClick(rig.frame.get(), Qt::Key_F12);
+        const QString model =
+            QString::fromStdString(rig.state.registry.modelName(BoardFamily::RL, 0));
+        QStringList names;
+        for (int axis = 0; axis < refused; ++axis)
+            names << QStringLiteral("%1(0) axis %2 (-1)").arg(model).arg(axis);
+        const QString expected =
+            QStringLiteral("Stop All: %1 axes stopped; the board refused to stop %2")
+                .arg(stopped)
+                .arg(names.join(QStringLiteral(", ")));
+        QCOMPARE(rig.frame->stopReport()->text(), expected);
+        QVERIFY(rig.moving(0, 1));
+        rig.frame->MonitorTick();
+        QCOMPARE(rig.frame->stopReport()->text(), expected);
+        rig.startSingleStep();
+        rig.frame->MonitorTick();
+        QVERIFY(rig.frame->stopReport()->text().isEmpty());
     }
 
     void motionReport_leavesTheStopSignUsable()
