@@ -16,6 +16,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFileDialog>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -365,6 +366,37 @@ private slots:
         rig.startSingleStep();
         rig.frame->MonitorTick();
         QVERIFY(rig.frame->stopReport()->text().isEmpty());
+    }
+
+    // Space held on the focused "+" jogs until it is let go; the release and press pairs a
+    // held key repeats in between change nothing.
+    void keyboardJog_spaceHeldJogsUntilReleased()
+    {
+        Rig rig;
+        QVERIFY(rig.create());
+        rig.open(ToolSingleAxis);
+        rig.find<QTabBar>(ToolSingleAxis, "tabBar")->setCurrentIndex(int(MotionTab::PointToPoint));
+        rig.choose(ToolSingleAxis, "motionType", int(MotionType::Jog));
+        rig.find<QPushButton>(ToolSingleAxis, "plusButton")->setFocus(Qt::TabFocusReason);
+        QWidget* focused = QApplication::focusWidget();
+        QCOMPARE(focused->objectName(), QStringLiteral("plusButton"));
+        auto& jog =
+            static_cast<COV_SnMtnWnd*>(rig.frame->toolWindows().view(ToolSingleAxis))->sequencer();
+        QTest::keyPress(focused, Qt::Key_Space);
+        QVERIFY(jog.isJogHeld());
+        for (int repeat = 0; repeat < 5; ++repeat) {
+            QVERIFY(rig.movingAfter(30, 0, {0}));
+            for (QEvent::Type type : {QEvent::KeyRelease, QEvent::KeyPress}) {
+                QKeyEvent key(type, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "), true);
+                QApplication::sendEvent(focused, &key);
+            }
+            QVERIFY(jog.isJogHeld());
+        }
+        const std::int32_t held = rig.board.GetCommandPos(BoardFamily::RL, 0, 0);
+        QVERIFY(held > 0);
+        QTest::keyRelease(focused, Qt::Key_Space);
+        QVERIFY(!jog.isJogHeld());
+        QVERIFY(!rig.movingAfter(2000, 0, {0}));
     }
 
     void motionReport_leavesTheStopSignUsable()
