@@ -1915,6 +1915,13 @@ High Active : Normal Close</source>
     </message>
 </context>
 <context>
+    <name>MotionButtonActions</name>
+    <message>
+        <source>Servo is off: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>MotionButtonColumn</name>
     <message>
         <source>-Jog</source>

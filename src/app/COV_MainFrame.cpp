@@ -446,6 +446,11 @@ void COV_MainFrame::relayToToolViews(UserMessage message, int wParam)
         view->handleUserMessage(message, wParam);
 }
 
+void COV_MainFrame::showNote(const QString& text)
+{
+    statusBar()->showMessage(text);
+}
+
 bool COV_MainFrame::anyMotion() const
 {
     bool moving = m_state.active.anyAxesMoving();

@@ -49,6 +49,7 @@ public:
     // The relay: every notification a window sends the frame, and who hears it.
     void sendToFrame(UserMessage message, int wParam = 0) override;
     bool mayChangeController() override;
+    void showNote(const QString& text) override;
     // The 10 ms refresh of the motion-status pane and the status view, and the note of a board
     // call that was refused.
     void MonitorTick();

@@ -33,7 +33,7 @@ COV_MnMtnWnd::COV_MnMtnWnd(const ToolContext& context, QWidget* parent, Sequence
     : MotionToolView(context, parent, given), m_form(this),
       m_sequencer(context.state.active, context.board, context.prompt, clockwork(), *this,
                   MovingOwner::MultiAxis),
-      m_actions(context.board, m_sequencer, *this),
+      m_actions(context, m_sequencer, *this),
       m_gantry(m_sequencer, context.board, [this] { m_sequencer.abortWith(tr(kGantryError)); })
 {
     connectControls();

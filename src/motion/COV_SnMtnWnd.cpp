@@ -22,7 +22,7 @@
 COV_SnMtnWnd::COV_SnMtnWnd(const ToolContext& context, QWidget* parent, SequencerClockwork* given)
     : MotionToolView(context, parent, given),
       m_sequencer(context.state.active, context.board, context.prompt, clockwork(), *this),
-      m_actions(context.board, m_sequencer, *this)
+      m_actions(context, m_sequencer, *this)
 {
     auto* layout = new QHBoxLayout(this);
     auto* left = new QVBoxLayout;

@@ -399,6 +399,31 @@ private slots:
         QVERIFY(!rig.movingAfter(2000, 0, {0}));
     }
 
+    // Moving an axis whose servo is off is not refused, but the status bar says so.
+    void servoOff_movingSaysSoInTheStatusBar()
+    {
+        Rig rig;
+        QVERIFY(rig.create());
+        rig.holdSingleJog();
+        const QString model =
+            QString::fromStdString(rig.state.registry.modelName(BoardFamily::RL, 0));
+        QCOMPARE(rig.frame->statusBar()->currentMessage(),
+                 QStringLiteral("Servo is off: %1(0) axis 2").arg(model));
+        QVERIFY(rig.movingAfter(20, 0, {2}));
+        auto* plus = rig.find<QPushButton>(ToolSingleAxis, "plusButton");
+        QTest::mouseRelease(plus, Qt::LeftButton);
+        QVERIFY(!rig.movingAfter(2000, 0, {2}));
+        auto& jog =
+            static_cast<COV_SnMtnWnd*>(rig.frame->toolWindows().view(ToolSingleAxis))->sequencer();
+        QTRY_VERIFY(!jog.isMoving()); // the window's poll sees the axis at rest
+        rig.board.PutSvOn(BoardFamily::RL, 0, 2, 1);
+        rig.frame->statusBar()->clearMessage();
+        QTest::mousePress(plus, Qt::LeftButton);
+        QVERIFY(rig.movingAfter(20, 0, {2}));
+        QVERIFY(rig.frame->statusBar()->currentMessage().isEmpty());
+        QTest::mouseRelease(plus, Qt::LeftButton);
+    }
+
     void motionReport_leavesTheStopSignUsable()
     {
         Rig rig;
