@@ -333,9 +333,9 @@ private slots:
             QVERIFY2(run(bad) == 2 && !err.isEmpty(), qPrintable(bad.join(' ')));
     }
 
-    // A write or a save the board refuses is named with its card and result, and the command
-    // exits non-zero.
-    void commandLine_refusedWriteAndSaveExitNonZero()
+    // A write or a save the board refuses is named with its card and result; the command exits
+    // non-zero.
+    void import_refusedWriteAndSaveAreNamedAndExitNonZero()
     {
         SimBoardsRig rig;
         QVERIFY(rig.start(true, "[RL]\nCards=1\nFail.SaveFile=-1\nFail.SetHomeDir=-1\n"));
@@ -364,6 +364,17 @@ private slots:
         QVERIFY2(err.contains(QLatin1String("Not saved: SaveFile of NRX-RLxxxV(0) returned -1")),
                  qPrintable(err));
         QVERIFY(!err.contains(QLatin1String("Saved the parameter file")));
+
+        // The same refusal in Import's "Write to Boards".
+        ScriptedPrompt prompt;
+        prompt.setDefaultAnswer(true);
+        RecordingFrame frame;
+        COV_ImportPrmDlg dialog(ToolContext{rig.state, rig.api, prompt, frame});
+        dialog.load(file);
+        QVERIFY(dialog.writeToBoards());
+        QCOMPARE(prompt.messages().size(), 1);
+        QVERIFY(prompt.messages().front().contains(
+            QStringLiteral("%1(0) axis 0: SetHomeDir returned -1").arg(model)));
     }
 
     void dialogs_previewWriteAndCompare()
