@@ -414,6 +414,16 @@
 Do you want to save parameter to file?</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>%1(%2): SaveFile returned %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The parameter file was not saved:
+%1
+Orvane stays open; exit again to retry, or answer No to leave the values unsaved.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>COV_AboutDlg</name>
@@ -1129,6 +1139,11 @@ Can not import parameters !</source>
         <source>Write %1 changed parameter(s) to the boards?</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>The boards refused %1 write(s); these values were not written:
+%2</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>COV_LogLevDlg</name>
@@ -1281,7 +1296,15 @@ Can not change active controller !</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>All axes stopped</source>
+        <source>%1(%2) axis %3 (%4)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All axes stopped (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop All: %1 axes stopped; the board refused to stop %2</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1487,6 +1510,15 @@ Can not change active controller !</source>
     </message>
     <message>
         <source>Are you sure you want to save the parameter files of all the cards?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The parameter file was not saved:
+%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1(%2): SaveFile returned %3</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2302,6 +2334,13 @@ High Active : Normal Close</source>
     </message>
 </context>
 <context>
+    <name>MotionButtonActions</name>
+    <message>
+        <source>Servo is off: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>MotionButtonColumn</name>
     <message>
         <source>-Jog</source>
@@ -2771,6 +2810,14 @@ High Active : Normal Close</source>
     </message>
     <message>
         <source>%1 is a %2; the file describes it as a %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1(%2)%3: Set%4 returned %5</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> axis %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

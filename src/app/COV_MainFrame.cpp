@@ -13,6 +13,7 @@
 #include "OrvaneSettings.h"
 #include "PollInterval.h"
 #include "PromptService.h"
+#include "StopAllKey.h"
 #include "ToolView.h"
 #include "ToolWindowHost.h"
 #include "ToolWindowKinds.h"
@@ -25,6 +26,7 @@
 #include <QDockWidget>
 #include <QFile>
 #include <QFileInfo>
+#include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
@@ -124,6 +126,10 @@ bool COV_MainFrame::create(const QStringList& libraryProblems)
 void COV_MainFrame::createStatusBar()
 {
     statusBar()->showMessage(tr("Ready"));
+    m_stopReport = new QLabel(statusBar());
+    m_stopReport->setObjectName(QStringLiteral("StopAllReport"));
+    m_stopReport->hide();
+    statusBar()->addPermanentWidget(m_stopReport);
 }
 
 void COV_MainFrame::createMenus()
@@ -250,6 +256,7 @@ void COV_MainFrame::createStopAllAction()
                              "at once and ends every running motion sequence"));
     connect(m_stopAll, &QAction::triggered, this, [this] { stopAllAxes(); });
     addAction(m_stopAll);
+    new StopAllKey(*m_stopAll, this);
 }
 
 void COV_MainFrame::createToolBar()
@@ -376,6 +383,10 @@ void COV_MainFrame::MonitorTick()
     m_motionPane->refresh();
     m_statusView->refresh();
     noteRefusedBoardCall();
+    if (!m_stopReport->text().isEmpty() && anyMotion()) {
+        m_stopReport->clear();
+        m_stopReport->hide();
+    }
 }
 
 void COV_MainFrame::noteRefusedBoardCall()
@@ -435,25 +446,39 @@ void COV_MainFrame::relayToToolViews(UserMessage message, int wParam)
         view->handleUserMessage(message, wParam);
 }
 
-bool COV_MainFrame::refuseWhileMoving()
+void COV_MainFrame::showNote(const QString& text)
 {
-    if (!m_state.active.anyAxesMoving())
-        return false;
-    qCInfo(lcUi).noquote() << "Change of the active controller refused:" << kMovingRefusal;
-    m_prompt.inform(tr(kMovingRefusal));
-    fillCombos();
-    return true;
+    statusBar()->showMessage(text);
 }
 
+bool COV_MainFrame::anyMotion() const
+{
+    bool moving = m_state.active.anyAxesMoving();
+    for (ToolView* view : m_tools->openViews())
+        moving = moving || view->movesAxes();
+    return moving;
+}
+
+bool COV_MainFrame::mayChangeController()
+{
+    if (!anyMotion())
+        return true;
+    qCInfo(lcUi).noquote() << "Change of the active controller refused:" << kMovingRefusal;
+    // A report, not a modal box: the stop sign must stay within reach of the moving axes.
+    m_prompt.report(tr(kMovingRefusal));
+    fillCombos();
+    return false;
+}
+
+// The tree makes every change of the active controller, and asks the gate first.
 void COV_MainFrame::setActiveControllerFromTree()
 {
-    if (!refuseWhileMoving())
-        m_tree->handleUserMessage(UM_CONTROLLER_CHANGED);
+    m_tree->handleUserMessage(UM_CONTROLLER_CHANGED);
 }
 
 void COV_MainFrame::chooseFamily(int comboIndex)
 {
-    if (refuseWhileMoving())
+    if (!mayChangeController())
         return;
     const QString text = m_familyCombo->itemText(comboIndex);
     for (BoardFamily family : kAllFamilies) {
@@ -468,8 +493,7 @@ void COV_MainFrame::chooseFamily(int comboIndex)
 
 void COV_MainFrame::chooseCard(int comboIndex)
 {
-    if (!refuseWhileMoving())
-        m_tree->handleUserMessage(UM_SELECT_CARD, comboIndex);
+    m_tree->handleUserMessage(UM_SELECT_CARD, comboIndex);
 }
 
 void COV_MainFrame::fillCardCombo(BoardFamily family, int selection)
@@ -511,17 +535,45 @@ void COV_MainFrame::closeAllTools()
 void COV_MainFrame::stopAllAxes()
 {
     int stopped = 0;
+    QStringList refused;
     for (BoardFamily family : kAllFamilies) {
         for (int card = 0; card < m_state.registry.cardCount(family); ++card) {
-            for (int axis = 0; axis < m_state.registry.axisCount(family, card); ++axis, ++stopped)
-                m_board.Sudden_Stop(family, static_cast<CardNo>(card), static_cast<AxisNo>(axis));
+            for (int axis = 0; axis < m_state.registry.axisCount(family, card); ++axis) {
+                const nrx_i32 result = m_board.Sudden_Stop(family, static_cast<CardNo>(card),
+                                                           static_cast<AxisNo>(axis));
+                if (result >= 0) {
+                    ++stopped;
+                    continue;
+                }
+                refused << tr("%1(%2) axis %3 (%4)")
+                               .arg(
+                                   QString::fromStdString(m_state.registry.modelName(family, card)))
+                               .arg(card)
+                               .arg(axis)
+                               .arg(result);
+            }
         }
     }
-    qCInfo(lcMotion) << "Stop All Axes:" << stopped << "axes stopped";
     for (ToolView* view : m_tools->openViews())
         view->endMotion();
     m_state.active.axesMoving = {};
-    statusBar()->showMessage(tr("All axes stopped"));
+    // The words stay until the next Stop All or motion: an axis left running must not be
+    // hidden by a passing note.
+    if (refused.isEmpty()) {
+        qCInfo(lcMotion) << "Stop All Axes:" << stopped << "axes stopped";
+        m_stopReport->setText(tr("All axes stopped (%1)").arg(stopped));
+    } else {
+        qCWarning(lcMotion).noquote()
+            << "Stop All Axes:" << stopped << "axes stopped; the board refused to stop"
+            << refused.join(QStringLiteral(", "));
+        m_stopReport->setText(tr("Stop All: %1 axes stopped; the board refused to stop %2")
+                                  .arg(stopped)
+                                  .arg(refused.join(QStringLiteral(", "))));
+    }
+    m_stopReport->setStyleSheet(refused.isEmpty() ? QString()
+                                                  : QStringLiteral("color: #c00000; "
+                                                                   "font-weight: bold;"));
+    m_stopReport->show();
 }
 
 void COV_MainFrame::runCommand(FrameCommand command)

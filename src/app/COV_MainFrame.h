@@ -19,6 +19,7 @@ class PromptService;
 class QAction;
 class QComboBox;
 class QDockWidget;
+class QLabel;
 class QMdiArea;
 class QMenu;
 class ToolWindowHost;
@@ -47,6 +48,8 @@ public:
 
     // The relay: every notification a window sends the frame, and who hears it.
     void sendToFrame(UserMessage message, int wParam = 0) override;
+    bool mayChangeController() override;
+    void showNote(const QString& text) override;
     // The 10 ms refresh of the motion-status pane and the status view, and the note of a board
     // call that was refused.
     void MonitorTick();
@@ -74,6 +77,7 @@ public:
     ToolWindowHost& toolWindows() const { return *m_tools; }
     QTimer& monitorTimer() { return m_monitorTimer; }
     QAction* stopAllAction() const { return m_stopAll; }
+    QLabel* stopReport() const { return m_stopReport; }
     const ToolContext& context() const { return m_context; }
 
 protected:
@@ -99,7 +103,8 @@ private:
     void restoreLayout();
     void saveLayout() const;
 
-    bool refuseWhileMoving();
+    // Whether any motion window has axes moving or a sequence running.
+    bool anyMotion() const;
     void fillCombos();
     void fillCardCombo(BoardFamily family, int selection);
     void updatePaneTitles();
@@ -125,6 +130,7 @@ private:
     QComboBox* m_familyCombo = nullptr;
     QComboBox* m_cardCombo = nullptr;
     QAction* m_stopAll = nullptr;
+    QLabel* m_stopReport = nullptr; // what the last Stop All did
     // the panes' own board handles, so that the trace tells their calls apart
     std::unique_ptr<BoardApi> m_statusBoard;
     std::unique_ptr<BoardApi> m_motionBoard;

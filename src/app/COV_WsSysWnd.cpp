@@ -176,6 +176,8 @@ void COV_WsSysWnd::markActive(bool bold)
 
 void COV_WsSysWnd::selectByLabel()
 {
+    if (!m_frame.mayChangeController())
+        return;
     m_state.active.previousFamily = m_state.active.family;
     for (BoardFamily family : kAllFamilies) {
         for (int card = 0; card < kMaxCards; ++card) {
@@ -194,6 +196,8 @@ void COV_WsSysWnd::selectByLabel()
 
 void COV_WsSysWnd::selectByNumbers(BoardFamily family, int card)
 {
+    if (!m_frame.mayChangeController())
+        return;
     markActive(false);
     m_state.active.previousFamily = m_state.active.family;
     m_state.active.family = family;

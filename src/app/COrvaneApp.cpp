@@ -18,6 +18,8 @@
 COrvaneApp::COrvaneApp()
 {
     QApplication::setApplicationName(QStringLiteral("Orvane"));
+    // A desktop's own file dialog takes the keys past the program: F12 must reach Stop All.
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     m_log = std::make_unique<LogFile>(LogFile::defaultPath());
     m_log->install();
     // Every window, dialog and tool window takes the program's own icon.

@@ -85,6 +85,7 @@ std::string BoardStartup::libraryVersionText(BoardFamily family)
 
 bool BoardStartup::offerSave()
 {
+    QStringList refused;
     for (BoardFamily family : kAllFamilies) {
         for (int card = 0; card < kMaxCards; ++card) {
             if (!m_registry.parametersChanged(family, card))
@@ -96,13 +97,25 @@ bool BoardStartup::offerSave()
             const PromptAnswer answer = m_prompt.askYesNoCancel(text);
             if (answer == PromptAnswer::Cancel)
                 return false;
-            if (answer == PromptAnswer::Yes)
-                qCInfo(lcParams) << "Save Parameter at exit" << familyShortName(family) << "card"
-                                 << card << "returned"
-                                 << m_board.SaveFile(family, static_cast<CardNo>(card));
+            if (answer != PromptAnswer::Yes)
+                continue;
+            const nrx_i32 result = m_board.SaveFile(family, static_cast<CardNo>(card));
+            qCInfo(lcParams) << "Save Parameter at exit" << familyShortName(family) << "card"
+                             << card << "returned" << result;
+            if (result < 0)
+                refused << tr("%1(%2): SaveFile returned %3")
+                               .arg(QString::fromStdString(m_registry.modelName(family, card)))
+                               .arg(card)
+                               .arg(result);
         }
     }
-    return true;
+    if (refused.isEmpty())
+        return true;
+    // The values would be lost with the program: it stays open, and the next exit asks again.
+    m_prompt.inform(tr("The parameter file was not saved:\n%1\nOrvane stays open; exit again "
+                       "to retry, or answer No to leave the values unsaved.")
+                        .arg(refused.join(QLatin1Char('\n'))));
+    return false;
 }
 
 void BoardStartup::unloadDevices()

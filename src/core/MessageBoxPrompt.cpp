@@ -53,3 +53,12 @@ void MessageBoxPrompt::show(QMessageBox::Icon icon, const QString& text)
     box.setDetailedText(text);
     box.exec();
 }
+
+void MessageBoxPrompt::report(const QString& text)
+{
+    auto* box = new QMessageBox(QMessageBox::Warning, kCaption, text, QMessageBox::Ok, m_parent);
+    box->setObjectName(QStringLiteral("MotionReport"));
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setWindowModality(Qt::NonModal);
+    box->show();
+}

@@ -20,6 +20,8 @@ public:
     // Past this many lines a message shows its beginning; the whole text scrolls under
     // "Show Details...", so the box fits the screen however long the text.
     static constexpr int kShownLines = 15;
+    // A message box that blocks no window: it stays until its OK is pressed.
+    void report(const QString& text) override;
 
 private:
     void show(QMessageBox::Icon icon, const QString& text);

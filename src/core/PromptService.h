@@ -27,4 +27,8 @@ public:
     virtual void inform(const QString& text) = 0;
     // A message that only informs (something worked): the information icon, not a warning.
     virtual void notify(const QString& text) { inform(text); }
+    // The report of a stopped or refused motion: it must leave every other window, the
+    // toolbar's Stop All above all, usable while it is shown. Services that cannot show
+    // one without blocking inform.
+    virtual void report(const QString& text) { inform(text); }
 };

@@ -26,6 +26,8 @@ public:
         prepareToClose();
         emit closeRequested();
     }
+    // Whether the window has axes moving or a motion sequence running.
+    virtual bool movesAxes() { return false; }
     // The frame has stopped every axis: a window that runs motion sequences ends them.
     virtual void endMotion() {}
     // The program is about to exit: a window holding unwritten values asks about them (Yes

@@ -33,7 +33,7 @@ COV_MnMtnWnd::COV_MnMtnWnd(const ToolContext& context, QWidget* parent, Sequence
     : MotionToolView(context, parent, given), m_form(this),
       m_sequencer(context.state.active, context.board, context.prompt, clockwork(), *this,
                   MovingOwner::MultiAxis),
-      m_actions(context.board, m_sequencer, *this),
+      m_actions(context, m_sequencer, *this),
       m_gantry(m_sequencer, context.board, [this] { m_sequencer.abortWith(tr(kGantryError)); })
 {
     connectControls();
@@ -57,7 +57,7 @@ COV_MnMtnWnd::~COV_MnMtnWnd()
     m_form.buttons->disconnectActions();
     m_gantry.setOn(false);
     m_listWatch.stop();
-    m_sequencer.endHeldJog();
+    m_sequencer.endForClose();
     m_context.state.active.setAxesMoving(MovingOwner::MultiAxis, false);
 }
 
@@ -67,6 +67,11 @@ void COV_MnMtnWnd::connectControls()
 
     connect(&m_listWatch, &QTimer::timeout, this, [this] { onListWatch(); });
     connect(m_form.cardRow, &CardSelectorRow::cardActivated, this, [this](int index) {
+        // Another card reloads the list: never under a running motion's ticks.
+        if (!m_context.frame.mayChangeController()) {
+            m_form.cardRow->combo()->setCurrentIndex(m_card);
+            return;
+        }
         promptIfChanged(family());
         m_card = static_cast<CardNo>(index);
         reload();
@@ -84,7 +89,7 @@ void COV_MnMtnWnd::connectControls()
     });
     connect(m_form.repeat, &QCheckBox::clicked, this,
             [this] { onMotionTypeChanged(int(motionType())); });
-    connect(m_form.setPrm, &QPushButton::clicked, this, [this] { setParameters(); });
+    connect(m_form.setPrm, &QPushButton::clicked, this, [this] { setParameters(motionType()); });
     connect(m_form.apply, &QPushButton::clicked, this, [this] { applyPositions(); });
     connect(m_form.commandButton, &QPushButton::clicked, this, [this] {
         forEachChecked([this](AxisNo axis) {
@@ -167,31 +172,35 @@ PtpSpeeds COV_MnMtnWnd::profileFields() const
     return m_form.profile.speeds();
 }
 
-void COV_MnMtnWnd::writeProfiles(const std::vector<AxisNo>& axes, MotionType type)
+void COV_MnMtnWnd::writeProfiles(const MotionAxes& axes, MotionType type)
 {
-    for (AxisNo axis : axes) {
+    for (AxisNo axis : axes.axes) {
         if (type == MotionType::Jog)
-            m_slots.profile(axis).writeJog(m_context.board, family(), m_card, axis);
+            m_slots.profile(axis).writeJog(m_context.board, axes.family, axes.card, axis);
         else
-            m_slots.profile(axis).writePositioning(m_context.board, family(), m_card, axis);
+            m_slots.profile(axis).writePositioning(m_context.board, axes.family, axes.card, axis);
     }
 }
 
-void COV_MnMtnWnd::setParameters()
+void COV_MnMtnWnd::setParameters(MotionType type)
 {
-    const MotionType type = motionType();
+    setParametersOn(MotionAxes{family(), m_card, m_checked}, type);
+}
+
+void COV_MnMtnWnd::setParametersOn(const MotionAxes& checked, MotionType type)
+{
     const auto focused = static_cast<AxisNo>(m_focused);
     const bool all = m_form.setAll->isChecked();
-    m_slots.setProfile(focused, profileFields(), all, m_checked, type);
-    std::vector<AxisNo> written{focused};
+    m_slots.setProfile(focused, profileFields(), all, checked.axes, type);
+    MotionAxes written{checked.family, checked.card, {focused}};
     if (all) {
-        for (AxisNo axis : m_checked) {
+        for (AxisNo axis : checked.axes) {
             if (axis != focused)
-                written.push_back(axis);
+                written.axes.push_back(axis);
         }
     }
     writeProfiles(written, type);
-    m_context.frame.sendToFrame(UM_PARAM_CHANGED, m_card);
+    m_context.frame.sendToFrame(UM_PARAM_CHANGED, checked.card);
 }
 
 void COV_MnMtnWnd::applyPositions()
@@ -203,7 +212,7 @@ void COV_MnMtnWnd::applyPositions()
 bool COV_MnMtnWnd::profileChanged(BoardFamily boardFamily) const
 {
     const auto axis = static_cast<AxisNo>(m_focused);
-    const bool jog = motionType() == MotionType::Jog;
+    const bool jog = m_shownType == MotionType::Jog;
     const PtpSpeeds board =
         jog ? PtpSpeeds::readJog(m_context.board, boardFamily, m_card, axis)
             : PtpSpeeds::readPositioning(m_context.board, boardFamily, m_card, axis);
@@ -216,7 +225,7 @@ void COV_MnMtnWnd::promptIfChanged(BoardFamily boardFamily)
 {
     if (m_axisCount > 0 && profileChanged(boardFamily) &&
         m_context.prompt.askYesNo(PromptTexts::parametersChanged()))
-        setParameters();
+        setParameters(m_shownType);
 }
 
 bool COV_MnMtnWnd::focusedChecked(bool tell)
@@ -225,7 +234,7 @@ bool COV_MnMtnWnd::focusedChecked(bool tell)
     if (row != nullptr && row->checkState() == Qt::Checked)
         return true;
     if (tell)
-        m_context.prompt.inform(tr(kNotChecked));
+        m_context.prompt.report(tr(kNotChecked));
     return false;
 }
 
@@ -279,6 +288,7 @@ void COV_MnMtnWnd::onMotionTypeChanged(int index)
     m_form.infinite->setVisible(infinite);
     layoutMotionButtons();
     m_editingState = -1;
+    m_shownType = type;
     if (m_axisCount > 0) {
         loadProfilesFromBoard();
         showFocusedFields();
@@ -336,7 +346,7 @@ bool COV_MnMtnWnd::mayStartMotion()
     if (!focusedChecked(true))
         return false;
     if (m_checked.size() < 2) {
-        m_context.prompt.inform(tr(kTwoAxes));
+        m_context.prompt.report(tr(kTwoAxes));
         return false;
     }
     return true;
@@ -413,10 +423,10 @@ std::vector<AxisPositions> COV_MnMtnWnd::takePositions(const MotionAxes& target,
     return positions;
 }
 
-void COV_MnMtnWnd::writeSpeeds(const MotionAxes&, MotionType)
+void COV_MnMtnWnd::writeSpeeds(const MotionAxes& target, MotionType type)
 {
-    // Every move writes the profile exactly as "Set Prm" does.
-    setParameters();
+    // Every move writes the profile as "Set Prm" does, to the card and axes it started on.
+    setParametersOn(target, type);
 }
 
 void COV_MnMtnWnd::showCycle(int elapsedMs, int cycleCount)

@@ -51,8 +51,10 @@ private:
     void loadProfilesFromBoard();
     void showFocusedFields();
     PtpSpeeds profileFields() const;
-    void writeProfiles(const std::vector<AxisNo>& axes, MotionType type);
-    void setParameters();
+    void writeProfiles(const MotionAxes& axes, MotionType type);
+    // "Set Prm" of the checked axes; setParametersOn() names the card and axes written.
+    void setParameters(MotionType type);
+    void setParametersOn(const MotionAxes& checked, MotionType type);
     void applyPositions();
     bool profileChanged(BoardFamily family) const;
     void promptIfChanged(BoardFamily family);
@@ -95,6 +97,9 @@ private:
     std::vector<AxisNo> m_checked;
     bool m_listChanged = true;
     int m_editingState = -1; // what the list watch last gave the editing controls
+    // The motion type whose profile the fields hold: the combo has already moved on when its
+    // change is announced, and the question compares against what was shown.
+    MotionType m_shownType = MotionType::Jog;
     QString m_lastValidLimit = QStringLiteral("100");
 
     QTimer m_listWatch;

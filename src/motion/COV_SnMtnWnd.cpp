@@ -22,7 +22,7 @@
 COV_SnMtnWnd::COV_SnMtnWnd(const ToolContext& context, QWidget* parent, SequencerClockwork* given)
     : MotionToolView(context, parent, given),
       m_sequencer(context.state.active, context.board, context.prompt, clockwork(), *this),
-      m_actions(context.board, m_sequencer, *this)
+      m_actions(context, m_sequencer, *this)
 {
     auto* layout = new QHBoxLayout(this);
     auto* left = new QVBoxLayout;
@@ -47,7 +47,7 @@ COV_SnMtnWnd::COV_SnMtnWnd(const ToolContext& context, QWidget* parent, Sequence
 COV_SnMtnWnd::~COV_SnMtnWnd()
 {
     m_buttons->disconnectActions();
-    m_sequencer.endHeldJog();
+    m_sequencer.endForClose();
     m_context.state.active.axis = 0;
     m_context.state.active.setAxesMoving(MovingOwner::SingleAxis, false);
 }
@@ -161,6 +161,10 @@ void COV_SnMtnWnd::onTabChanged(int index)
 
 void COV_SnMtnWnd::onCardActivated(int index)
 {
+    if (!m_context.frame.mayChangeController()) {
+        m_cardRow->combo()->setCurrentIndex(m_card);
+        return;
+    }
     promptForVisiblePage(m_context.state.active.family);
     m_card = static_cast<CardNo>(index);
     reload();

@@ -1,8 +1,20 @@
 #include "MotionButtonActions.h"
 
+#include "AppState.h"
 #include "BoardApi.h"
+#include "FrameRelay.h"
 #include "MotionButtonTarget.h"
 #include "MotionSequencer.h"
+#include "OrvaneLog.h"
+#include "ToolContext.h"
+
+#include <QCoreApplication>
+
+MotionButtonActions::MotionButtonActions(const ToolContext& context, MotionSequencer& sequencer,
+                                         MotionButtonTarget& target)
+    : m_state(context.state), m_frame(context.frame), m_board(context.board),
+      m_sequencer(sequencer), m_target(target)
+{}
 
 bool MotionButtonActions::press(MotionButton button)
 {
@@ -10,8 +22,31 @@ bool MotionButtonActions::press(MotionButton button)
         return holdAlarmReset(true);
     if (!m_target.mayStartMotion())
         return false;
+    noteServoOff();
     m_sequencer.press(button == MotionButton::Minus ? DirectionMinus : DirectionPlus);
     return true;
+}
+
+void MotionButtonActions::noteServoOff()
+{
+    if (m_sequencer.isMoving())
+        return;
+    const MotionAxes axes = m_target.buttonAxes(false);
+    QStringList off;
+    for (AxisNo axis : axes.axes) {
+        if (m_board.GetSvOn(axes.family, axes.card, axis) == 0)
+            off << QStringLiteral("%1(%2) axis %3")
+                       .arg(QString::fromStdString(
+                           m_state.registry.modelName(axes.family, axes.card)))
+                       .arg(axes.card)
+                       .arg(axis);
+    }
+    if (off.isEmpty())
+        return;
+    const QString note = QCoreApplication::translate("MotionButtonActions", "Servo is off: %1")
+                             .arg(off.join(QStringLiteral(", ")));
+    qCInfo(lcMotion).noquote() << note;
+    m_frame.showNote(note);
 }
 
 void MotionButtonActions::release(MotionButton button)

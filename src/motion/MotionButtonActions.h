@@ -5,8 +5,11 @@
 #include <optional>
 
 class BoardApi;
+class FrameRelay;
 class MotionButtonTarget;
 class MotionSequencer;
+struct AppState;
+struct ToolContext;
 
 // The buttons of a motion window whose press and release both count.
 enum class MotionButton
@@ -23,9 +26,8 @@ enum class MotionButton
 class MotionButtonActions
 {
 public:
-    MotionButtonActions(BoardApi& board, MotionSequencer& sequencer, MotionButtonTarget& target)
-        : m_board(board), m_sequencer(sequencer), m_target(target)
-    {}
+    MotionButtonActions(const ToolContext& context, MotionSequencer& sequencer,
+                        MotionButtonTarget& target);
 
     // False when the window refused the press (nothing may start now).
     bool press(MotionButton button);
@@ -40,7 +42,11 @@ public:
 private:
     // False when no axis may be reset now.
     bool holdAlarmReset(bool down);
+    // Moving an axis whose servo is off is allowed, but the status bar says so.
+    void noteServoOff();
 
+    const AppState& m_state;
+    FrameRelay& m_frame;
     BoardApi& m_board;
     MotionSequencer& m_sequencer;
     MotionButtonTarget& m_target;

@@ -8,6 +8,7 @@
 
 #include <QCoreApplication>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -166,18 +167,42 @@ void MotionButtonColumn::showServo(bool on)
 
 bool MotionButtonColumn::eventFilter(QObject* watched, QEvent* event)
 {
-    const auto type = event->type();
-    if (m_actions == nullptr ||
-        (type != QEvent::MouseButtonPress && type != QEvent::MouseButtonRelease))
+    if (m_actions == nullptr)
         return QWidget::eventFilter(watched, event);
-    if (static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton)
-        return false;
     const MotionButton button = watched == alarmReset ? MotionButton::AlarmReset
                                 : watched == minus    ? MotionButton::Minus
                                                       : MotionButton::Plus;
+    bool down = false;
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+        if (static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton)
+            return false;
+        down = event->type() == QEvent::MouseButtonPress;
+        break;
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease: {
+        // Space held on the focused button is a held mouse button. A held key also sends
+        // release and press pairs of its own: those neither stop nor restart the motion.
+        const auto* key = static_cast<QKeyEvent*>(event);
+        if (key->key() != Qt::Key_Space)
+            return false;
+        if (key->isAutoRepeat())
+            return true;
+        down = event->type() == QEvent::KeyPress;
+        break;
+    }
+    case QEvent::FocusOut:
+        // The release of a key held on this button would go elsewhere.
+        if (static_cast<QAbstractButton*>(watched)->isDown())
+            m_actions->release(button);
+        return false;
+    default:
+        return false;
+    }
     // A refused press never reaches the button: its message box took the release, so the
     // button would stay drawn pressed.
-    if (type == QEvent::MouseButtonPress)
+    if (down)
         return !m_actions->press(button);
     m_actions->release(button);
     // The buttons still get the event, so they look pressed.

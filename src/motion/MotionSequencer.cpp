@@ -261,9 +261,12 @@ void MotionSequencer::endHeldJog()
 
 void MotionSequencer::endForClose()
 {
-    if (m_jogHeld)
-        qCInfo(lcMotion).noquote() << "Jog stopped on" << axesText(m_target) << ": window closed";
-    endHeldJog();
+    if (!m_moving && !m_jogHeld)
+        return;
+    // Nothing of the window is left to stop the axes later: a slowing stop now, as S-Stop.
+    qCInfo(lcMotion).noquote() << "Motion stopped on" << axesText(m_target) << ": window closed";
+    stopRunning(false);
+    endSequence();
 }
 
 void MotionSequencer::onCycleClock()
@@ -324,7 +327,7 @@ void MotionSequencer::reportAbnormalEnd(std::int32_t code)
     qCInfo(lcMotion).noquote() << "Motion stopped on" << axesText(m_target) << "with error code"
                                << code << (text.isEmpty() ? QStringLiteral("(no report)") : text);
     if (!text.isEmpty())
-        m_prompt.inform(text);
+        m_prompt.report(text);
 }
 
 void MotionSequencer::finishSequence()
@@ -449,7 +452,7 @@ void MotionSequencer::abortWith(const QString& message)
     stopAxes(m_target, true);
     qCInfo(lcMotion).noquote() << "Motion aborted on" << axesText(m_target) << ":" << message;
     m_jogHeld = false;
-    m_prompt.inform(message);
+    m_prompt.report(message);
     afterStop();
 }
 

@@ -48,7 +48,8 @@ public:
     void abortWith(const QString& message);
     // The frame's stop of everything: the board calls are the frame's, the sequence ends here.
     void endSequence();
-    // The window closes: a jog still held ends, as on release, and the log says why.
+    // The window closes: a running motion (a held jog, a step, a repeat, a home search) gets a
+    // slowing stop on its axes and its sequence ends; the log says why.
     void endForClose();
 
     // Timer handlers.

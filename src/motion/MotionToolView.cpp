@@ -12,6 +12,11 @@ MotionToolView::MotionToolView(const ToolContext& context, QWidget* parent,
 
 MotionToolView::~MotionToolView() = default;
 
+bool MotionToolView::movesAxes()
+{
+    return motion().isMoving() || motion().isJogHeld();
+}
+
 void MotionToolView::endMotion()
 {
     motion().endSequence();

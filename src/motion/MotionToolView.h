@@ -17,6 +17,7 @@ class MotionToolView : public ToolView
 public:
     ~MotionToolView() override;
 
+    bool movesAxes() override;
     void endMotion() override;
 
 protected:

@@ -150,6 +150,11 @@ bool COV_ImportPrmDlg::writeToBoards()
     }
     for (ToolKind kind : {ToolParameter, ToolSingleAxis, ToolMultiAxis, ToolDigitalIo})
         m_context.frame.sendToFrame(UM_VIEW_COMMAND, kind);
+    if (!m_import->refused().isEmpty())
+        m_context.prompt.inform(tr("The boards refused %1 write(s); these values were not "
+                                   "written:\n%2")
+                                    .arg(m_import->refused().size())
+                                    .arg(m_import->refused().join(QLatin1Char('\n'))));
     load(m_file->text());
     return true;
 }

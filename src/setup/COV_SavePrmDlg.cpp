@@ -46,23 +46,36 @@ COV_SavePrmDlg::COV_SavePrmDlg(const ToolContext& context, QWidget* parent)
 
 void COV_SavePrmDlg::save()
 {
+    QStringList refused;
     if (!m_allCards->isChecked()) {
-        saveCard(m_selector->family(), m_selector->card());
-        return;
+        saveCard(m_selector->family(), m_selector->card(), refused);
+    } else {
+        if (!m_context.prompt.askYesNo(
+                tr("Are you sure you want to save the parameter files of all the cards?")))
+            return;
+        for (BoardFamily family : kAllFamilies) {
+            for (int card = 0; card < m_context.state.registry.cardCount(family); ++card)
+                saveCard(family, card, refused);
+        }
     }
-    if (!m_context.prompt.askYesNo(
-            tr("Are you sure you want to save the parameter files of all the cards?")))
-        return;
-    for (BoardFamily family : kAllFamilies) {
-        for (int card = 0; card < m_context.state.registry.cardCount(family); ++card)
-            saveCard(family, card);
-    }
+    if (!refused.isEmpty())
+        m_context.prompt.inform(
+            tr("The parameter file was not saved:\n%1").arg(refused.join(QLatin1Char('\n'))));
 }
 
-void COV_SavePrmDlg::saveCard(BoardFamily family, int card)
+void COV_SavePrmDlg::saveCard(BoardFamily family, int card, QStringList& refused)
 {
     const nrx_i32 result = m_context.board.SaveFile(family, static_cast<CardNo>(card));
     qCInfo(lcParams) << "Save Parameter" << familyShortName(family) << "card" << card << "returned"
                      << result;
+    // A card whose file was not written stays marked, so the exit asks about it again.
+    if (result < 0) {
+        refused << tr("%1(%2): SaveFile returned %3")
+                       .arg(
+                           QString::fromStdString(m_context.state.registry.modelName(family, card)))
+                       .arg(card)
+                       .arg(result);
+        return;
+    }
     m_context.state.registry.setParametersChanged(family, card, false);
 }

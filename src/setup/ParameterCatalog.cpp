@@ -135,9 +135,10 @@ template <auto Get, auto Set> struct CallPair
             return readFilled(board, f, c, a, std::make_index_sequence<carried>());
     }
 
-    static void write(BoardApi& board, BoardFamily f, CardNo c, AxisNo a, const CallValues& v)
+    static std::int32_t write(BoardApi& board, BoardFamily f, CardNo c, AxisNo a,
+                              const CallValues& v)
     {
-        writeEach(board, f, c, a, v, std::make_index_sequence<carried>());
+        return writeEach(board, f, c, a, v, std::make_index_sequence<carried>());
     }
 
 private:
@@ -151,13 +152,15 @@ private:
     }
 
     template <std::size_t... I>
-    static void writeEach(BoardApi& board, BoardFamily f, CardNo c, AxisNo a, const CallValues& v,
-                          std::index_sequence<I...>)
+    static std::int32_t writeEach(BoardApi& board, BoardFamily f, CardNo c, AxisNo a,
+                                  const CallValues& v, std::index_sequence<I...>)
     {
         if constexpr (onCard)
-            (board.*Set)(f, c, static_cast<typename Setter::template Arg<I + 1>>(at(v, I))...);
+            return static_cast<std::int32_t>(
+                (board.*Set)(f, c, static_cast<typename Setter::template Arg<I + 1>>(at(v, I))...));
         else
-            (board.*Set)(f, c, a, static_cast<typename Setter::template Arg<I + 2>>(at(v, I))...);
+            return static_cast<std::int32_t>((board.*Set)(
+                f, c, a, static_cast<typename Setter::template Arg<I + 2>>(at(v, I))...));
     }
 };
 
@@ -169,7 +172,7 @@ struct CallEntry
     ParameterLevel level;
     unsigned families;
     CallValues (*read)(BoardApi&, BoardFamily, CardNo, AxisNo);
-    void (*write)(BoardApi&, BoardFamily, CardNo, AxisNo, const CallValues&);
+    std::int32_t (*write)(BoardApi&, BoardFamily, CardNo, AxisNo, const CallValues&);
 };
 
 template <auto Get, auto Set> constexpr CallEntry callEntry(const char* name, ParameterPage page)
@@ -277,8 +280,8 @@ CallValues ParameterCatalog::read(BoardApi& board, BoardFamily family, Parameter
     return entry(call).read(board, family, card, axis);
 }
 
-void ParameterCatalog::write(BoardApi& board, BoardFamily family, ParameterCall call, CardNo card,
-                             AxisNo axis, const CallValues& values)
+std::int32_t ParameterCatalog::write(BoardApi& board, BoardFamily family, ParameterCall call,
+                                     CardNo card, AxisNo axis, const CallValues& values)
 {
-    entry(call).write(board, family, card, axis, values);
+    return entry(call).write(board, family, card, axis, values);
 }

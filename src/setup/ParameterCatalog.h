@@ -87,7 +87,7 @@ public:
     // Reads the call's values from the family's board (axis is ignored for card-wide calls).
     static CallValues read(BoardApi& board, BoardFamily family, ParameterCall call, CardNo card,
                            AxisNo axis);
-    // Writes the call's values, as many as it carries, in one board call.
-    static void write(BoardApi& board, BoardFamily family, ParameterCall call, CardNo card,
-                      AxisNo axis, const CallValues& values);
+    // Writes the call's values, as many as it carries, in one board call; the board's result.
+    static std::int32_t write(BoardApi& board, BoardFamily family, ParameterCall call, CardNo card,
+                              AxisNo axis, const CallValues& values);
 };

@@ -79,7 +79,8 @@ QString ParameterCommandLine::usage()
         "\n"
         "Exit codes: 0 success (diff: no difference), 1 diff found differences,\n"
         "2 bad input (a wrong argument, a damaged file, a board the PC lacks),\n"
-        "3 export left out a family whose boards failed to load.\n");
+        "3 export left out a family whose boards failed to load,\n"
+        "4 import: a board refused a write or a save.\n");
 }
 
 bool ParameterCommandLine::isCommand(int argc, char** argv)
@@ -234,12 +235,24 @@ int ParameterCommandLine::importFile(const QStringList& arguments)
     const auto touched = import.apply();
     qCInfo(lcParams).noquote() << "params import:" << count << "change(s) from" << positional[0]
                                << "written to" << touched.size() << "card(s)";
-    m_err << "Wrote " << count << " change(s)." << Qt::endl;
+    int exitCode = Success;
+    const auto refused = import.refused().size();
+    m_err << "Wrote " << count - refused << " change(s)." << Qt::endl;
+    for (const QString& write : import.refused()) {
+        m_err << "Refused: " << write << Qt::endl;
+        exitCode = Refused;
+    }
     if (options.count(QStringLiteral("--save"))) {
         for (const auto& [family, card] : touched) {
             const nrx_i32 saved = m_board.SaveFile(family, static_cast<CardNo>(card));
             qCInfo(lcParams) << "Save Parameter" << familyShortName(family) << "card" << card
                              << "returned" << saved;
+            if (saved < 0) {
+                m_err << "Not saved: SaveFile of " << familyDisplayName(family) << '(' << card
+                      << ") returned " << saved << Qt::endl;
+                exitCode = Refused;
+                continue;
+            }
             m_err << "Saved the parameter file of " << familyDisplayName(family) << '(' << card
                   << ')' << Qt::endl;
         }
@@ -255,7 +268,7 @@ int ParameterCommandLine::importFile(const QStringList& arguments)
                      "--save these values are gone when it ends."
                   << Qt::endl;
     }
-    return Success;
+    return exitCode;
 }
 
 bool ParameterCommandLine::source(const QString& text, ParameterSet& set)

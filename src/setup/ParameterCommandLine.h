@@ -22,6 +22,7 @@ public:
         Differences = 1, // diff found some
         BadInput = 2,
         Incomplete = 3, // export: a family's boards failed to load, the rest was written
+        Refused = 4,    // import: a board refused a write or a save
     };
 
     ParameterCommandLine(BoardApi& board, const CardRegistry& registry, QTextStream& out,

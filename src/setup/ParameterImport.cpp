@@ -2,12 +2,13 @@
 
 #include "BoardApi.h"
 #include "CardRegistry.h"
+#include "OrvaneLog.h"
 
 #include <algorithm>
 
 ParameterImport::ParameterImport(const ParameterSet& file, BoardApi& board,
                                  const CardRegistry& registry)
-    : m_board(board)
+    : m_board(board), m_registry(registry)
 {
     check(file, registry);
 }
@@ -77,6 +78,7 @@ void ParameterImport::collect(const ParameterSection& section)
 std::vector<std::pair<BoardFamily, int>> ParameterImport::apply()
 {
     std::vector<std::pair<BoardFamily, int>> touched;
+    m_refused.clear();
     if (!canApply())
         return touched;
     for (std::size_t i = 0; i < m_changes.size();) {
@@ -95,7 +97,18 @@ std::vector<std::pair<BoardFamily, int>> ParameterImport::apply()
                 break;
             values[static_cast<std::size_t>(c.info->slot)] = c.fileValue;
         }
-        ParameterCatalog::write(m_board, first.family, first.info->call, card, axis, values);
+        const std::int32_t result =
+            ParameterCatalog::write(m_board, first.family, first.info->call, card, axis, values);
+        if (result < 0) {
+            m_refused << tr("%1(%2)%3: Set%4 returned %5")
+                             .arg(QString::fromStdString(
+                                 m_registry.modelName(first.family, first.card)))
+                             .arg(first.card)
+                             .arg(first.axis < 0 ? QString() : tr(" axis %1").arg(first.axis))
+                             .arg(QLatin1String(ParameterCatalog::callName(first.info->call)))
+                             .arg(result);
+            qCWarning(lcParams).noquote() << "Import:" << m_refused.last();
+        }
         const std::pair<BoardFamily, int> written{first.family, first.card};
         if (std::find(touched.begin(), touched.end(), written) == touched.end())
             touched.push_back(written);

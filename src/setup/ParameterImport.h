@@ -40,6 +40,9 @@ public:
     // Writes every change, one board call per changed group of values; refuses (returns
     // nothing) while there are faults. Returns the cards it wrote to, family by family.
     std::vector<std::pair<BoardFamily, int>> apply();
+    // The writes of the last apply() the board refused, in words with the card and the result
+    // ("NRX-RL416V(0) axis 1: SetSlmt returned -1").
+    const QStringList& refused() const { return m_refused; }
 
 private:
     void check(const ParameterSet& file, const CardRegistry& registry);
@@ -49,5 +52,7 @@ private:
     std::vector<ParameterFault> m_faults;
     QStringList m_skipped;
     QStringList m_otherModels;
+    QStringList m_refused;
+    const CardRegistry& m_registry;
     std::vector<ParameterChange> m_changes;
 };

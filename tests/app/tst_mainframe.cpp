@@ -13,6 +13,7 @@
 #include <QComboBox>
 #include <QContextMenuEvent>
 #include <QDockWidget>
+#include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -230,7 +231,7 @@ private slots:
         QCOMPARE(rig.rn.count("Sudden_Stop"), 8);
         QCOMPARE(rig.log, QStringList{"103:end"});
         QVERIFY(!rig.state.active.anyAxesMoving());
-        QCOMPARE(rig.frame->statusBar()->currentMessage(), QStringLiteral("All axes stopped"));
+        QCOMPARE(rig.frame->stopReport()->text(), QStringLiteral("All axes stopped (12)"));
     }
 
     void tree_contextMenuOnCardsDoubleClickUnderTheActiveCard()

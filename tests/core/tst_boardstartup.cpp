@@ -134,6 +134,23 @@ private slots:
         QVERIFY(rig.rl.calls().last().contains(QStringLiteral("nrxMApiRlv_x64")));
     }
 
+    // A refused save keeps the program open, and the next exit asks again.
+    void savePrompt_refusedSaveKeepsTheProgramOpen()
+    {
+        Rig rig(0, -1, -1);
+        QVERIFY(rig.startup.loadDevices());
+        rig.rl.setResult("SaveFile", -1);
+        rig.registry.setParametersChanged(BoardFamily::RL, 0, true);
+        rig.prompt.queueAnswers({true});
+        QVERIFY(!rig.startup.offerSave());
+        QCOMPARE(rig.prompt.messages().size(), 1);
+        QVERIFY(rig.prompt.messages().front().contains(QLatin1String("(0): SaveFile returned -1")));
+        rig.prompt.clear();
+        rig.prompt.queueAnswers({false});
+        QVERIFY(rig.startup.offerSave());
+        QCOMPARE(rig.prompt.questions().size(), 1);
+    }
+
     void savePrompt_familiesThenCardsYesSaves()
     {
         Rig rig(1, -1, 1);

@@ -1,4 +1,5 @@
 #include "COV_MnMtnWnd.h"
+#include "PromptTexts.h"
 #include "SimBoardsRig.h"
 #include "ToolWindowRig.h"
 
@@ -157,6 +158,25 @@ private slots:
         rig.clockwork.run(100, [&] { rig.sim.advance(BoardFamily::RL, 1); });
         QCOMPARE(rig.position(2), stoppedAt);
         QTest::mouseRelease(plus, Qt::LeftButton);
+    }
+
+    // The question compares the fields with the profile they showed before the combo moved.
+    void motionTypeChange_asksOnlyAboutEditsOfTheShownProfile()
+    {
+        Rig rig;
+        QVERIFY(rig.start());
+        rig.check({0, 1});
+        rig.window->onListWatch();
+        rig.setSpeed(0, 7000); // jog profile of axis 0 on the board
+        rig.choose("motionType", int(MotionType::Relative));
+        QVERIFY(rig.prompt.questions().isEmpty());
+        rig.setText("driveSpeed", "3000");
+        rig.prompt.queueAnswers({true});
+        rig.choose("motionType", int(MotionType::Jog));
+        QCOMPARE(rig.prompt.questions(), QStringList{PromptTexts::parametersChanged()});
+        QCOMPARE(PtpSpeeds::readPositioning(rig.api, BoardFamily::RL, 0, 0).drive, 3000);
+        QCOMPARE(PtpSpeeds::readJog(rig.api, BoardFamily::RL, 0, 0).drive, 7000);
+        QCOMPARE(rig.text("driveSpeed"), QStringLiteral("7000"));
     }
 
     void layout_stopButtonsAndSizeStayPutAcrossMotionTypes()

@@ -333,6 +333,50 @@ private slots:
             QVERIFY2(run(bad) == 2 && !err.isEmpty(), qPrintable(bad.join(' ')));
     }
 
+    // A write or a save the board refuses is named with its card and result; the command exits
+    // non-zero.
+    void import_refusedWriteAndSaveAreNamedAndExitNonZero()
+    {
+        SimBoardsRig rig;
+        QVERIFY(rig.start(true, "[RL]\nCards=1\nFail.SaveFile=-1\nFail.SetHomeDir=-1\n"));
+        QString out, err;
+        QTextStream outStream(&out), errStream(&err);
+        ParameterCommandLine cli(rig.api, rig.state.registry, outStream, errStream);
+        const QString file = rig.folder.filePath(QStringLiteral("rl0.ini"));
+        QCOMPARE(cli.run({"export", file, "--family", "RL"}), 0);
+        QFile text(file);
+        QVERIFY(text.open(QIODevice::ReadOnly));
+        QString content = QString::fromUtf8(text.readAll());
+        text.close();
+        const QRegularExpression direction(QStringLiteral("OriginDirection=(\\d)"));
+        const QRegularExpressionMatch found = direction.match(content);
+        QVERIFY(found.hasMatch());
+        content.replace(found.capturedStart(1), 1, found.captured(1) == "0" ? "1" : "0");
+        QVERIFY(text.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        text.write(content.toUtf8());
+        text.close();
+        const QString model =
+            QString::fromStdString(rig.state.registry.modelName(BoardFamily::RL, 0));
+        QCOMPARE(cli.run({"import", file, "--yes", "--save"}), int(ParameterCommandLine::Refused));
+        QVERIFY2(err.contains(
+                     QStringLiteral("Refused: %1(0) axis 0: SetHomeDir returned -1").arg(model)),
+                 qPrintable(err));
+        QVERIFY2(err.contains(QLatin1String("Not saved: SaveFile of NRX-RLxxxV(0) returned -1")),
+                 qPrintable(err));
+        QVERIFY(!err.contains(QLatin1String("Saved the parameter file")));
+
+        // The same refusal in Import's "Write to Boards".
+        ScriptedPrompt prompt;
+        prompt.setDefaultAnswer(true);
+        RecordingFrame frame;
+        COV_ImportPrmDlg dialog(ToolContext{rig.state, rig.api, prompt, frame});
+        dialog.load(file);
+        QVERIFY(dialog.writeToBoards());
+        QCOMPARE(prompt.messages().size(), 1);
+        QVERIFY(prompt.messages().front().contains(
+            QStringLiteral("%1(0) axis 0: SetHomeDir returned -1").arg(model)));
+    }
+
     void dialogs_previewWriteAndCompare()
     {
         SimBoardsRig rig;

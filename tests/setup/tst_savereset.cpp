@@ -89,6 +89,20 @@ private slots:
         QVERIFY(rig.prompt.messages().isEmpty());
     }
 
+    void save_refusedIsReportedAndTheCardStaysMarked()
+    {
+        Rig rig;
+        rig.rl.setResult("SaveFile", -1);
+        COV_SavePrmDlg dialog(rig.context);
+        dialog.selector()->typeList()->setCurrentIndex(0);
+        dialog.selector()->fillCards(1);
+        dialog.save();
+        QCOMPARE(rig.prompt.messages().size(), 1);
+        QVERIFY2(rig.prompt.messages().front().endsWith(QLatin1String("(1): SaveFile returned -1")),
+                 qPrintable(rig.prompt.messages().front()));
+        QCOMPARE(rig.flags(BoardFamily::RL), QStringLiteral("111"));
+    }
+
     void selectors_offerOnlyRealChoices()
     {
         Rig one(1, 0);
