@@ -183,6 +183,11 @@ void COV_AxisTestWnd::endMotion()
     stopTest(tr("Stop All"));
 }
 
+bool COV_AxisTestWnd::movesAxes()
+{
+    return m_run && m_run->running();
+}
+
 void COV_AxisTestWnd::beforeClose()
 {
     stopTest(tr("window closed"));

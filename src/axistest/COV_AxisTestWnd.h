@@ -34,6 +34,7 @@ public:
     ToolKind kind() const override { return ToolAxisTest; }
     void handleUserMessage(UserMessage message, int wParam) override;
     void endMotion() override;
+    bool movesAxes() override;
     QTimer* pollTimer() override { return &m_timer; }
     // Room for the fields beside a figure table and two plots.
     QSize sizeHint() const override { return {960, 540}; }
