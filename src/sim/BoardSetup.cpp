@@ -187,6 +187,7 @@ BoardSetup BoardSetup::read(int familyIndex, const IniFile* file)
             k.read("InposLevel", ax.inposLevel, 0, 1);
             k.read("ServoLag", ax.servoLag, 0, 1000);
             k.read("Slip", ax.slip, 0, 1000);
+            k.read("NeedsServoOn", ax.needsServoOn, 0, 1);
         }
         setup.cards.push_back(cd);
     }

@@ -43,8 +43,9 @@ public:
         Signal alarm;
         int alarmLevel = 0;
         int inposLevel = 0;
-        int servoLag = 2; // ms the actual position trails the command while moving
-        int slip = 0;     // pulses the axis loses per 1000 commanded
+        int servoLag = 2;     // ms the actual position trails the command while moving
+        int slip = 0;         // pulses the axis loses per 1000 commanded
+        int needsServoOn = 0; // 1: the motor turns only while the servo-on output is on
     };
 
     struct Card

@@ -15,8 +15,20 @@ using Signal = HomeSearch::Signal;
 SimAxis::SimAxis(const BoardSetup::Axis& wiring, bool rn)
     : sensors_(wiring), rn_(rn), counters_(wiring.start), machine_(wiring.start),
       exact_(static_cast<double>(wiring.start)), servoLagMs_(wiring.servoLag),
-      slipPerMille_(wiring.slip)
+      slipPerMille_(wiring.slip), needsServoOn_(wiring.needsServoOn != 0),
+      heldEncoder_(wiring.start)
 {}
+
+void SimAxis::setServoOn(bool on)
+{
+    if (on == servo_.servoOn())
+        return;
+    if (!on)
+        heldEncoder_ = restingEncoder();
+    else if (needsServoOn_)
+        slipOffset_ = heldEncoder_ - machine_; // the motor turns again from where it stood
+    servo_.setServoOn(on);
+}
 
 void SimAxis::setParameter(Id id, int32_t value)
 {
@@ -43,6 +55,7 @@ void SimAxis::reset()
     homeOk_ = false;
     exact_ = static_cast<double>(machine_);
     counters_.zeroAt(machine_, restingEncoder());
+    setServoOn(false);
     servo_.switchOff();
 }
 
@@ -357,7 +370,7 @@ void SimAxis::followServo(int64_t before)
 {
     const int64_t moved = machine_ - before;
     lastStep_ = isMoving() ? moved : 0;
-    if (slipPerMille_ == 0 || moved == 0)
+    if (slipPerMille_ == 0 || moved == 0 || motorHeld())
         return;
     slipRemainder_ += (moved < 0 ? -moved : moved) * slipPerMille_;
     const int64_t lost = slipRemainder_ / 1000;

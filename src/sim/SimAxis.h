@@ -58,7 +58,10 @@ public:
     int64_t machinePosition() const { return machine_; }
     // Where the encoder is: behind the command by the servo's following error while moving,
     // and short of it by what the axis slipped.
-    int64_t encoderPosition() const { return restingEncoder() - lastStep_ * servoLagMs_; }
+    int64_t encoderPosition() const
+    {
+        return motorHeld() ? heldEncoder_ : restingEncoder() - lastStep_ * servoLagMs_;
+    }
     int32_t errorCode() const { return errorCode_; }
     bool homed() const { return homeOk_; }
     bool isHoming() const { return activity_ == Activity::Home; }
@@ -73,6 +76,8 @@ public:
     bool limitActive(int direction) const { return senses(AxisSensors::limit(direction)); }
     bool compareActive(int direction) const;
 
+    // The servo-on output; an axis that needs it holds its encoder while it is off.
+    void setServoOn(bool on);
     ServoLink& servo() { return servo_; }
     const ServoLink& servo() const { return servo_; }
 
@@ -125,7 +130,8 @@ private:
     void completeHome();
     void advanceOneMs(const Lines& lines);
     void followServo(int64_t before);
-    int64_t restingEncoder() const { return machine_ + slipOffset_; }
+    int64_t restingEncoder() const { return motorHeld() ? heldEncoder_ : machine_ + slipOffset_; }
+    bool motorHeld() const { return needsServoOn_ && !servo_.servoOn(); }
 
     AxisSensors sensors_;
     bool rn_ = false;
@@ -156,6 +162,8 @@ private:
     int64_t slipPerMille_ = 0;
     int64_t lastStep_ = 0; // pulses of the last millisecond while moving
     int64_t slipOffset_ = 0;
+    bool needsServoOn_ = false;
+    int64_t heldEncoder_ = 0; // where the encoder stays while the servo is off
     int64_t slipRemainder_ = 0;
 
     int32_t errorCode_ = 0;

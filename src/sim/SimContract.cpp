@@ -428,7 +428,9 @@ nrx_u16 SimContract::servoOutput(nrx_u16 c, nrx_u16 a, bool (ServoLink::*get)() 
 
 nrx_i32 SimContract::PutSvOn(nrx_u16 c, nrx_u16 a, nrx_u16 on)
 {
-    return putServo(c, a, &ServoLink::setServoOn, on);
+    if (SimAxis* ax = axis(c, a))
+        ax->setServoOn(on != 0);
+    return 0;
 }
 
 nrx_u16 SimContract::GetSvOn(nrx_u16 c, nrx_u16 a)
