@@ -2,11 +2,13 @@
 // family with NRXSIM_FAMILY (RL, RM, RN), NRXSIM_FAMILY_INDEX, NRXSIM_PREFIX (NRX520L_ ...)
 // and NRXSIM_EXTRA_PREFIX (NRXSIM520L_ ...) defined by the build, so that every name comes
 // from the one operation list of the contract.
+#include "CallShape.h"
 #include "SimContract.h"
 #include "nrx_contract.h"
 #include "nrxsim_extras.h"
 
 #include <string_view>
+#include <type_traits>
 
 #if !defined(NRXSIM_FAMILY) || !defined(NRXSIM_FAMILY_INDEX) || !defined(NRXSIM_PREFIX) ||         \
     !defined(NRXSIM_EXTRA_PREFIX)
@@ -63,8 +65,12 @@ nrxsim::SimContract board(NRXSIM_FAMILY_INDEX);
                   "family table out of step with the contract");                                   \
     NRXSIM_CAT(NRXSIM_WHEN_, NRXSIM_HAS(fam))                                                      \
     (NRXSIM_EXPORT ret NRXSIM_CAT(NRXSIM_PREFIX, name) params {                                    \
+        static constexpr nrxsim::CallShape shape =                                                 \
+            nrxsim::CallShape::of(#name, #params, std::is_same_v<ret, nrx_i32>);                   \
         if (const int32_t* forced = board.forcedResult(BoardOp::name))                             \
             return static_cast<ret>(*forced);                                                      \
+        if (!shape.reaches(board.family(), nrxsim::CallShape::address args))                       \
+            return static_cast<ret>(shape.status ? nrxsim::CallShape::Refused : 0);                \
         return board.name args;                                                                    \
     })
 

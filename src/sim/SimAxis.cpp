@@ -150,6 +150,7 @@ void SimAxis::begin(Activity activity, const MotionProfile& profile, const Speed
     origin_ = exact_;
     tick_ = 0;
     stopping_ = false;
+    multiAxis_ = false;
     target_.reset();
     const auto s = profile_.at(0.0);
     unitSpeed_ = s.speed;
@@ -285,6 +286,15 @@ void SimAxis::decelStop()
 {
     if (!isMoving() || (stopping_ && afterRamp_ == AfterRamp::Finish))
         return;
+    // A move already slowing down to its target keeps its ramp: a fresh one from the present
+    // speed would start without the deceleration already built up and end past the target.
+    if (!stopping_ && target_ && (profileBits_ & DriveBit::Descend) != 0) {
+        stopping_ = true;
+        afterRamp_ = AfterRamp::Finish;
+        pendingCode_ = StopCode::None;
+        pendingStopBits_ = 0;
+        return;
+    }
     rampDown(AfterRamp::Finish, StopCode::None, 0);
 }
 
@@ -492,7 +502,9 @@ void SimAxis::takeEvent(const Event& e, int64_t next)
             homeStopBits_ = DriveBit::StopLimitMinus;
             break;
         }
-        if (leg.rampDown) {
+        // A limit met at speed stops as the limit stop mode says, whatever the search.
+        const bool onLimit = leg.signal == Signal::LimitPlus || leg.signal == Signal::LimitMinus;
+        if (leg.rampDown && !(onLimit && p(Id::HlmtStop) != 1)) {
             machine_ = next;
             exact_ = static_cast<double>(next);
             rampDown(AfterRamp::NextLeg, StopCode::None, 0);

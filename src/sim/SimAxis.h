@@ -65,6 +65,9 @@ public:
     int32_t errorCode() const { return errorCode_; }
     bool homed() const { return homeOk_; }
     bool isHoming() const { return activity_ == Activity::Home; }
+    // The motion just started belongs to a multi-axis move (RN's I-RUN).
+    void markMultiAxis() { multiAxis_ = isMoving(); }
+    bool inMultiAxisMove() const { return multiAxis_ && isMoving(); }
 
     // What the status words are made of.
     uint16_t stopBits() const { return stopBits_; }
@@ -146,6 +149,7 @@ private:
     double origin_ = 0.0;
     int64_t tick_ = 0;
     bool stopping_ = false;
+    bool multiAxis_ = false;
     AfterRamp afterRamp_ = AfterRamp::Finish;
     int32_t pendingCode_ = 0;
     uint16_t pendingStopBits_ = 0;

@@ -81,6 +81,7 @@ bool SimCard::multiMove(int n, const uint16_t* axes, const int32_t* values, bool
             a.moveTo(values[i], lines);
         else
             a.moveBy(values[i], lines);
+        a.markMultiAxis();
     }
     return true;
 }
@@ -89,8 +90,10 @@ bool SimCard::multiJog(int n, const uint16_t* axes, const uint16_t* directions)
 {
     if (!directions || !validAxes(n, axes))
         return false;
-    for (int i = 0; i < n; ++i)
+    for (int i = 0; i < n; ++i) {
         axes_[axes[i]].jog(directions[i], linesFor(axes[i]));
+        axes_[axes[i]].markMultiAxis();
+    }
     return true;
 }
 

@@ -85,8 +85,8 @@ nrx_i32 SimContract::GetDllVersion(const char*)
 
 nrx_i32 SimContract::LogCheck(nrx_u16 level)
 {
-    family_.log().setLevel(std::min<int>(level, SimLog::Parameters));
-    family_.note(SimLog::Errors, "log level " + std::to_string(level));
+    family_.log().setLevel(std::min<int>(level, SimLog::MaxLevel));
+    family_.note(SimLog::Commands, "log level " + std::to_string(level));
     return 0;
 }
 

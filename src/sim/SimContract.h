@@ -10,9 +10,11 @@ namespace nrxsim {
 class SimContract
 {
 public:
-    // Wrong card, axis or bit numbers and null pointers are refused quietly: 0 is returned
-    // and nothing is written.
+    // Bit numbers and null pointers beyond the address are refused quietly: nothing is
+    // written.
     explicit SimContract(int familyIndex);
+
+    SimFamily& family() { return family_; }
 
 #define NRXSIM_DECLARE_OPERATION_(ret, name, params, args, fam) ret name params;
     NRX_FOR_EACH_OPERATION(NRXSIM_DECLARE_OPERATION_)

@@ -98,7 +98,7 @@ int32_t SimFamily::load()
     const auto file = IniFile::load(pathOf(BoardSetup::FileName));
     setup_ = BoardSetup::read(familyIndex_, file ? &*file : nullptr);
     for (const std::string& w : setup_.warnings)
-        note(SimLog::Errors, std::string(BoardSetup::FileName) + ": " + w);
+        note(SimLog::Always, std::string(BoardSetup::FileName) + ": " + w);
 
     if (setup_.forcedLoadResult) {
         note(SimLog::Errors, "LoadDevice forced to " + std::to_string(*setup_.forcedLoadResult));

@@ -49,7 +49,7 @@ public:
     std::string pathOf(const std::string& fileName) const;
 
     bool saveCard(int index);
-    void note(int level, const std::string& text) { log_.write(level, simulatedMs_, text); }
+    void note(SimLog::Kind kind, const std::string& text) { log_.write(kind, simulatedMs_, text); }
 
 private:
     void advanceTo(int64_t now);

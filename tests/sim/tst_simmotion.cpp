@@ -102,6 +102,25 @@ private slots:
     }
 
     // The + limit with E-Stop is met end to end by the single-axis window and the monitors.
+    void decelStop_inAnSCurvesDecelerationEndsByItsTarget()
+    {
+        // 200 kpps, 500 ms S-curves: each ramp covers about 50000 pulses.
+        rl_->SetSpeedMode(0, 0, 1);
+        rl_->SetPosSpeed(0, 0, 100, 200000, 500, 500);
+        for (const int intoRamp : {1, 100, 250, 400}) {
+            rl_->SetCommandPos(0, 0, 0);
+            rl_->Inc_Move(0, 0, 150000);
+            while (!(rl_->GetDrvStatus(0, 0) & DriveBit::Descend))
+                advance(1);
+            advance(intoRamp);
+            rl_->Decel_Stop(0, 0);
+            runUntilDone(0, 0);
+            QVERIFY2(rl_->GetCommandPos(0, 0) <= 150000, qPrintable(QString::number(intoRamp)));
+            QVERIFY(rl_->GetCommandPos(0, 0) > 100000);
+            QCOMPARE(rl_->GetMotionErrCod(0, 0), 0);
+        }
+    }
+
     void limits_stopWithTheirCodes_data()
     {
         QTest::addColumn<int>("direction");
@@ -318,8 +337,14 @@ private slots:
         const nrx_u16 w = rn.GetMainStatus(0, 3);
         QCOMPARE(w & 0xFF, 0x03);
         QVERIFY(w & MainBit::RnServoOn);
-        // Multi-axis moves run independent axes, never an interpolation.
-        QVERIFY(!(w & MainBit::RnInterpolationRun));
+        // I-RUN: the group and each axis of a running multi-axis move, not a single move.
+        QVERIFY(w & MainBit::RnInterpolationRun);
+        QVERIFY(rn.GetCardStatus(0, 1) & CardBit::InterpolationRun);
+        rn.Inc_Move(0, 2, 100);
+        QVERIFY(!(rn.GetCardStatus(0, 2) & CardBit::InterpolationRun));
+        rn.Sudden_Stop(0, 0);
+        rn.Sudden_Stop(0, 1);
+        QVERIFY(!(rn.GetMainStatus(0, 3) & MainBit::RnInterpolationRun));
     }
 
     void statusWords_servoOutputsAndCounterClearPulse()
