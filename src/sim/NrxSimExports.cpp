@@ -7,6 +7,7 @@
 #include "nrx_contract.h"
 #include "nrxsim_extras.h"
 
+#include <mutex>
 #include <string_view>
 #include <type_traits>
 
@@ -55,6 +56,8 @@ NRXSIM_FOR_EACH_EXTRA_PREFIX(NRXSIM_CHECK_EXTRA_PREFIX_)
 
 namespace {
 nrxsim::SimContract board(NRXSIM_FAMILY_INDEX);
+// One caller at a time: every call, reads too, advances the motion shared by all threads.
+std::mutex calls;
 } // namespace
 
 // One level more, so that the family mask arrives as a number.
@@ -67,6 +70,7 @@ nrxsim::SimContract board(NRXSIM_FAMILY_INDEX);
     (NRXSIM_EXPORT ret NRXSIM_CAT(NRXSIM_PREFIX, name) params {                                    \
         static constexpr nrxsim::CallShape shape =                                                 \
             nrxsim::CallShape::of(#name, #params, std::is_same_v<ret, nrx_i32>);                   \
+        const std::lock_guard<std::mutex> lock(calls);                                             \
         if (const int32_t* forced = board.forcedResult(BoardOp::name))                             \
             return static_cast<ret>(*forced);                                                      \
         if (!shape.reaches(board.family(), nrxsim::CallShape::address args))                       \
@@ -79,6 +83,7 @@ NRX_FOR_EACH_OPERATION(NRXSIM_EXPORT_OPERATION)
 #define NRXSIM_EXPORT_EXTRA(ret, name, params, args)                                               \
     NRXSIM_EXPORT ret NRXSIM_CAT(NRXSIM_EXTRA_PREFIX, name) params                                 \
     {                                                                                              \
+        const std::lock_guard<std::mutex> lock(calls);                                             \
         return board.name args;                                                                    \
     }
 

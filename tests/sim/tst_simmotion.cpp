@@ -4,7 +4,10 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <atomic>
+#include <functional>
 #include <memory>
+#include <thread>
 
 using namespace nrxsim;
 
@@ -119,6 +122,38 @@ private slots:
             QVERIFY(rl_->GetCommandPos(0, 0) > 100000);
             QCOMPARE(rl_->GetMotionErrCod(0, 0), 0);
         }
+    }
+
+    void threads_twoCallersNeitherCrashNorCorruptAJog()
+    {
+        auto jogFor = [this](int ms, const std::function<void()>& meanwhile) {
+            rl_->SetCommandPos(0, 0, 0);
+            rl_->SetJogSpeed(0, 0, 100, 10000, 100);
+            rl_->Jog_Move(0, 0, 1);
+            std::atomic<bool> running{true};
+            std::thread clock([&] {
+                for (int i = 0; i < ms; ++i)
+                    lib_[0]->sim.AdvanceClock(1);
+                running = false;
+            });
+            while (running)
+                meanwhile();
+            clock.join();
+            rl_->Sudden_Stop(0, 0);
+            return rl_->GetCommandPos(0, 0);
+        };
+        const int alone = jogFor(20000, [] {});
+        // The other thread reads the jogging axis and moves another one all the while.
+        const int shared = jogFor(20000, [this] {
+            rl_->GetCardStatus(0, 0);
+            rl_->GetDrvStatus(0, 0);
+            rl_->GetActualPos(0, 0);
+            rl_->GetCommandSpeed(0, 0);
+            if (rl_->Done(0, 1) == 0)
+                rl_->Inc_Move(0, 1, 3);
+        });
+        QCOMPARE(shared, alone);
+        QVERIFY(alone > 190000);
     }
 
     void limits_stopWithTheirCodes_data()
