@@ -94,10 +94,11 @@ void readForcedResults(const IniFile& file, const std::string& family, BoardSetu
 constexpr const char* FamilyKeys[] = {"cards", "version", "loadresult"};
 constexpr const char* CardKeys[] = {"axes",           "io",      "firmware", "info", "emergency",
                                     "emergencylevel", "loopback"};
-constexpr const char* AxisKeys[] = {"start",      "pluslimit",   "minuslimit",  "limitlevel",
-                                    "origin",     "originwidth", "originlevel", "zperiod",
-                                    "zoffset",    "zlevel",      "alarm",       "alarmlevel",
-                                    "inposlevel", "servolag",    "slip",        "needsservoon"};
+constexpr const char* AxisKeys[] = {
+    "start",       "pluslimit",   "minuslimit",   "limitlevel",    "origin",         "originwidth",
+    "originlevel", "zperiod",     "zoffset",      "zlevel",        "alarm",          "alarmlevel",
+    "inposlevel",  "servolag",    "slip",         "needsservoon",  "servobandwidth", "servodamping",
+    "inposwindow", "inpossettle", "inpostimeout", "followinglimit"};
 
 bool listed(const std::string& key, const char* const* begin, const char* const* end)
 {
@@ -269,6 +270,12 @@ BoardSetup BoardSetup::read(int familyIndex, const IniFile* file)
             k.read("ServoLag", ax.servoLag, 0, 1000);
             k.read("Slip", ax.slip, 0, 1000);
             k.read("NeedsServoOn", ax.needsServoOn, 0, 1);
+            k.read("ServoBandwidth", ax.servoBandwidth, 0, 1000);
+            k.read("ServoDamping", ax.servoDamping, 10, 1000);
+            k.read("InposWindow", ax.inposWindow, 0, far);
+            k.read("InposSettle", ax.inposSettle, 0, 60000);
+            k.read("InposTimeout", ax.inposTimeout, 1, 600000);
+            k.read("FollowingLimit", ax.followingLimit, 0, far);
         }
         setup.cards.push_back(cd);
     }

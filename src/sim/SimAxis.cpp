@@ -14,19 +14,13 @@ using Signal = HomeSearch::Signal;
 
 SimAxis::SimAxis(const BoardSetup::Axis& wiring, bool rn)
     : sensors_(wiring), rn_(rn), counters_(wiring.start), machine_(wiring.start),
-      exact_(static_cast<double>(wiring.start)), servoLagMs_(wiring.servoLag),
-      slipPerMille_(wiring.slip), needsServoOn_(wiring.needsServoOn != 0),
-      heldEncoder_(wiring.start)
+      exact_(static_cast<double>(wiring.start)), motor_(wiring, wiring.start),
+      settleTimeoutMs_(wiring.inposTimeout)
 {}
 
 void SimAxis::setServoOn(bool on)
 {
-    if (on == servo_.servoOn())
-        return;
-    if (!on)
-        heldEncoder_ = restingEncoder();
-    else if (needsServoOn_)
-        slipOffset_ = heldEncoder_ - machine_; // the motor turns again from where it stood
+    motor_.setServoOn(on, machine_);
     servo_.setServoOn(on);
 }
 
@@ -47,6 +41,7 @@ void SimAxis::restoreDefaults()
 void SimAxis::reset()
 {
     activity_ = Activity::Idle;
+    settling_ = false;
     stopping_ = false;
     unitSpeed_ = 0.0;
     profileBits_ = 0;
@@ -284,7 +279,7 @@ void SimAxis::completeHome()
 
 void SimAxis::decelStop()
 {
-    if (!isMoving() || (stopping_ && afterRamp_ == AfterRamp::Finish))
+    if (!isMoving() || settling_ || (stopping_ && afterRamp_ == AfterRamp::Finish))
         return;
     // A move already slowing down to its target keeps its ramp: a fresh one from the present
     // speed would start without the deceleration already built up and end past the target.
@@ -301,7 +296,7 @@ void SimAxis::decelStop()
 void SimAxis::suddenStop()
 {
     if (isMoving())
-        finish(StopCode::None);
+        end(StopCode::None, 0); // at once, not waiting for in-position
 }
 
 void SimAxis::rampDown(AfterRamp after, int32_t code, uint16_t stopBits)
@@ -352,6 +347,24 @@ void SimAxis::profileFinished()
 
 void SimAxis::finish(int32_t code, uint16_t stopBits)
 {
+    // A move that ends as planned, with in-position in use, ends when the drive is there.
+    if (code == StopCode::None && p(Id::SvInposUse) != 0 && !settling_) {
+        settling_ = true;
+        settleMs_ = 0;
+        settleStopBits_ = stopBits;
+        stopping_ = false;
+        unitSpeed_ = 0.0;
+        profileBits_ = 0;
+        target_.reset();
+        exact_ = static_cast<double>(machine_);
+        return;
+    }
+    end(code, stopBits);
+}
+
+void SimAxis::end(int32_t code, uint16_t stopBits)
+{
+    settling_ = false;
     const bool wasHome = activity_ == Activity::Home;
     activity_ = Activity::Idle;
     stopping_ = false;
@@ -359,7 +372,6 @@ void SimAxis::finish(int32_t code, uint16_t stopBits)
     profileBits_ = 0;
     target_.reset();
     exact_ = static_cast<double>(machine_);
-    lastStep_ = 0;
     errorCode_ = code;
     stopBits_ = stopBits | StatusWords::stopBitsFor(code, rn_);
     errorBits_ = StatusWords::errorBitsFor(code);
@@ -373,19 +385,19 @@ void SimAxis::step(const Lines& lines)
 {
     const int64_t before = machine_;
     advanceOneMs(lines);
-    followServo(before);
+    motor_.step(machine_, machine_ - before, isMoving() && !settling_);
+    if (motor_.overFollowingLimit())
+        servo_.setLatchedAlarm(true); // the drive's own alarm: it stays until reset
+    if (settling_)
+        awaitInPosition(lines);
 }
 
-void SimAxis::followServo(int64_t before)
+void SimAxis::awaitInPosition(const Lines& lines)
 {
-    const int64_t moved = machine_ - before;
-    lastStep_ = isMoving() ? moved : 0;
-    if (slipPerMille_ == 0 || moved == 0 || motorHeld())
-        return;
-    slipRemainder_ += (moved < 0 ? -moved : moved) * slipPerMille_;
-    const int64_t lost = slipRemainder_ / 1000;
-    slipRemainder_ %= 1000;
-    slipOffset_ += moved < 0 ? lost : -lost;
+    if (sensors_.inPosition(motor_.inPosition(), parameters_) && !lines.emergency)
+        end(StopCode::None, settleStopBits_);
+    else if (++settleMs_ >= settleTimeoutMs_)
+        end(StopCode::Other, 0); // in-position never came
 }
 
 void SimAxis::advanceOneMs(const Lines& lines)
@@ -400,6 +412,8 @@ void SimAxis::advanceOneMs(const Lines& lines)
         finish(StopCode::Alarm);
         return;
     }
+    if (settling_)
+        return;
     ++tick_;
     const MotionProfile::Sample s = profile_.at(static_cast<double>(tick_) / 1000.0);
     const double exact = origin_ + scale_ * s.distance;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AxisCounters.h"
+#include "AxisMotor.h"
 #include "AxisParameters.h"
 #include "AxisSensors.h"
 #include "BoardSetup.h"
@@ -46,6 +47,8 @@ public:
     void step(const Lines& lines);
 
     bool isMoving() const { return activity_ != Activity::Idle; }
+    // Moving, or the motor still on its way: the card steps it.
+    bool isActive() const { return isMoving() || motor_.busy(); }
     // Checks run before a start; 0 when the axis may move in `direction`.
     int32_t startCode(int direction, const Lines& lines) const;
     SpeedProfile positionSpeed() const;
@@ -58,10 +61,7 @@ public:
     int64_t machinePosition() const { return machine_; }
     // Where the encoder is: behind the command by the servo's following error while moving,
     // and short of it by what the axis slipped.
-    int64_t encoderPosition() const
-    {
-        return motorHeld() ? heldEncoder_ : restingEncoder() - lastStep_ * servoLagMs_;
-    }
+    int64_t encoderPosition() const { return motor_.encoder(); }
     int32_t errorCode() const { return errorCode_; }
     bool homed() const { return homeOk_; }
     bool isHoming() const { return activity_ == Activity::Home; }
@@ -74,7 +74,11 @@ public:
     uint16_t errorBits() const { return errorBits_; }
     uint16_t profileBits() const { return isMoving() ? profileBits_ : 0; }
     bool senses(HomeSearch::Signal s) const { return sensors_.active(s, machine_, parameters_); }
-    bool inPosition() const { return sensors_.inPosition(!isMoving(), parameters_); }
+    bool inPosition() const
+    {
+        return sensors_.inPosition(pulsesStopped() && motor_.inPosition(), parameters_);
+    }
+    bool pulsesStopped() const { return !isMoving() || settling_; }
     bool alarmActive(const Lines& lines) const;
     bool limitActive(int direction) const { return senses(AxisSensors::limit(direction)); }
     bool compareActive(int direction) const;
@@ -132,9 +136,9 @@ private:
     void clearLatches();
     void completeHome();
     void advanceOneMs(const Lines& lines);
-    void followServo(int64_t before);
-    int64_t restingEncoder() const { return motorHeld() ? heldEncoder_ : machine_ + slipOffset_; }
-    bool motorHeld() const { return needsServoOn_ && !servo_.servoOn(); }
+    void end(int32_t code, uint16_t stopBits);
+    void awaitInPosition(const Lines& lines);
+    int64_t restingEncoder() const { return motor_.resting(machine_); }
 
     AxisSensors sensors_;
     bool rn_ = false;
@@ -162,13 +166,12 @@ private:
     int64_t machine_ = 0;
     double exact_ = 0.0;
 
-    int64_t servoLagMs_ = 0;
-    int64_t slipPerMille_ = 0;
-    int64_t lastStep_ = 0; // pulses of the last millisecond while moving
-    int64_t slipOffset_ = 0;
-    bool needsServoOn_ = false;
-    int64_t heldEncoder_ = 0; // where the encoder stays while the servo is off
-    int64_t slipRemainder_ = 0;
+    AxisMotor motor_;
+    // With in-position use on, a move's end waits here for INP.
+    bool settling_ = false;
+    int64_t settleMs_ = 0;
+    int64_t settleTimeoutMs_ = 0;
+    uint16_t settleStopBits_ = 0;
 
     int32_t errorCode_ = 0;
     uint16_t stopBits_ = 0;

@@ -122,12 +122,12 @@ bool SimCard::step()
     bool moving = false;
     for (int i = 0; i < axisCount(); ++i) {
         SimAxis& a = axes_[static_cast<std::size_t>(i)];
-        if (!a.isMoving())
+        if (!a.isActive())
             continue;
+        const bool wasMoving = a.isMoving();
         a.step(linesFor(i));
-        if (a.isMoving())
-            moving = true;
-        else if (a.errorCode() < 0 && onAbnormalStop)
+        moving = moving || a.isActive();
+        if (wasMoving && !a.isMoving() && a.errorCode() < 0 && onAbnormalStop)
             onAbnormalStop(i, a.errorCode());
     }
     return moving || anyMoving();
@@ -135,7 +135,7 @@ bool SimCard::step()
 
 bool SimCard::anyMoving() const
 {
-    return std::any_of(axes_.begin(), axes_.end(), [](const SimAxis& a) { return a.isMoving(); });
+    return std::any_of(axes_.begin(), axes_.end(), [](const SimAxis& a) { return a.isActive(); });
 }
 
 void SimCard::reset()

@@ -46,7 +46,7 @@ public:
     bool multiStop(int n, const uint16_t* axes, bool rampDown);
     void stop(int axis, bool rampDown);
 
-    // One millisecond for every axis; true while any axis still moves.
+    // One millisecond for every axis; true while any axis still moves or settles.
     bool step();
     bool anyMoving() const;
     void reset();
