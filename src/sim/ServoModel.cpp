@@ -70,7 +70,8 @@ void ServoModel::step(int64_t command, bool moving)
         encoder_ += static_cast<int64_t>(ahead);
     if (!moving && std::fabs(to - position_) < 0.5 && std::fabs(speed_) < 0.01)
         encoder_ = command;
-    settledMs_ = withinWindow() ? settledMs_ + 1 : 0;
+    // Settling counts from the last pulse on.
+    settledMs_ = !moving && withinWindow() ? settledMs_ + 1 : 0;
     atRest_ = !moving && encoder_ == command && std::fabs(speed_) < 0.01 &&
               settledMs_ >= settings_.settleMs;
 }

@@ -1,5 +1,6 @@
 #include "SimAxis.h"
 
+#include "AxisSpeeds.h"
 #include "SimConstants.h"
 #include "StatusWords.h"
 
@@ -60,26 +61,6 @@ void SimAxis::clearLatches()
     stopBits_ = 0;
     errorBits_ = 0;
     homeStopBits_ = 0;
-}
-
-SpeedProfile SimAxis::speedFor(int32_t initial, int32_t drive, int32_t accel, int32_t decel) const
-{
-    SpeedProfile::Request r;
-    r.initial = initial;
-    r.drive = drive;
-    r.accelMs = accel;
-    r.decelMs = decel;
-    r.shape = p(Id::SpeedMode) == 1 ? SpeedProfile::Shape::SCurve : SpeedProfile::Shape::Trapezoid;
-    // A magnification of 0 is read as 100, like a fresh board.
-    r.range = p(Id::RangeMode) == 0 ? 100 : p(Id::RangeMode);
-    r.fixedRange = p(Id::FixedRange) != 0;
-    return SpeedProfile(r);
-}
-
-SpeedProfile SimAxis::homeSpeed(bool fast) const
-{
-    const int32_t low = p(Id::HomeLow);
-    return speedFor(low, fast ? p(Id::HomeHigh) : low, p(Id::HomeAccDec), p(Id::HomeAccDec));
 }
 
 // ---- counters and signals -------------------------------------------------------------
@@ -152,11 +133,6 @@ void SimAxis::begin(Activity activity, const MotionProfile& profile, const Speed
     profileBits_ = s.driveBits;
 }
 
-SpeedProfile SimAxis::positionSpeed() const
-{
-    return speedFor(p(Id::PosInitial), p(Id::PosDrive), p(Id::PosAccel), p(Id::PosDecel));
-}
-
 bool SimAxis::moveBy(int64_t distance, const Lines& lines)
 {
     if (isMoving())
@@ -169,7 +145,7 @@ bool SimAxis::moveBy(int64_t distance, const Lines& lines)
         finish(code);
         return true;
     }
-    const SpeedProfile speed = positionSpeed();
+    const SpeedProfile speed = AxisSpeeds::position(parameters_);
     begin(Activity::Move,
           MotionProfile::positioning(static_cast<double>(std::llabs(distance)), speed), speed, dir);
     target_ = machine_ + distance;
@@ -191,8 +167,7 @@ bool SimAxis::jog(int direction, const Lines& lines)
         finish(code);
         return true;
     }
-    const SpeedProfile speed =
-        speedFor(p(Id::JogInitial), p(Id::JogDrive), p(Id::JogAccel), p(Id::JogAccel));
+    const SpeedProfile speed = AxisSpeeds::jog(parameters_);
     begin(Activity::Jog, MotionProfile::endless(speed), speed, dir);
     return true;
 }
@@ -232,7 +207,7 @@ void SimAxis::startLeg()
                 homeSearch_.advance();
                 continue;
             }
-            const SpeedProfile speed = homeSpeed(true);
+            const SpeedProfile speed = AxisSpeeds::home(parameters_, true);
             begin(Activity::Home,
                   MotionProfile::positioning(std::fabs(static_cast<double>(offset)), speed), speed,
                   offset > 0 ? 1 : -1);
@@ -264,7 +239,7 @@ void SimAxis::startLeg()
                     machine_);
             return;
         }
-        const SpeedProfile speed = homeSpeed(leg.fast);
+        const SpeedProfile speed = AxisSpeeds::home(parameters_, leg.fast);
         begin(Activity::Home, MotionProfile::endless(speed), speed, leg.direction);
         return;
     }

@@ -51,7 +51,6 @@ public:
     bool isActive() const { return isMoving() || motor_.busy(); }
     // Checks run before a start; 0 when the axis may move in `direction`.
     int32_t startCode(int direction, const Lines& lines) const;
-    SpeedProfile positionSpeed() const;
 
     int32_t commandPosition() const;
     int32_t actualPosition() const;
@@ -119,8 +118,6 @@ private:
 
     using Id = AxisParameters::Id;
     int32_t p(Id id) const { return parameters_[id]; }
-    SpeedProfile speedFor(int32_t initial, int32_t drive, int32_t accel, int32_t decel) const;
-    SpeedProfile homeSpeed(bool fast) const;
     int64_t compared(int64_t position) const { return counters_.compared(position, parameters_); }
 
     void begin(Activity activity, const MotionProfile& profile, const SpeedProfile& speed,
