@@ -28,10 +28,21 @@ void AxisMotor::setServoOn(bool on, int64_t machine)
     if (on == servoOn_)
         return;
     if (!on)
-        heldEncoder_ = encoder();
+        heldEncoder_ = rawEncoder();
     else if (needsServoOn_)
         slipOffset_ = heldEncoder_ - machine; // the motor turns again from where it stood
     servoOn_ = on;
+}
+
+void AxisMotor::setEncoderLost(bool lost)
+{
+    if (lost == lost_)
+        return;
+    if (lost)
+        frozenEncoder_ = encoder();
+    else
+        lostCounts_ = rawEncoder() - frozenEncoder_;
+    lost_ = lost;
 }
 
 void AxisMotor::step(int64_t machine, int64_t moved, bool pulsing)

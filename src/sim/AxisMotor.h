@@ -20,8 +20,15 @@ public:
     void step(int64_t machine, int64_t moved, bool pulsing);
 
     // Where the encoder is now, and where it comes to rest with the axis at `machine`.
-    int64_t encoder() const { return held() ? heldEncoder_ : model_.encoder(); }
-    int64_t resting(int64_t machine) const { return held() ? heldEncoder_ : machine + slipOffset_; }
+    int64_t encoder() const { return lost_ ? frozenEncoder_ : rawEncoder() - lostCounts_; }
+    int64_t resting(int64_t machine) const
+    {
+        if (lost_)
+            return frozenEncoder_;
+        return (held() ? heldEncoder_ : machine + slipOffset_) - lostCounts_;
+    }
+    // A lost encoder counts nothing until it is back; the motor still turns.
+    void setEncoderLost(bool lost);
     // Not yet at rest on the command: worth stepping although no pulses come.
     bool busy() const { return !held() && model_.busy(); }
     // The drive's in-position output; a drive with its servo off is not in position.
@@ -30,6 +37,7 @@ public:
 
 private:
     bool held() const { return needsServoOn_ && !servoOn_; }
+    int64_t rawEncoder() const { return held() ? heldEncoder_ : model_.encoder(); }
 
     ServoModel model_;
     int64_t slipPerMille_ = 0;
@@ -38,6 +46,9 @@ private:
     bool needsServoOn_ = false;
     bool servoOn_ = false;
     int64_t heldEncoder_ = 0; // where the encoder stays while the servo is off
+    bool lost_ = false;
+    int64_t frozenEncoder_ = 0;
+    int64_t lostCounts_ = 0; // what the encoder missed while it was lost
 };
 
 } // namespace nrxsim

@@ -84,7 +84,7 @@ NRX_FOR_EACH_OPERATION(NRXSIM_EXPORT_OPERATION)
     NRXSIM_EXPORT ret NRXSIM_CAT(NRXSIM_EXTRA_PREFIX, name) params                                 \
     {                                                                                              \
         const std::lock_guard<std::mutex> lock(calls);                                             \
-        return board.name args;                                                                    \
+        return board.extras().name args;                                                           \
     }
 
 NRXSIM_FOR_EACH_EXTRA(NRXSIM_EXPORT_EXTRA)

@@ -387,7 +387,7 @@ void SimAxis::advanceOneMs(const Lines& lines)
         finish(StopCode::Alarm);
         return;
     }
-    if (settling_)
+    if (settling_ || forcedSwitchStops())
         return;
     ++tick_;
     const MotionProfile::Sample s = profile_.at(static_cast<double>(tick_) / 1000.0);
@@ -407,6 +407,36 @@ void SimAxis::advanceOneMs(const Lines& lines)
     exact_ = onTarget ? static_cast<double>(next) : exact;
     if (s.finished)
         profileFinished();
+}
+
+bool SimAxis::forcedSwitchStops()
+{
+    // A switch forced on from outside acts as if the axis had just reached it.
+    const int dir = scale_ > 0 ? 1 : -1;
+    const Signal ahead = AxisSensors::limit(dir);
+    if (activity_ == Activity::Home && !stopping_ && !homeSearch_.finished() &&
+        !homeSearch_.current().offset) {
+        const HomeSearch::Leg& leg = homeSearch_.current();
+        if (sensors_.forced(leg.signal) && senses(leg.signal) == leg.wantActive) {
+            takeEvent(Event{EventKind::Leg, machine_, 0}, machine_);
+            return true;
+        }
+        if (leg.signal == ahead)
+            return false;
+    }
+    if (!sensors_.forced(ahead) || !senses(ahead))
+        return false;
+    const int32_t code = dir > 0 ? StopCode::PlusLimit : StopCode::MinusLimit;
+    const bool origin = activity_ == Activity::Home && homeSearch_.searchesOrigin();
+    if (origin || p(Id::HlmtStop) != 1) {
+        onLimit(dir > 0 ? EventKind::LimitPlus : EventKind::LimitMinus, machine_, machine_);
+        return true;
+    }
+    if (!stopping_)
+        rampDown(AfterRamp::Finish, code, 0);
+    else if (pendingCode_ != code)
+        redirectRamp(code);
+    return !isMoving();
 }
 
 std::optional<SimAxis::Event> SimAxis::firstEvent(int64_t from, int64_t to) const

@@ -84,6 +84,10 @@ public:
 
     // The servo-on output; an axis that needs it holds its encoder while it is off.
     void setServoOn(bool on);
+    // Faults switched from outside while running.
+    void forceSwitch(HomeSearch::Signal s, bool on) { sensors_.setForced(s, on); }
+    void setInposStuck(int how) { sensors_.setInposStuck(how); }
+    void setEncoderLost(bool lost) { motor_.setEncoderLost(lost); }
     ServoLink& servo() { return servo_; }
     const ServoLink& servo() const { return servo_; }
 
@@ -135,6 +139,7 @@ private:
     void advanceOneMs(const Lines& lines);
     void end(int32_t code, uint16_t stopBits);
     void awaitInPosition(const Lines& lines);
+    bool forcedSwitchStops();
     int64_t restingEncoder() const { return motor_.resting(machine_); }
 
     AxisSensors sensors_;

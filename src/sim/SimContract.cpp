@@ -553,45 +553,4 @@ nrx_u16 SimContract::GetInputStatus(nrx_u16 c, nrx_u16 a)
     return statusWord(c, a, &StatusWords::input);
 }
 
-// ---- extras ---------------------------------------------------------------------------------
-
-nrx_i32 SimContract::SetManualClock(nrx_i32 on)
-{
-    family_.advance();
-    family_.clock().setManual(on != 0);
-    return 0;
-}
-
-nrx_i32 SimContract::AdvanceClock(nrx_i32 ms)
-{
-    if (!family_.clock().advance(ms))
-        return -1;
-    family_.advance();
-    return 0;
-}
-
-nrx_i32 SimContract::SetDataFolder(const char* folder)
-{
-    family_.setDataFolder(folder ? folder : "");
-    return 0;
-}
-
-nrx_i32 SimContract::SetSignal(nrx_u16 c, nrx_u16 a, nrx_u16 signal, nrx_u16 on)
-{
-    SimCard* cd = card(c);
-    if (!cd)
-        return 0;
-    if (signal == NRXSIM_SIGNAL_EMERGENCY)
-        cd->setForcedEmergency(on != 0);
-    else if (signal == NRXSIM_SIGNAL_ALARM && cd->axis(a))
-        cd->axis(a)->servo().setLatchedAlarm(on != 0);
-    return 0;
-}
-
-nrx_i32 SimContract::GetMachinePos(nrx_u16 c, nrx_u16 a)
-{
-    const SimAxis* ax = axis(c, a);
-    return ax ? static_cast<nrx_i32>(ax->machinePosition()) : 0;
-}
-
 } // namespace nrxsim

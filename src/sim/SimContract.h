@@ -1,8 +1,8 @@
 #pragma once
 
 #include "SimFamily.h"
+#include "SimRehearsal.h"
 #include "nrx_contract.h"
-#include "nrxsim_extras.h"
 
 namespace nrxsim {
 
@@ -25,9 +25,10 @@ public:
         return family_.forcedResult(op);
     }
 
-#define NRXSIM_DECLARE_EXTRA_(ret, name, params, args) ret name params;
-    NRXSIM_FOR_EACH_EXTRA(NRXSIM_DECLARE_EXTRA_)
-#undef NRXSIM_DECLARE_EXTRA_
+    SimRehearsal& extras()
+    {
+        return extras_;
+    }
 
 private:
     using Id = AxisParameters::Id;
@@ -46,6 +47,7 @@ private:
     nrx_i32 command(nrx_u16 card, nrx_u16 axis, const char* what, bool accepted, nrx_i32 value = 0);
 
     SimFamily family_;
+    SimRehearsal extras_{family_};
 };
 
 } // namespace nrxsim

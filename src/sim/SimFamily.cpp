@@ -125,6 +125,19 @@ int32_t SimFamily::load()
     return result;
 }
 
+bool SimFamily::setForcedResult(const std::string& operation, bool use, int32_t result)
+{
+    for (int op = 0; op < kBoardOpCount; ++op) {
+        if (operation != kBoardOps[op].name || static_cast<BoardOp>(op) == BoardOp::LoadDevice)
+            continue;
+        auto& forced = setup_.forcedResults[static_cast<std::size_t>(op)];
+        forced = use ? std::optional<int32_t>(result) : std::nullopt;
+        note(SimLog::Errors, operation + (use ? " forced to " + std::to_string(result) : " freed"));
+        return true;
+    }
+    return false;
+}
+
 void SimFamily::unload()
 {
     cards_.clear();

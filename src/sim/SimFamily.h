@@ -34,6 +34,10 @@ public:
         return forced && op != BoardOp::LoadDevice ? &*forced : nullptr;
     }
 
+    // Forces (or frees) the result of the operation named as its export without prefix;
+    // false for an unknown name or LoadDevice.
+    bool setForcedResult(const std::string& operation, bool use, int32_t result);
+
     // Catches motion up with the clock in whole milliseconds.
     void advance()
     {

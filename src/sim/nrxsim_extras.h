@@ -11,7 +11,17 @@
  *                             NRXSIM_SIGNAL_ALARM: the axis's servo raises (1) an alarm that
  *                             stays until PutSvAlmRst(1) or SetSignal(.., 0);
  *                             NRXSIM_SIGNAL_EMERGENCY: the card's EMG switch is pressed (1)
- *                             or released (0); axis is ignored
+ *                             or released (0); axis is ignored;
+ *                             LIMIT_PLUS, LIMIT_MINUS, ORIGIN, Z: the switch is held
+ *                             actuated (1) wherever the axis is, or follows it again (0);
+ *                             INP_ON, INP_OFF: the in-position line is stuck actuated or
+ *                             released (1), or free again (0);
+ *                             ENCODER_LOSS: the actual position stands still (1) or counts
+ *                             again from there (0)
+ *   SetForcedResult(operation, use, result)
+ *                             use 1: the operation (its export name without prefix) does
+ *                             nothing and returns result, as the boards file's Fail.<op>;
+ *                             use 0: it works again; -1 for an unknown name or LoadDevice
  *   GetMachinePos(card, axis) the axis's place in machine pulses, the frame of the sensor
  *                             positions in the boards file
  */
@@ -22,6 +32,13 @@
 
 #define NRXSIM_SIGNAL_ALARM 0
 #define NRXSIM_SIGNAL_EMERGENCY 1
+#define NRXSIM_SIGNAL_LIMIT_PLUS 2
+#define NRXSIM_SIGNAL_LIMIT_MINUS 3
+#define NRXSIM_SIGNAL_ORIGIN 4
+#define NRXSIM_SIGNAL_Z 5
+#define NRXSIM_SIGNAL_INP_ON 6
+#define NRXSIM_SIGNAL_INP_OFF 7
+#define NRXSIM_SIGNAL_ENCODER_LOSS 8
 
 /* X(return type, name, parameter list, argument list) */
 #define NRXSIM_FOR_EACH_EXTRA(X)                                                                   \
@@ -30,7 +47,9 @@
     X(nrx_i32, SetDataFolder, (const char* folder), (folder))                                      \
     X(nrx_i32, SetSignal, (nrx_u16 card, nrx_u16 axis, nrx_u16 signal, nrx_u16 on),                \
       (card, axis, signal, on))                                                                    \
-    X(nrx_i32, GetMachinePos, (nrx_u16 card, nrx_u16 axis), (card, axis))
+    X(nrx_i32, GetMachinePos, (nrx_u16 card, nrx_u16 axis), (card, axis))                          \
+    X(nrx_i32, SetForcedResult, (const char* operation, nrx_i32 use, nrx_i32 result),              \
+      (operation, use, result))
 
 /* Export prefixes of the extras, indexed by family (RL, RM, RN). */
 #define NRXSIM_FOR_EACH_EXTRA_PREFIX(F)                                                            \
