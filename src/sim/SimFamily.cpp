@@ -113,9 +113,10 @@ int32_t SimFamily::load()
                                      " stopped with " + std::to_string(code));
         };
         const std::string name = ParameterFile::fileName(familyIndex_, c);
-        if (ParameterFile::load(pathOf(name), familyIndex_, c, card) ==
+        std::string problem;
+        if (ParameterFile::load(pathOf(name), familyIndex_, c, card, problem) ==
             ParameterFile::Result::Damaged) {
-            note(SimLog::Errors, name + " does not match this card");
+            note(SimLog::Always, pathOf(name) + " not applied: " + problem);
             damaged = true;
         }
     }

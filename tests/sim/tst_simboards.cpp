@@ -173,15 +173,22 @@ private slots:
     void parameterFile_damagedOrForeignGivesMinus2_data()
     {
         QTest::addColumn<QString>("damage");
-        QTest::newRow("truncated") << "truncate";
-        QTest::newRow("value edited") << "edit";
-        QTest::newRow("other axis count") << "axes";
-        QTest::newRow("empty") << "empty";
-        QTest::newRow("binary junk") << "junk";
+        QTest::addColumn<QString>("problemText");
+        QTest::newRow("truncated") << "truncate"
+                                   << "no checksum line";
+        QTest::newRow("value edited") << "edit"
+                                      << "checksum does not match";
+        QTest::newRow("other axis count") << "axes"
+                                          << "made for RL card 0 with 4 axes";
+        QTest::newRow("empty") << "empty"
+                               << "no checksum line";
+        QTest::newRow("binary junk") << "junk"
+                                     << "no checksum line";
     }
     void parameterFile_damagedOrForeignGivesMinus2()
     {
         QFETCH(QString, damage);
+        QFETCH(QString, problemText);
         QCOMPARE(rl().loadIn(dir_->path()), 1);
         rl().nrx.SetRangeMode(0, 0, 42);
         rl().nrx.SaveFile(0);
@@ -202,9 +209,14 @@ private slots:
         else
             QVERIFY(TextFile::write(file, text));
 
+        QVERIFY(TextFile::write(file + ".new", "half a save"));
         QCOMPARE(rl().loadIn(dir_->path()), -2);
         // The sound parameters were not half applied.
         QCOMPARE(rl().nrx.GetRangeMode(0, 0), 100);
+        // The log names the file and what is wrong with it, at any log level.
+        const QString log = TextFile::read(path("NrxSimRL.log"));
+        QVERIFY2(log.contains("NrxSimRL_Card0.prm not applied: " + problemText), qPrintable(log));
+        QVERIFY(!QFile::exists(file + ".new")); // what an interrupted save left
         rl().nrx.UnloadDevice();
         QFile::remove(file);
         QVERIFY(rl().loadIn(dir_->path()) >= 0);
