@@ -142,6 +142,7 @@ bool SimFamily::setForcedResult(const std::string& operation, bool use, int32_t 
 void SimFamily::unload()
 {
     cards_.clear();
+    faults_.reset();
     log_.close();
 }
 
@@ -158,6 +159,8 @@ bool SimFamily::saveCard(int index)
 
 void SimFamily::advanceTo(int64_t now)
 {
+    if (!cards_.empty())
+        faults_.poll(*this, simulatedMs_);
     bool moving = false;
     for (const SimCard& c : cards_)
         moving = moving || c.anyMoving();

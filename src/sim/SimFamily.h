@@ -1,6 +1,7 @@
 #pragma once
 
 #include "BoardSetup.h"
+#include "FaultFile.h"
 #include "SimCard.h"
 #include "SimClock.h"
 #include "SimLog.h"
@@ -65,6 +66,7 @@ private:
     BoardSetup setup_;
     std::vector<SimCard> cards_;
     std::string folder_;
+    FaultFile faults_;
 };
 
 } // namespace nrxsim

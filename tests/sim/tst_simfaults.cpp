@@ -1,6 +1,8 @@
 #include "SimConstants.h"
 #include "SimLibrary.h"
 
+#include <QDir>
+#include <QFile>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -125,6 +127,35 @@ private slots:
         rl_->Inc_Move(0, 0, 500);
         advance(2000);
         QCOMPARE(rl_->GetActualPos(0, 0), 500);
+    }
+
+    void faultsFile_isTakenOverWhileRunning()
+    {
+        const QString file = QDir(dir_.path()).filePath("NrxSimFaults.ini");
+        auto write = [&file](const QByteArray& text) {
+            QFile f(file);
+            QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+            f.write(text);
+        };
+        rl_->Jog_Move(0, 1, 1);
+        advance(200);
+        write("[RL.Card0.Axis1]\nLimitPlus=1\n[RL.Card0.Axis2]\nAlarm=1\nInp=2\n"
+              "[RL]\nFail.SetPosSpeed=-7\n");
+        advance(150);
+        QCOMPARE(rl_->Done(0, 1), 0);
+        QCOMPARE(rl_->GetMotionErrCod(0, 1), -620);
+        QVERIFY(lamp(2, CardBit::Alm));
+        QVERIFY(!lamp(2, CardBit::Inp));
+        QCOMPARE(rl_->SetPosSpeed(0, 0, 100, 1000, 100, 100), -7);
+        write("[RL.Card0]\nEmergency=1\n");
+        advance(150);
+        QVERIFY(!lamp(1, CardBit::LimitPlus));
+        QVERIFY(!lamp(2, CardBit::Alm));
+        QVERIFY(lamp(3, CardBit::Emg));
+        QCOMPARE(rl_->SetPosSpeed(0, 0, 100, 1000, 100, 100), 0);
+        QVERIFY(QFile::remove(file));
+        advance(150);
+        QVERIFY(!lamp(3, CardBit::Emg));
     }
 
     void forcedResults_switchAtRunTime()
