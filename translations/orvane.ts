@@ -1876,6 +1876,13 @@ High Active : Normal Close</source>
     </message>
 </context>
 <context>
+    <name>MessageBoxPrompt</name>
+    <message>
+        <source>... and %1 more line(s) under Show Details</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>MotionButtonColumn</name>
     <message>
         <source>-Jog</source>
@@ -1947,6 +1954,26 @@ High Active : Normal Close</source>
     </message>
     <message>
         <source>Servo Off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop at once, without deceleration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop with the set deceleration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hold the servo driver&apos;s alarm-reset output on while pressed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pulse the servo driver&apos;s counter-clear output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write the parameters shown to the board</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2323,6 +2350,10 @@ High Active : Normal Close</source>
         <source>%1 card %2 has no axis %3</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>%1 is a %2; the file describes it as a %3</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ParameterSourceBox</name>
@@ -2479,6 +2510,18 @@ High Active : Normal Close</source>
     </message>
     <message>
         <source>Line %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>UTF-16 text: save the file as UTF-8</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>... and %1 more fault(s)</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -354,7 +354,14 @@ void COV_MainFrame::saveLayout() const
 
 void COV_MainFrame::closeEvent(QCloseEvent* event)
 {
-    // Cancel keeps the program running, so a slip of the Escape key loses nothing.
+    // Unwritten edits first, so what they write is offered for saving next. Cancel keeps the
+    // program running, so a slip of the Escape key loses nothing.
+    for (ToolView* view : m_tools->openViews()) {
+        if (!view->settleBeforeExit()) {
+            event->ignore();
+            return;
+        }
+    }
     if (!m_startup.offerSave()) {
         event->ignore();
         return;
@@ -413,6 +420,7 @@ void COV_MainFrame::sendToFrame(UserMessage message, int wParam)
         break;
     case UM_HOME_LIMIT_USE:
     case UM_VIEW_COMMAND:
+    case UM_PARAM_LEAVE_CHECK:
         relayToToolViews(message, wParam);
         break;
     default:

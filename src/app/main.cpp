@@ -4,11 +4,18 @@
 
 #include <QApplication>
 
+#include <cstdio>
+
 int main(int argc, char* argv[])
 {
     // "orvane params ..." runs in a shell with no display: decide before any GUI exists.
     if (ParameterCommandLine::isCommand(argc, argv))
         return ParameterCommandLine::main(argc, argv);
+    if (ParameterCommandLine::isStray(argc, argv)) {
+        std::fprintf(stderr, "orvane: unknown command \"%s\"\n%s", argv[1],
+                     qPrintable(ParameterCommandLine::usage()));
+        return ParameterCommandLine::BadInput;
+    }
 
     QApplication qtApp(argc, argv);
     COrvaneApp app;

@@ -1,5 +1,6 @@
 #include "MessageBoxPrompt.h"
 
+#include <QCoreApplication>
 #include <QMessageBox>
 
 namespace {
@@ -28,5 +29,27 @@ PromptAnswer MessageBoxPrompt::askYesNoCancel(const QString& text)
 
 void MessageBoxPrompt::inform(const QString& text)
 {
-    QMessageBox::warning(m_parent, kCaption, text);
+    show(QMessageBox::Warning, text);
+}
+
+void MessageBoxPrompt::notify(const QString& text)
+{
+    show(QMessageBox::Information, text);
+}
+
+void MessageBoxPrompt::show(QMessageBox::Icon icon, const QString& text)
+{
+    const QStringList lines = text.split(QLatin1Char('\n'));
+    if (lines.size() <= kShownLines) {
+        QMessageBox box(icon, kCaption, text, QMessageBox::Ok, m_parent);
+        box.exec();
+        return;
+    }
+    const QString shown = lines.mid(0, kShownLines).join(QLatin1Char('\n')) + QLatin1Char('\n') +
+                          QCoreApplication::translate("MessageBoxPrompt",
+                                                      "... and %1 more line(s) under Show Details")
+                              .arg(lines.size() - kShownLines);
+    QMessageBox box(icon, kCaption, shown, QMessageBox::Ok, m_parent);
+    box.setDetailedText(text);
+    box.exec();
 }

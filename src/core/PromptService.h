@@ -25,4 +25,6 @@ public:
     }
     // A message with an OK button.
     virtual void inform(const QString& text) = 0;
+    // A message that only informs (something worked): the information icon, not a warning.
+    virtual void notify(const QString& text) { inform(text); }
 };

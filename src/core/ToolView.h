@@ -28,6 +28,9 @@ public:
     }
     // The frame has stopped every axis: a window that runs motion sequences ends them.
     virtual void endMotion() {}
+    // The program is about to exit: a window holding unwritten values asks about them (Yes
+    // writes, No drops); false (Cancel) keeps the program running.
+    virtual bool settleBeforeExit() { return true; }
     // The window's own periodic poll, if it has one: benchmarks and tests fire it by hand.
     virtual QTimer* pollTimer() { return nullptr; }
 

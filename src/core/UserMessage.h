@@ -18,6 +18,9 @@ enum UserMessage : int
     UM_STATUS_CARD_CHANGED = 1144,
     UM_STATUS_AXIS_CHANGED = 1145,
     UM_VIEW_COMMAND = 1154,
+    // Values are about to be written over the boards' parameters: a window holding unwritten
+    // edits asks whether to write them first, since the reload that follows drops them.
+    UM_PARAM_LEAVE_CHECK = 1155,
 };
 
 // The tool-window kinds, as carried by UM_OPEN_TOOL and UM_VIEW_COMMAND.

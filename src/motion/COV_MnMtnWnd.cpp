@@ -270,6 +270,7 @@ void COV_MnMtnWnd::onMotionTypeChanged(int index)
     if (jog)
         m_form.repeat->setChecked(false);
     m_form.repeat->setEnabled(!jog);
+    m_form.repeat->setVisible(!jog);
     m_form.count->setEnabled(!jog);
     m_form.delay->setEnabled(!jog);
     const bool infinite = type == MotionType::Relative && m_form.repeat->isChecked();

@@ -4,12 +4,14 @@
 #include "MotionButtonTarget.h"
 #include "MotionSequencer.h"
 
-void MotionButtonActions::press(MotionButton button)
+bool MotionButtonActions::press(MotionButton button)
 {
     if (button == MotionButton::AlarmReset)
-        holdAlarmReset(true);
-    else if (m_target.mayStartMotion())
-        m_sequencer.press(button == MotionButton::Minus ? DirectionMinus : DirectionPlus);
+        return holdAlarmReset(true);
+    if (!m_target.mayStartMotion())
+        return false;
+    m_sequencer.press(button == MotionButton::Minus ? DirectionMinus : DirectionPlus);
+    return true;
 }
 
 void MotionButtonActions::release(MotionButton button)
@@ -20,12 +22,13 @@ void MotionButtonActions::release(MotionButton button)
         m_sequencer.release();
 }
 
-void MotionButtonActions::holdAlarmReset(bool down)
+bool MotionButtonActions::holdAlarmReset(bool down)
 {
     // Only the press tells why nothing happens; the release follows it silently.
     const MotionAxes axes = m_target.buttonAxes(down);
     for (AxisNo axis : axes.axes)
         m_board.PutSvAlmRst(axes.family, axes.card, axis, down ? 1 : 0);
+    return !axes.axes.empty();
 }
 
 void MotionButtonActions::stop(bool sudden)

@@ -27,7 +27,8 @@ public:
         : m_board(board), m_sequencer(sequencer), m_target(target)
     {}
 
-    void press(MotionButton button);
+    // False when the window refused the press (nothing may start now).
+    bool press(MotionButton button);
     void release(MotionButton button);
     // "E-Stop" (sudden) and "S-Stop".
     void stop(bool sudden);
@@ -37,7 +38,8 @@ public:
     void endHeldJog();
 
 private:
-    void holdAlarmReset(bool down);
+    // False when no axis may be reset now.
+    bool holdAlarmReset(bool down);
 
     BoardApi& m_board;
     MotionSequencer& m_sequencer;

@@ -46,6 +46,12 @@ MotionButtonColumn::MotionButtonColumn(bool withSetPrm, QWidget* parent) : QWidg
     parameterSetup = makeNamedButton(tr("Parameter Setup"), "parameterSetupButton");
     scope = makeNamedButton(tr("Scope"), "scopeButton");
     close = makeNamedButton(tr("Close"), "closeButton");
+    eStop->setToolTip(tr("Stop at once, without deceleration"));
+    sStop->setToolTip(tr("Stop with the set deceleration"));
+    alarmReset->setToolTip(tr("Hold the servo driver's alarm-reset output on while pressed"));
+    counterClear->setToolTip(tr("Pulse the servo driver's counter-clear output"));
+    if (setPrm != nullptr)
+        setPrm->setToolTip(tr("Write the parameters shown to the board"));
     eStop->setMinimumHeight(40);
     sStop->setMinimumHeight(40);
     for (QPushButton* button : {eStop, sStop, servo})
@@ -169,10 +175,11 @@ bool MotionButtonColumn::eventFilter(QObject* watched, QEvent* event)
     const MotionButton button = watched == alarmReset ? MotionButton::AlarmReset
                                 : watched == minus    ? MotionButton::Minus
                                                       : MotionButton::Plus;
+    // A refused press never reaches the button: its message box took the release, so the
+    // button would stay drawn pressed.
     if (type == QEvent::MouseButtonPress)
-        m_actions->press(button);
-    else
-        m_actions->release(button);
+        return !m_actions->press(button);
+    m_actions->release(button);
     // The buttons still get the event, so they look pressed.
     return false;
 }

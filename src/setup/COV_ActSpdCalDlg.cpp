@@ -179,6 +179,7 @@ void COV_ActSpdCalDlg::loadAxis()
     m_speedMode->setCurrentIndex(qBound(0, speedMode, 1));
     m_rangeMode->setCurrentIndex(qBound(0, rangeMode, 1));
     applyRangeMode();
+    m_boardRange = range;
     setFieldNumber(m_range, range);
     showRange(range);
     setFieldNumber(m_inputs[DriveRow], drive);
@@ -208,7 +209,10 @@ ActualSpeedCalculator::Request COV_ActSpdCalDlg::readRequest() const
     ActualSpeedCalculator::Request request;
     request.speedMode = m_speedMode->currentIndex();
     request.rangeMode = m_rangeMode->currentIndex();
-    request.range = fieldNumber(m_range);
+    // The automatic range shows what each calculation chose, so the next one starts again
+    // from the board's magnification instead of narrowing step by step.
+    request.range = request.rangeMode == ActualSpeedCalculator::FixedRange ? fieldNumber(m_range)
+                                                                           : m_boardRange;
     request.drive = fieldNumber(m_inputs[DriveRow]);
     request.initial = fieldNumber(m_inputs[InitialRow]);
     request.accelMs = fieldNumber(m_inputs[AccelRow]);

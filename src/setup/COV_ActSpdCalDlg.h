@@ -55,6 +55,8 @@ private:
     QLineEdit* m_inputs[4] = {};
     QLineEdit* m_outputs[4] = {};
     QLineEdit* m_range = nullptr;
+    // The magnification the board held when its card and axis were loaded.
+    int m_boardRange = 100;
     QLineEdit* m_rangeText = nullptr;
     PlotWidget* m_plot = nullptr;
 };

@@ -80,7 +80,7 @@ bool COV_ExportPrmDlg::exportFile()
             tr("The parameters could not be exported to %1:\n%2").arg(path, error));
         return false;
     }
-    m_context.prompt.inform(
+    m_context.prompt.notify(
         tr("The parameters of %1 card(s) were exported to %2.").arg(set.cards.size()).arg(path));
     return true;
 }

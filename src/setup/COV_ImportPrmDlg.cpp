@@ -115,6 +115,8 @@ void COV_ImportPrmDlg::showChanges()
     }
     QString summary = changes.empty() ? tr("The boards already hold every value of the file.")
                                       : tr("%1 parameter(s) would change:").arg(changes.size());
+    for (const QString& other : m_import->otherModels())
+        summary += QLatin1Char('\n') + other + QLatin1Char('.');
     for (const QString& skipped : m_import->skipped())
         summary += tr("\nSkipped %1.").arg(skipped);
     m_summary->setText(summary);
@@ -133,6 +135,8 @@ bool COV_ImportPrmDlg::writeToBoards()
     if (!m_context.prompt.askYesNo(
             tr("Write %1 changed parameter(s) to the boards?").arg(m_import->changes().size())))
         return false;
+    // An open Parameter window reloads after the import: it asks about its edits first.
+    m_context.frame.sendToFrame(UM_PARAM_LEAVE_CHECK);
     AppState& state = m_context.state;
     const auto touched = m_import->apply();
     qCInfo(lcParams).noquote() << "Import of" << m_import->changes().size() << "change(s) from"

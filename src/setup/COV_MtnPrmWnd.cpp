@@ -95,7 +95,8 @@ QWidget* COV_MtnPrmWnd::createRangeGroup()
     for (int r = 1; r <= RangeMagnification::kItems; ++r)
         m_magnification->addItem(QString::number(r));
     m_magnification->setCurrentIndex(99);
-    m_magnification->lineEdit()->installEventFilter(this);
+    // Keys and focus changes arrive at the list, which hands them to its edit directly.
+    m_magnification->installEventFilter(this);
     m_magnification->setToolTip(
         tr("Speed magnification R (1 to 500): speeds run from R to R x 8000 pps"));
     m_rangeMode = listFor("RangeMode");
@@ -224,13 +225,22 @@ void COV_MtnPrmWnd::takeTypedMagnification(bool onEnter)
 
 bool COV_MtnPrmWnd::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == m_magnification->lineEdit()) {
+    if (watched == m_magnification && !m_checking) {
         if (event->type() == QEvent::FocusOut) {
-            takeTypedMagnification(false);
+            // Opening the drop-down list is no leaving; a message box shown by the check is
+            // not either (m_checking).
+            if (static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason) {
+                m_checking = true;
+                takeTypedMagnification(false);
+                m_checking = false;
+            }
         } else if (event->type() == QEvent::KeyPress) {
             const int key = static_cast<QKeyEvent*>(event)->key();
-            if (key == Qt::Key_Return || key == Qt::Key_Enter)
+            if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+                m_checking = true;
                 takeTypedMagnification(true);
+                m_checking = false;
+            }
         }
     }
     return ParameterSetupPage::eventFilter(watched, event);

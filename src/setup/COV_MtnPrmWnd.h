@@ -40,6 +40,8 @@ private:
     PromptService& m_prompt;
     // The family the page last loaded, for the board's magnification on a refused input.
     BoardFamily m_family = BoardFamily::RL;
+    // Set while a typed magnification is checked, so its own message box is no leaving.
+    bool m_checking = false;
 
     QComboBox* m_magnification = nullptr;
     QComboBox* m_rangeMode = nullptr;

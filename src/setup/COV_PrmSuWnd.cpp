@@ -144,7 +144,12 @@ bool COV_PrmSuWnd::leaveCheck(BoardFamily family)
     if (!m_context.prompt.askYesNo(PromptTexts::parametersChanged()))
         return true;
     page->Apply(family);
-    m_context.frame.sendToFrame(UM_PARAM_CHANGED, m_card);
+    // The frame marks the active family's card; after a controller change the written card
+    // is the previous family's, so it is marked here.
+    if (family == m_context.state.active.family)
+        m_context.frame.sendToFrame(UM_PARAM_CHANGED, m_card);
+    else
+        m_context.state.registry.setParametersChanged(family, m_card, true);
     return false;
 }
 
@@ -205,6 +210,9 @@ void COV_PrmSuWnd::onDefaultClicked()
     qCInfo(lcParams) << "Default Prm" << familyShortName(m_context.state.active.family) << "card"
                      << m_card << "axis" << m_axis << "returned" << result;
     refresh();
+    // The other windows showing this axis's parameters take the defaults too.
+    for (ToolKind kind : {ToolSingleAxis, ToolMultiAxis, ToolDigitalIo})
+        m_context.frame.sendToFrame(UM_VIEW_COMMAND, kind);
 }
 
 void COV_PrmSuWnd::onCopyClicked()
@@ -239,8 +247,31 @@ void COV_PrmSuWnd::handleUserMessage(UserMessage message, int wParam)
         if (wParam == ToolParameter)
             refresh();
         break;
+    case UM_PARAM_LEAVE_CHECK:
+        leaveCheck(m_context.state.active.family);
+        break;
     default:
         break;
+    }
+}
+
+bool COV_PrmSuWnd::settleBeforeExit()
+{
+    const BoardFamily family = m_context.state.active.family;
+    ParameterSetupPage* page = m_pages[std::size_t(m_page)];
+    if (!page->IsChanged(family))
+        return true;
+    switch (m_context.prompt.askYesNoCancel(PromptTexts::parametersChanged())) {
+    case PromptAnswer::Cancel:
+        return false;
+    case PromptAnswer::Yes:
+        page->Apply(family);
+        m_context.frame.sendToFrame(UM_PARAM_CHANGED, m_card);
+        return true;
+    default:
+        // Dropped, so closing the window asks nothing more.
+        page->Load(family);
+        return true;
     }
 }
 

@@ -25,6 +25,7 @@ public:
 
     ToolKind kind() const override { return ToolParameter; }
     void handleUserMessage(UserMessage message, int wParam) override;
+    bool settleBeforeExit() override;
 
 protected:
     void askBeforeClose() override;

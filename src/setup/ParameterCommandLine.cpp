@@ -17,6 +17,7 @@
 #include <QFileInfo>
 #include <QTextStream>
 
+#include <algorithm>
 #include <cstring>
 #include <map>
 
@@ -87,17 +88,26 @@ QString ParameterCommandLine::usage()
         "      Check FILE and list what it would change on the boards. Only with --yes\n"
         "      are the changes written; --save then saves the parameter file of every\n"
         "      card written to, so the boards keep the values after power-off.\n"
+        "      Simulated boards belong to the one command that runs them: without\n"
+        "      --save what import writes to them is gone when it ends.\n"
         "  diff A B\n"
         "      Compare two sources, each a FILE or a board as RL:0 (a card) or RL:0:1\n"
         "      (an axis), and list the parameters that differ.\n"
         "\n"
         "Exit codes: 0 success (diff: no difference), 1 diff found differences,\n"
-        "2 bad input (a wrong argument, a damaged file, a board the PC lacks).\n");
+        "2 bad input (a wrong argument, a damaged file, a board the PC lacks),\n"
+        "3 export left out a family whose boards failed to load.\n");
 }
 
 bool ParameterCommandLine::isCommand(int argc, char** argv)
 {
     return argc >= 2 && std::strcmp(argv[1], "params") == 0;
+}
+
+bool ParameterCommandLine::isStray(int argc, char** argv)
+{
+    // Qt's own options start with "-"; any other first word must be a command.
+    return argc >= 2 && argv[1][0] != '-' && !isCommand(argc, argv);
 }
 
 int ParameterCommandLine::main(int argc, char** argv)
@@ -133,7 +143,14 @@ int ParameterCommandLine::main(int argc, char** argv)
         for (int card = 0; card < registry.cardCount(family); ++card)
             startup.readCardInfo(family, static_cast<CardNo>(card));
     }
-    const int result = ParameterCommandLine(board, registry, out, err).run(arguments);
+    ParameterCommandLine command(board, registry, out, err);
+    std::vector<BoardFamily> simulated;
+    for (BoardFamily family : kAllFamilies) {
+        if (loader.isSimulated(family))
+            simulated.push_back(family);
+    }
+    command.setSimulated(std::move(simulated));
+    const int result = command.run(arguments);
     startup.unloadDevices();
     return result;
 }
@@ -196,7 +213,16 @@ int ParameterCommandLine::exportFile(const QStringList& arguments)
                                << positional[0];
     m_err << "Exported " << set.cards.size() << (set.cards.size() == 1 ? " card" : " cards")
           << " to " << positional[0] << Qt::endl;
-    return Success;
+    // A family whose boards failed to load is missing from the file: say so, and fail.
+    bool missing = false;
+    for (BoardFamily family : kAllFamilies) {
+        if ((!scope.family || *scope.family == family) && m_registry.count(family) < 0) {
+            m_err << "Not exported: " << familyDisplayName(family) << " (its boards failed to load)"
+                  << Qt::endl;
+            missing = true;
+        }
+    }
+    return missing ? Incomplete : Success;
 }
 
 int ParameterCommandLine::importFile(const QStringList& arguments)
@@ -222,6 +248,8 @@ int ParameterCommandLine::importFile(const QStringList& arguments)
               << ParameterText::faultList(faults) << Qt::endl;
         return BadInput;
     }
+    for (const QString& other : import.otherModels())
+        m_err << other << Qt::endl;
     for (const QString& skipped : import.skipped())
         m_err << "Skipped " << skipped << Qt::endl;
     for (const ParameterChange& c : import.changes()) {
@@ -256,6 +284,13 @@ int ParameterCommandLine::importFile(const QStringList& arguments)
         m_err << "Not saved: the boards forget these values at power-off unless saved "
                  "(--save)."
               << Qt::endl;
+        const bool simulated = std::any_of(touched.begin(), touched.end(), [this](const auto& t) {
+            return std::find(m_simulated.begin(), m_simulated.end(), t.first) != m_simulated.end();
+        });
+        if (simulated)
+            m_err << "The boards are simulated and belong to this command alone: without "
+                     "--save these values are gone when it ends."
+                  << Qt::endl;
     }
     return Success;
 }
@@ -275,6 +310,13 @@ bool ParameterCommandLine::source(const QString& text, ParameterSet& set)
     const bool known = m_registry.hasBoards(family) && scope->card >= 0 &&
                        scope->card < m_registry.cardCount(family) &&
                        scope->axis < m_registry.axisCount(family, scope->card);
+    const bool card = m_registry.hasBoards(family) && scope->card >= 0 &&
+                      scope->card < m_registry.cardCount(family);
+    if (!known && card) {
+        m_err << "orvane params diff: " << familyDisplayName(family) << '(' << scope->card
+              << ") has no axis " << scope->axis << " on this PC" << Qt::endl;
+        return false;
+    }
     if (!known) {
         m_err << "orvane params diff: this PC has no board " << text
               << " (give a card, e.g. RL:0, or an axis, e.g. RL:0:1)" << Qt::endl;

@@ -1,6 +1,10 @@
 #pragma once
 
+#include "BoardFamily.h"
+
 #include <QStringList>
+
+#include <vector>
 
 class BoardApi;
 class CardRegistry;
@@ -17,6 +21,7 @@ public:
         Success = 0,
         Differences = 1, // diff found some
         BadInput = 2,
+        Incomplete = 3, // export: a family's boards failed to load, the rest was written
     };
 
     ParameterCommandLine(BoardApi& board, const CardRegistry& registry, QTextStream& out,
@@ -24,9 +29,13 @@ public:
 
     // The arguments after "params".
     int run(const QStringList& arguments);
+    // The families whose boards are simulated: their values live only as long as the process.
+    void setSimulated(std::vector<BoardFamily> families) { m_simulated = std::move(families); }
 
     // True when the program was started as "orvane params ...".
     static bool isCommand(int argc, char** argv);
+    // True when the first argument is a word that is no command ("orvane param ...").
+    static bool isStray(int argc, char** argv);
     // The whole run without a display: loads the boards from the program's folder as the
     // program does, runs, unloads. Call instead of creating a QApplication.
     static int main(int argc, char** argv);
@@ -43,4 +52,5 @@ private:
     const CardRegistry& m_registry;
     QTextStream& m_out;
     QTextStream& m_err;
+    std::vector<BoardFamily> m_simulated;
 };

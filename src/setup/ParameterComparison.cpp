@@ -23,16 +23,19 @@ QString sectionKey(const ParameterSet& set, const ParameterSection& section, boo
                                     : ParameterComparison::tr("Axis %1").arg(section.axis);
 }
 
-// A card or an axis set against a larger set meets only its own part of it, when there.
+// A card or an axis set against a larger set meets only its own part of it, when there: an
+// axis within a single card the axis of the same number, within many cards its own.
 ParameterSet narrowed(const ParameterSet& set, const ParameterSet& other)
 {
-    if (!singleCard(other) || singleCard(set))
+    if (!singleCard(other) || set.sections.size() <= other.sections.size())
         return set;
-    const bool oneAxis = other.sections.size() == 1;
+    const ParameterSection& o = other.sections.front();
+    const bool oneAxis = other.sections.size() == 1 && o.axis >= 0;
+    const bool samePlace = singleCard(set);
     ParameterSet part;
     for (const ParameterSection& s : set.sections) {
-        const ParameterSection& o = other.sections.front();
-        if (s.family == o.family && s.card == o.card && (!oneAxis || s.axis == o.axis))
+        const bool card = samePlace || (s.family == o.family && s.card == o.card);
+        if (card && (!oneAxis || s.axis == o.axis))
             part.sections.push_back(s);
     }
     return part.sections.empty() ? set : part;

@@ -45,6 +45,17 @@ void ParameterImport::check(const ParameterSet& file, const CardRegistry& regist
                                                       .arg(section.axis)});
             continue;
         }
+        if (section.axis < 0) {
+            // A renamed section or a file of another card: the values still go, but the
+            // preview says whose they were.
+            const CardDescription* described = file.card(section.family, section.card);
+            const std::string model = registry.modelName(section.family, section.card);
+            if (described != nullptr && !described->model.empty() && described->model != model)
+                m_otherModels << tr("%1 is a %2; the file describes it as a %3")
+                                     .arg(QString::fromStdString(section.name()),
+                                          QString::fromStdString(model),
+                                          QString::fromStdString(described->model));
+        }
         collect(section);
     }
 }

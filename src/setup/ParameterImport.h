@@ -32,6 +32,8 @@ public:
     const std::vector<ParameterFault>& faults() const { return m_faults; }
     // Axes left out because the file was made for another model of the same family.
     const QStringList& skipped() const { return m_skipped; }
+    // Cards the file describes as another model (or family) than the one they are on here.
+    const QStringList& otherModels() const { return m_otherModels; }
     const std::vector<ParameterChange>& changes() const { return m_changes; }
     bool canApply() const { return m_faults.empty(); }
 
@@ -46,5 +48,6 @@ private:
     BoardApi& m_board;
     std::vector<ParameterFault> m_faults;
     QStringList m_skipped;
+    QStringList m_otherModels;
     std::vector<ParameterChange> m_changes;
 };

@@ -39,7 +39,8 @@ std::optional<ParameterScope> ParameterScope::parse(const QString& text)
     for (int i = 1; i < parts.size(); ++i) {
         bool ok = false;
         const int n = parts[i].toInt(&ok);
-        if (!ok || n < 0 || n >= kMaxAxes)
+        // Numbers beyond the boards still name a board, so the PC can say it has none.
+        if (!ok || n < 0 || n > 999)
             return std::nullopt;
         *numbers[i - 1] = n;
     }

@@ -1,6 +1,7 @@
 #include "ParameterText.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QSaveFile>
 #include <QStringDecoder>
 
@@ -96,6 +97,14 @@ public:
 
     ParameterSet run(const QByteArray& text)
     {
+        // UTF-16 shows as one "not text" per line otherwise: name it once.
+        const bool utf16 =
+            text.startsWith("\xFF\xFE") || text.startsWith("\xFE\xFF") ||
+            (text.size() >= 4 && text.left(64).count('\0') * 3 >= text.left(64).size());
+        if (utf16) {
+            fault(0, ParameterText::tr("UTF-16 text: save the file as UTF-8"));
+            return std::move(m_set);
+        }
         QByteArrayList lines = text.split('\n');
         if (!lines.isEmpty() && lines.back().isEmpty())
             lines.removeLast();
@@ -391,11 +400,17 @@ ParameterSet ParameterText::readFile(const QString& path, std::vector<ParameterF
         faults.push_back({0, tr("cannot read %1: %2").arg(path, file.errorString())});
         return {};
     }
-    if (file.size() > kLargest) {
+    // A device or pipe reports no size and may never end: it is no parameter file.
+    if (!QFileInfo(path).isFile()) {
+        faults.push_back({0, tr("%1 is not a regular file").arg(path)});
+        return {};
+    }
+    const QByteArray text = file.read(kLargest + 1);
+    if (text.size() > kLargest) {
         faults.push_back({0, tr("%1 is too large for a parameter file").arg(path)});
         return {};
     }
-    return read(file.readAll(), faults);
+    return read(text, faults);
 }
 
 void ParameterText::merge(std::vector<ParameterFault>& faults,
@@ -409,8 +424,14 @@ void ParameterText::merge(std::vector<ParameterFault>& faults,
 
 QString ParameterText::faultList(const std::vector<ParameterFault>& faults)
 {
+    // A damaged file can fault on every line; the first few hundred say enough.
+    constexpr std::size_t kShown = 200;
     QStringList lines;
-    for (const ParameterFault& f : faults)
+    for (std::size_t i = 0; i < faults.size() && i < kShown; ++i) {
+        const ParameterFault& f = faults[i];
         lines << (f.line > 0 ? tr("Line %1: %2").arg(f.line).arg(f.text) : f.text);
+    }
+    if (faults.size() > kShown)
+        lines << tr("... and %1 more fault(s)").arg(faults.size() - kShown);
     return lines.join(QLatin1Char('\n'));
 }

@@ -50,6 +50,8 @@ public:
             emit closeRequested();
     }
     void endMotion() override { m_log << QStringLiteral("%1:end").arg(m_kind); }
+    bool settleBeforeExit() override { return agreeToExit; }
+    bool agreeToExit = true;
     std::function<void(UserMessage, int)> onMessage;
     bool agreeToClose = true;
     int closeRequests = 0;
@@ -298,11 +300,12 @@ private slots:
         QCOMPARE(seen, QStringList{"status first axis 4, card combo 1"});
 
         rig.log.clear();
-        for (UserMessage message :
-             {UM_STATUS_CARD_CHANGED, UM_STATUS_AXIS_CHANGED, UM_HOME_LIMIT_USE, UM_VIEW_COMMAND})
+        for (UserMessage message : {UM_STATUS_CARD_CHANGED, UM_STATUS_AXIS_CHANGED,
+                                    UM_HOME_LIMIT_USE, UM_VIEW_COMMAND, UM_PARAM_LEAVE_CHECK})
             rig.frame->sendToFrame(message, 3);
         QCOMPARE(rig.log, (QStringList{"101:1144:3", "102:1144:3", "101:1145:3", "102:1145:3",
-                                       "101:1138:3", "102:1138:3", "101:1154:3", "102:1154:3"}));
+                                       "101:1138:3", "102:1138:3", "101:1154:3", "102:1154:3",
+                                       "101:1155:3", "102:1155:3"}));
 
         // Opening the single-axis window announces the active axis.
         rig.log.clear();
@@ -432,6 +435,12 @@ private slots:
         rig.frame->sendToFrame(UM_PARAM_CHANGED, 0);
         rig.frame->chooseFamily(1);
         rig.frame->sendToFrame(UM_PARAM_CHANGED, 1);
+        // A window that cancels the exit keeps the program running, and nothing is asked.
+        rig.frame->openTool(ToolParameter);
+        rig.view(ToolParameter)->agreeToExit = false;
+        QVERIFY(!rig.frame->close());
+        QVERIFY(rig.prompt.questions().isEmpty());
+        rig.view(ToolParameter)->agreeToExit = true;
         rig.prompt.queueAnswers({false, true});
         rig.frame->close();
         QCOMPARE(rig.prompt.questions(),

@@ -1,9 +1,13 @@
 #include "AppState.h"
 #include "BoardStartup.h"
+#include "MessageBoxPrompt.h"
 #include "RecordingBoardSet.h"
 #include "ScriptedPrompt.h"
 
+#include <QApplication>
+#include <QMessageBox>
 #include <QTest>
+#include <QTimer>
 
 // The start-up load with its messages, the card information, the save prompt and the unload.
 class TestBoardStartup : public QObject
@@ -161,6 +165,39 @@ private slots:
         QCOMPARE(rig.prompt.questions().size(), 2);
         QCOMPARE(rig.rl.count(QStringLiteral("SaveFile")), 2);
         QCOMPARE(rig.rn.count(QStringLiteral("SaveFile")), 1);
+    }
+
+    // However many libraries failed, the box fits the screen: the whole list is its details.
+    void messageBox_longTextScrollsAndInformingUsesTheInformationIcon()
+    {
+        MessageBoxPrompt prompt;
+        struct Seen
+        {
+            QString text;
+            QString details;
+            QMessageBox::Icon icon = QMessageBox::NoIcon;
+        } seen;
+        auto readAndClose = [&seen] {
+            QTimer::singleShot(0, [&seen] {
+                auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                QVERIFY(box != nullptr);
+                seen = {box->text(), box->detailedText(), box->icon()};
+                box->accept();
+            });
+        };
+        QStringList problems;
+        for (int i = 0; i < 60; ++i)
+            problems << QStringLiteral("library %1 failed").arg(i);
+        readAndClose();
+        prompt.inform(problems.join(QLatin1Char('\n')));
+        QCOMPARE(seen.text.count(QLatin1Char('\n')), MessageBoxPrompt::kShownLines);
+        QCOMPARE(seen.details, problems.join(QLatin1Char('\n')));
+        QCOMPARE(seen.icon, QMessageBox::Warning);
+        readAndClose();
+        prompt.notify(QStringLiteral("Exported."));
+        QCOMPARE(seen.text, QStringLiteral("Exported."));
+        QVERIFY(seen.details.isEmpty());
+        QCOMPARE(seen.icon, QMessageBox::Information);
     }
 };
 

@@ -116,14 +116,19 @@ private slots:
         QVERIFY(rig.start());
         auto* plus = rig.find<QPushButton>("plusButton");
         rig.check({1});
-        QTest::mouseClick(plus, Qt::LeftButton); // the focused row 0 is not checked
+        // The focused row 0 is not checked: refused, the button is not left drawn pressed.
+        for (QPushButton* button : {plus, rig.find<QPushButton>("alarmResetButton")}) {
+            QTest::mousePress(button, Qt::LeftButton);
+            QVERIFY(!button->isDown());
+            QTest::mouseRelease(button, Qt::LeftButton);
+        }
         rig.find<QPushButton>("eStopButton")->click();
         rig.focus(1);
         QTest::mouseClick(plus, Qt::LeftButton);
         const QString notChecked =
             QStringLiteral("Selected axis in not checked !\n Please check selected axis !");
-        QCOMPARE(rig.prompt.messages(),
-                 (QStringList{notChecked, notChecked, "Please Select at least 2 axes !"}));
+        QCOMPARE(rig.prompt.messages(), (QStringList{notChecked, notChecked, notChecked,
+                                                     "Please Select at least 2 axes !"}));
 
         // Jog two axes; the user unchecks one and changes the motion type before letting go.
         rig.check({2});
@@ -138,7 +143,7 @@ private slots:
         QVERIFY(rig.runToEnd());
         QCOMPARE(rig.api.Done(BoardFamily::RL, 0, 1), 0);
         QCOMPARE(rig.api.Done(BoardFamily::RL, 0, 2), 0);
-        QCOMPARE(rig.prompt.messages().size(), 3);
+        QCOMPARE(rig.prompt.messages().size(), 4);
 
         // E-Stop with the focused row unchecked still ends the running jog on its own axes.
         rig.choose("motionType", int(MotionType::Jog));
@@ -147,7 +152,7 @@ private slots:
         rig.clockwork.run(100, [&] { rig.sim.advance(BoardFamily::RL, 1); });
         rig.focus(0);
         rig.find<QPushButton>("eStopButton")->click();
-        QCOMPARE(rig.prompt.messages().size(), 4);
+        QCOMPARE(rig.prompt.messages().size(), 5);
         const std::int32_t stoppedAt = rig.position(2);
         rig.clockwork.run(100, [&] { rig.sim.advance(BoardFamily::RL, 1); });
         QCOMPARE(rig.position(2), stoppedAt);
@@ -165,6 +170,7 @@ private slots:
         const QSize size = rig.window->size();
         for (MotionType type : {MotionType::Relative, MotionType::Absolute, MotionType::Jog}) {
             rig.choose("motionType", int(type));
+            QCOMPARE(rig.find<QCheckBox>("repeat")->isVisible(), type != MotionType::Jog);
             for (int click = 0; click < 2 && type != MotionType::Jog; ++click) {
                 rig.find<QCheckBox>("repeat")->click();
                 QCoreApplication::processEvents();

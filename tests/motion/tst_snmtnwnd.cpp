@@ -153,6 +153,9 @@ private slots:
     {
         Rig rig;
         rig.open();
+        for (const char* name : {"eStopButton", "sStopButton", "setPrmButton", "counterClearButton",
+                                 "alarmResetButton"})
+            QVERIFY2(!rig.button(name)->toolTip().isEmpty(), name);
         QTest::mousePress(rig.button("alarmResetButton"), Qt::LeftButton);
         QCOMPARE(rig.rl.calls({"PutSvAlmRst"}), QStringList{"PutSvAlmRst(0,1,1)"});
         QTest::mouseRelease(rig.button("alarmResetButton"), Qt::LeftButton);

@@ -158,6 +158,18 @@ private slots:
         QCOMPARE(dialog.rangeEdit()->text(), QStringLiteral("100"));
         QCOMPARE(dialog.rangeText()->text(), QStringLiteral("(100 ~ 800000)"));
         QCOMPARE(dialog.output(1)->text(), QStringLiteral("100"));
+        // Each automatic calculation starts again from the board's magnification, not from the
+        // smaller one the last calculation showed.
+        auto calculateDrive = [&](const char* drive) {
+            dialog.input(0)->setText(QLatin1String(drive));
+            QTest::mouseClick(dialog.findChild<QPushButton*>(QStringLiteral("calculate")),
+                              Qt::LeftButton);
+            return dialog.output(0)->text();
+        };
+        QCOMPARE(calculateDrive("10000"), QStringLiteral("10000"));
+        QCOMPARE(dialog.rangeEdit()->text(), QStringLiteral("2"));
+        QCOMPARE(calculateDrive("2000000"), QStringLiteral("800000"));
+        QCOMPARE(dialog.rangeEdit()->text(), QStringLiteral("100"));
         dialog.rangeModeList()->setCurrentIndex(Calc::FixedRange);
         QVERIFY(!dialog.rangeEdit()->isReadOnly());
     }

@@ -255,6 +255,11 @@ private slots:
         std::vector<ParameterFault> faults;
         ParameterImport import(ParameterText::read(text, faults), rig.api, rig.state.registry);
         QVERIFY(faults.empty() && import.canApply());
+        QCOMPARE(
+            import.otherModels(),
+            QStringList{QStringLiteral("RM.Card0 is a %1; the file describes it as a NRX-RL416V")
+                            .arg(QString::fromStdString(
+                                rig.state.registry.modelName(BoardFamily::RM, 0)))});
         QCOMPARE(import.skipped().size(), 2);
         QVERIFY(import.skipped().front().startsWith(
             QStringLiteral("RM.Card0.Axis2 (the file is for a NRX-RL416V")));
@@ -281,13 +286,43 @@ private slots:
         QCOMPARE(run({"diff", "RL:0", file}), 1);
         QCOMPARE(out, QStringLiteral("Axis 2 OriginDirection: 0 (CW) | 1 (CCW)\n"));
         QCOMPARE(run({"diff", "RL:0:2", "RL:0:1"}), 1);
+        // An axis meets its own section of its card, live or exported.
+        QCOMPARE(run({"diff", "RL:0:1", "RL:0"}), 0);
+        QCOMPARE(run({"diff", "RL:0:2", file}), 1);
+        QCOMPARE(out, QStringLiteral("Axis OriginDirection: 0 (CW) | 1 (CCW)\n"));
 
+        cli.setSimulated({BoardFamily::RL});
         QCOMPARE(run({"import", file}), 0);
         QCOMPARE(out, QStringLiteral("RL.Card0.Axis2 OriginDirection: 0 (CW) -> 1 (CCW)\n"));
         QCOMPARE(rig.api.GetHomeDir(BoardFamily::RL, 0, 2), 0);
         QCOMPARE(run({"import", file, "--yes", "--save"}), 0);
         QCOMPARE(rig.api.GetHomeDir(BoardFamily::RL, 0, 2), 1);
         QVERIFY(QFile::exists(rig.folder.filePath(QStringLiteral("NrxSimRL_Card0.prm"))));
+        // Unsaved on simulated boards: said to last only as long as the command.
+        rig.api.SetHomeDir(BoardFamily::RL, 0, 2, 0);
+        QCOMPARE(run({"import", file, "--yes"}), 0);
+        QVERIFY(err.contains(QLatin1String("simulated")));
+
+        // A family whose boards failed to load is left out, and the export says so.
+        rig.state.registry.setLoadResult(BoardFamily::RN, -3);
+        QCOMPARE(run({"export", file}), 3);
+        QVERIFY(err.contains(QLatin1String("Not exported")));
+        QCOMPARE(run({"diff", "RL:0:9", "RL:0"}), 2);
+        QVERIFY(err.contains(QLatin1String("has no axis 9")));
+        QCOMPARE(run({"import", "/dev/zero"}), 2);
+        QByteArray utf16("\xFF\xFE");
+        for (char c : QByteArray("[Header]\nFormatVersion=1\n"))
+            utf16 += QByteArray(1, c) + QByteArray(1, '\0');
+        const QString wide = rig.folder.filePath(QStringLiteral("wide.ini"));
+        QFile wideFile(wide);
+        QVERIFY(wideFile.open(QIODevice::WriteOnly) && wideFile.write(utf16) > 0);
+        wideFile.close();
+        QCOMPARE(run({"import", wide}), 2);
+        QCOMPARE(err.count(QLatin1String("UTF-16")), 1);
+        const QStringList listed =
+            ParameterText::faultList(std::vector<ParameterFault>(250, {1, "x"})).split('\n');
+        QCOMPARE(listed.size(), 201);
+        QCOMPARE(listed.back(), QStringLiteral("... and 50 more fault(s)"));
 
         for (const QStringList& bad :
              {QStringList{"frob"}, QStringList{"export"},
@@ -322,7 +357,8 @@ private slots:
         QCOMPARE(rig.api.GetFilterTime(BoardFamily::RL, 1, 0), 6);
         QVERIFY(import.writeToBoards());
         QCOMPARE(rig.api.GetFilterTime(BoardFamily::RL, 1, 0), 0);
-        QCOMPARE(frame.sent, (QList<QPair<int, int>>{{UM_PARAM_CHANGED, 1},
+        QCOMPARE(frame.sent, (QList<QPair<int, int>>{{UM_PARAM_LEAVE_CHECK, 0},
+                                                     {UM_PARAM_CHANGED, 1},
                                                      {UM_VIEW_COMMAND, ToolParameter},
                                                      {UM_VIEW_COMMAND, ToolSingleAxis},
                                                      {UM_VIEW_COMMAND, ToolMultiAxis},

@@ -5,11 +5,13 @@
 #include "RecordingBoard.h"
 #include "ScriptedPrompt.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTest>
+#include <QVBoxLayout>
 
 #include <memory>
 
@@ -98,20 +100,27 @@ private slots:
         QTest::addColumn<QString>("message");
         QTest::addColumn<QString>("shown");
         QTest::addColumn<QString>("range");
-        QTest::newRow("zero") << "0"
-                              << "Speed range is greater than 0!"
-                              << "20"
-                              << "(20 ~ 160000)";
-        QTest::newRow("501") << "501"
-                             << "Speed range is smaller than 500!"
-                             << "20"
-                             << "(20 ~ 160000)";
-        QTest::newRow("500") << "500" << QString() << "500"
-                             << "(500 ~ 4000000)";
-        QTest::newRow("12a") << "12a"
-                             << "Input value is incorrect!"
-                             << "12a"
-                             << "(20 ~ 160000)";
+        QTest::addColumn<int>("written");
+        const struct
+        {
+            const char* typed;
+            const char* message;
+            const char* shown;
+            const char* range;
+            int written;
+        } cases[] = {
+            {"0", "Speed range is greater than 0!", "20", "(20 ~ 160000)", 20},
+            {"501", "Speed range is smaller than 500!", "20", "(20 ~ 160000)", 20},
+            {"500", "", "500", "(500 ~ 4000000)", 500},
+            {"12a", "Input value is incorrect!", "12a", "(20 ~ 160000)", 20},
+        };
+        for (const auto& c : cases) {
+            for (const char* ending : {"Enter", "Tab"}) {
+                QTest::addRow("%s %s", c.typed, ending)
+                    << QString::fromLatin1(c.typed) << QString::fromLatin1(c.message)
+                    << QString::fromLatin1(c.shown) << QString::fromLatin1(c.range) << c.written;
+            }
+        }
     }
     void magnification_typed()
     {
@@ -119,16 +128,33 @@ private slots:
         QFETCH(QString, message);
         QFETCH(QString, shown);
         QFETCH(QString, range);
+        QFETCH(int, written);
         Rig rig;
         rig.rl.setResult("GetRangeMode", 20);
-        auto page = rig.page(1);
+        QWidget top;
+        auto* layout = new QVBoxLayout(&top);
+        ParameterSetupPage* page = rig.page(1).release();
+        layout->addWidget(page);
+        layout->addWidget(new QLineEdit);
         page->Load(BoardFamily::RL);
-        auto* list = child<QComboBox>(page.get(), "RangeMagnification");
-        list->lineEdit()->setText(typed);
-        QTest::keyClick(list->lineEdit(), Qt::Key_Return);
+        top.show();
+        top.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&top));
+
+        // Keys go where a keyboard's go: to the focused widget, reached as Tab reaches it.
+        auto* list = child<QComboBox>(page, "RangeMagnification");
+        list->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(QApplication::focusWidget(), typed);
+        const bool enter = QString::fromLatin1(QTest::currentDataTag()).endsWith("Enter");
+        QTest::keyClick(QApplication::focusWidget(), enter ? Qt::Key_Return : Qt::Key_Tab);
         QCOMPARE(rig.prompt.messages(), message.isEmpty() ? QStringList() : QStringList{message});
         QCOMPARE(list->currentText(), shown);
-        QCOMPARE(child<QLabel>(page.get(), "rangeText")->text(), range);
+        QCOMPARE(child<QLabel>(page, "rangeText")->text(), range);
+        rig.rl.clearCalls();
+        page->Apply(BoardFamily::RL);
+        QCOMPARE(rig.rl.calls({"SetRangeMode"}),
+                 QStringList{QStringLiteral("SetRangeMode(1,2,%1)").arg(written)});
     }
 
     void boardStates_showAsThePagesShowThem()

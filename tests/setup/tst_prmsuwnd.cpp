@@ -137,7 +137,7 @@ private slots:
         QTest::addColumn<QString>("way");
         QTest::addColumn<bool>("yes");
         for (const char* way :
-             {"tab", "card", "axis", "copy", "controller", "axisMessage", "close"}) {
+             {"tab", "card", "axis", "copy", "controller", "axisMessage", "import", "close"}) {
             QTest::addRow("%s yes", way) << QString::fromLatin1(way) << true;
             QTest::addRow("%s no", way) << QString::fromLatin1(way) << false;
         }
@@ -165,17 +165,47 @@ private slots:
             rig.window->handleUserMessage(UM_CONTROLLER_CHANGED, 0);
         } else if (way == "axisMessage") {
             rig.window->handleUserMessage(UM_AXIS_CHANGED, 2);
+        } else if (way == "import") {
+            rig.window->handleUserMessage(UM_PARAM_LEAVE_CHECK, 0);
         } else {
             rig.click("closeButton");
         }
         QCOMPARE(rig.prompt.questions(), QStringList{kChanged});
         QCOMPARE(rig.limitLevel(BoardFamily::RL, 0, 0), yes ? 1 : 0);
-        QCOMPARE(rig.paramChangedSent(0), yes);
+        // After a controller change the written card is the previous family's.
+        const bool controller = way == "controller";
+        QCOMPARE(rig.paramChangedSent(0), yes && !controller);
+        QCOMPARE(rig.state.registry.parametersChanged(BoardFamily::RL, 0), yes && controller);
+        QVERIFY(!rig.state.registry.parametersChanged(BoardFamily::RN, 0));
         // A No on a tab change drops the edit; before a copy the page keeps it.
         if (way == "tab" || way == "copy") {
             rig.tab(0);
             QCOMPARE(rig.list("LimitLevel")->currentIndex(), yes || way == "copy" ? 1 : 0);
         }
+    }
+
+    void exit_asksAboutUnwrittenEdits()
+    {
+        Rig rig;
+        QVERIFY(rig.start());
+        rig.open();
+        QVERIFY(rig.window->settleBeforeExit());
+        rig.choose("LimitLevel", 1);
+        rig.prompt.queueCancel();
+        QVERIFY(!rig.window->settleBeforeExit());
+        QCOMPARE(rig.list("LimitLevel")->currentIndex(), 1);
+        rig.prompt.queueAnswers({false});
+        QVERIFY(rig.window->settleBeforeExit());
+        QCOMPARE(rig.list("LimitLevel")->currentIndex(), 0);
+        rig.choose("LimitLevel", 1);
+        rig.prompt.queueAnswers({true});
+        QVERIFY(rig.window->settleBeforeExit());
+        QCOMPARE(rig.limitLevel(BoardFamily::RL, 0, 0), 1);
+        QVERIFY(rig.paramChangedSent(0));
+        QCOMPARE(rig.prompt.questions(), QStringList(3, kChanged));
+        // Nothing is left to ask when the window then closes.
+        rig.window->requestClose();
+        QCOMPARE(rig.prompt.questions().size(), 3);
     }
 
     void defaultPrm_andRefresh_resetAxisAndSelectors()
@@ -196,6 +226,10 @@ private slots:
         QCOMPARE(rig.api.GetPulseMode(BoardFamily::RL, 0, 3), 0);
         QCOMPARE(rig.list("PulseMode")->currentIndex(), 0);
         QVERIFY(!rig.paramChangedSent(0));
+        // The motion and I/O windows reload the defaults.
+        QCOMPARE(rig.frame.sent, (QList<QPair<int, int>>{{UM_VIEW_COMMAND, ToolSingleAxis},
+                                                         {UM_VIEW_COMMAND, ToolMultiAxis},
+                                                         {UM_VIEW_COMMAND, ToolDigitalIo}}));
 
         // Card 1 has two axes: axis 3 falls back to 0, in the active controller too.
         rig.choose("cardCombo", 1);
