@@ -1,5 +1,6 @@
 #include "ServoModel.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 
@@ -7,7 +8,7 @@ namespace nrxsim {
 
 namespace {
 constexpr double Pi = 3.14159265358979323846;
-constexpr int SubSteps = 20; // of the second-order loop per millisecond
+constexpr int MinSubSteps = 20; // of the second-order loop per millisecond
 } // namespace
 
 ServoModel::ServoModel(const Settings& settings, int64_t at) : settings_(settings)
@@ -57,8 +58,10 @@ void ServoModel::step(int64_t command, bool moving)
         // x'' = w^2 (command - x) - 2 z w x', the command moving straight through the ms.
         const double w = 2.0 * Pi * settings_.bandwidthHz / 1000.0; // per ms
         const double z = settings_.dampingPercent / 100.0;
-        const double dt = 1.0 / SubSteps;
-        for (int i = 1; i <= SubSteps; ++i) {
+        // Enough sub-steps to keep the integration stable at high bandwidth and damping.
+        const int steps = std::max(MinSubSteps, static_cast<int>(std::ceil(4.0 * w * (1.0 + z))));
+        const double dt = 1.0 / steps;
+        for (int i = 1; i <= steps; ++i) {
             const double target = from + (to - from) * i * dt;
             speed_ += (w * w * (target - position_) - 2.0 * z * w * speed_) * dt;
             position_ += speed_ * dt;

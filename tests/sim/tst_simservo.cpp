@@ -12,12 +12,13 @@ namespace {
 
 // RL card 0: axis 0 as built in, axis 1 needs its servo on to turn, axis 2 has a brisk
 // second-order drive that settles for 20 ms, axis 3 a sluggish one with a following-error
-// limit that needs its servo on (with it off, INP never comes).
+// limit that needs its servo on (with it off, INP never comes), axis 4 the stiffest and most
+// damped drive the settings allow.
 const char* const Boards = R"(
 [RL]
 Cards=1
 [RL.Card0]
-Axes=4
+Axes=5
 [Axes]
 PlusLimit=10000000
 MinusLimit=-10000000
@@ -34,6 +35,9 @@ ServoBandwidth=5
 FollowingLimit=500
 NeedsServoOn=1
 InposTimeout=200
+[RL.Card0.Axis4]
+ServoBandwidth=1000
+ServoDamping=1000
 )";
 
 } // namespace
@@ -95,7 +99,7 @@ private slots:
 
     void actualPosition_neverStepsBackInASlowMove()
     {
-        for (const int axis : {0, 2}) {
+        for (const int axis : {0, 2, 4}) {
             rl_->SetPosSpeed(0, axis, 100, 300, 100, 100);
             rl_->Inc_Move(0, axis, 1500);
             int last = rl_->GetActualPos(0, axis);
