@@ -177,7 +177,7 @@ QMenu* COV_MainFrame::createToolMenu(const QString& title, ToolMenu tools)
 void COV_MainFrame::addToolActions(QMenu& menu, ToolMenu tools)
 {
     for (const ToolWindowKind& entry : toolWindowKinds()) {
-        if (entry.menu != tools)
+        if (entry.menu != tools || (entry.simulatedOnly && !m_board.simulator().anySimulated()))
             continue;
         const ToolKind chosen = entry.kind;
         menu.addAction(toolWindowCaption(chosen), this, [this, chosen] { openTool(chosen); });

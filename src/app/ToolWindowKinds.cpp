@@ -11,6 +11,7 @@
 #include "COV_PrmSuWnd.h"
 #include "COV_SavePrmDlg.h"
 #include "COV_ScopeWnd.h"
+#include "COV_SimulatorWnd.h"
 #include "COV_SnMtnWnd.h"
 #include "COV_SysDbgWnd.h"
 #include "COV_SysIoWnd.h"
@@ -59,6 +60,8 @@ const std::vector<ToolWindowKind>& toolWindowKinds()
          makerOf<COV_ScopeWnd>()},
         {ToolBoardCalls, QT_TRANSLATE_NOOP("ToolWindowKinds", "Board Calls"), ToolMenu::Window,
          makerOf<COV_BoardCallWnd>()},
+        {ToolSimulator, QT_TRANSLATE_NOOP("ToolWindowKinds", "Simulator"), ToolMenu::Window,
+         makerOf<COV_SimulatorWnd>(), true},
     };
     return kinds;
 }

@@ -29,6 +29,7 @@ public:
     }
     // A lost encoder counts nothing until it is back; the motor still turns.
     void setEncoderLost(bool lost);
+    bool encoderLost() const { return lost_; }
     // Not yet at rest on the command: worth stepping although no pulses come.
     bool busy() const { return !held() && model_.busy(); }
     // The drive's in-position output; a drive with its servo off is not in position.

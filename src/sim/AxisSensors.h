@@ -38,6 +38,7 @@ public:
     bool forced(Signal s) const { return forced_[static_cast<int>(s)]; }
     // The in-position line stuck: 0 free, 1 actuated, 2 released.
     void setInposStuck(int how) { inposStuck_ = how; }
+    int inposStuck() const { return inposStuck_; }
 
 private:
     bool actuated(Signal s, int64_t position) const;

@@ -88,6 +88,9 @@ public:
     void forceSwitch(HomeSearch::Signal s, bool on) { sensors_.setForced(s, on); }
     void setInposStuck(int how) { sensors_.setInposStuck(how); }
     void setEncoderLost(bool lost) { motor_.setEncoderLost(lost); }
+    bool switchForced(HomeSearch::Signal s) const { return sensors_.forced(s); }
+    int inposStuck() const { return sensors_.inposStuck(); }
+    bool encoderLost() const { return motor_.encoderLost(); }
     ServoLink& servo() { return servo_; }
     const ServoLink& servo() const { return servo_; }
 

@@ -34,6 +34,7 @@ public:
     bool input(int bit) const;
     bool emergencyActive() const;
     void setForcedEmergency(bool on) { forcedEmergency_ = on; }
+    bool forcedEmergency() const { return forcedEmergency_; }
 
     // Card-wide settings, kept in the parameter file.
     uint16_t emergencyLevel = 0;

@@ -139,6 +139,19 @@ bool SimFamily::setForcedResult(const std::string& operation, bool use, int32_t 
     return false;
 }
 
+int SimFamily::forcedResult(const std::string& operation, int32_t& result) const
+{
+    for (int op = 0; op < kBoardOpCount; ++op) {
+        if (operation != kBoardOps[op].name)
+            continue;
+        const int32_t* forced = forcedResult(static_cast<BoardOp>(op));
+        if (forced)
+            result = *forced;
+        return forced ? 1 : 0;
+    }
+    return -1;
+}
+
 void SimFamily::unload()
 {
     cards_.clear();

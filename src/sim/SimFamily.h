@@ -38,6 +38,9 @@ public:
     // Forces (or frees) the result of the operation named as its export without prefix;
     // false for an unknown name or LoadDevice.
     bool setForcedResult(const std::string& operation, bool use, int32_t result);
+    // 1 with `result` set while the named operation's result is forced, 0 when it is not, -1
+    // for an unknown name.
+    int forcedResult(const std::string& operation, int32_t& result) const;
 
     // Catches motion up with the clock in whole milliseconds.
     void advance()

@@ -54,6 +54,48 @@ nrx_i32 SimRehearsal::SetForcedResult(const char* operation, nrx_i32 use, nrx_i3
     return family_.setForcedResult(operation ? operation : "", use != 0, result) ? 0 : -1;
 }
 
+nrx_i32 SimRehearsal::GetSignal(nrx_u16 c, nrx_u16 a, nrx_u16 signal)
+{
+    SimCard* cd = family_.card(c);
+    if (!cd)
+        return -1;
+    if (signal == NRXSIM_SIGNAL_EMERGENCY)
+        return cd->forcedEmergency() ? 1 : 0;
+    const SimAxis* ax = cd->axis(a);
+    if (!ax)
+        return -1;
+    using S = HomeSearch::Signal;
+    switch (signal) {
+    case NRXSIM_SIGNAL_ALARM:
+        return ax->servo().latchedAlarm() ? 1 : 0;
+    case NRXSIM_SIGNAL_LIMIT_PLUS:
+        return ax->switchForced(S::LimitPlus) ? 1 : 0;
+    case NRXSIM_SIGNAL_LIMIT_MINUS:
+        return ax->switchForced(S::LimitMinus) ? 1 : 0;
+    case NRXSIM_SIGNAL_ORIGIN:
+        return ax->switchForced(S::Org) ? 1 : 0;
+    case NRXSIM_SIGNAL_Z:
+        return ax->switchForced(S::Z) ? 1 : 0;
+    case NRXSIM_SIGNAL_INP_ON:
+        return ax->inposStuck() == 1 ? 1 : 0;
+    case NRXSIM_SIGNAL_INP_OFF:
+        return ax->inposStuck() == 2 ? 1 : 0;
+    case NRXSIM_SIGNAL_ENCODER_LOSS:
+        return ax->encoderLost() ? 1 : 0;
+    default:
+        return -1;
+    }
+}
+
+nrx_i32 SimRehearsal::GetForcedResult(const char* operation, nrx_i32* result)
+{
+    int32_t forced = 0;
+    const int state = family_.forcedResult(operation ? operation : "", forced);
+    if (state == 1 && result)
+        *result = forced;
+    return state;
+}
+
 nrx_i32 SimRehearsal::GetMachinePos(nrx_u16 c, nrx_u16 a)
 {
     family_.advance();

@@ -147,15 +147,27 @@ private slots:
         QVERIFY(lamp(2, CardBit::Alm));
         QVERIFY(!lamp(2, CardBit::Inp));
         QCOMPARE(rl_->SetPosSpeed(0, 0, 100, 1000, 100, 100), -7);
+        // What the file switched reads back, as a window showing the switches needs it.
+        QCOMPARE(lib_->sim.GetSignal(0, 1, NRXSIM_SIGNAL_LIMIT_PLUS), 1);
+        QCOMPARE(lib_->sim.GetSignal(0, 2, NRXSIM_SIGNAL_INP_OFF), 1);
+        QCOMPARE(lib_->sim.GetSignal(0, 2, NRXSIM_SIGNAL_INP_ON), 0);
+        nrx_i32 forced = 0;
+        QCOMPARE(lib_->sim.GetForcedResult("SetPosSpeed", &forced), 1);
+        QCOMPARE(forced, -7);
         write("[RL.Card0]\nEmergency=1\n");
         advance(150);
         QVERIFY(!lamp(1, CardBit::LimitPlus));
         QVERIFY(!lamp(2, CardBit::Alm));
         QVERIFY(lamp(3, CardBit::Emg));
         QCOMPARE(rl_->SetPosSpeed(0, 0, 100, 1000, 100, 100), 0);
+        QCOMPARE(lib_->sim.GetSignal(0, 1, NRXSIM_SIGNAL_LIMIT_PLUS), 0);
+        QCOMPARE(lib_->sim.GetSignal(0, 7, NRXSIM_SIGNAL_EMERGENCY), 1); // the card's, any axis
+        QCOMPARE(lib_->sim.GetForcedResult("SetPosSpeed", &forced), 0);
         QVERIFY(QFile::remove(file));
         advance(150);
         QVERIFY(!lamp(3, CardBit::Emg));
+        QCOMPARE(lib_->sim.GetSignal(0, 4, NRXSIM_SIGNAL_ALARM), -1);
+        QCOMPARE(lib_->sim.GetForcedResult("SetPosSpd", &forced), -1);
     }
 
     void forcedResults_switchAtRunTime()

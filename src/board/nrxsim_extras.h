@@ -22,6 +22,12 @@
  *                             use 1: the operation (its export name without prefix) does
  *                             nothing and returns result, as the boards file's Fail.<op>;
  *                             use 0: it works again; -1 for an unknown name or LoadDevice
+ *   GetSignal(card, axis, signal)
+ *                             1 while SetSignal (or the faults file) holds the signal on,
+ *                             0 when it is free; -1 for no such card, axis or signal
+ *   GetForcedResult(operation, result)
+ *                             1 with *result set while the operation's result is forced, 0
+ *                             when it works; -1 for an unknown name
  *   GetMachinePos(card, axis) the axis's place in machine pulses, the frame of the sensor
  *                             positions in the boards file
  */
@@ -49,7 +55,9 @@
       (card, axis, signal, on))                                                                    \
     X(nrx_i32, GetMachinePos, (nrx_u16 card, nrx_u16 axis), (card, axis))                          \
     X(nrx_i32, SetForcedResult, (const char* operation, nrx_i32 use, nrx_i32 result),              \
-      (operation, use, result))
+      (operation, use, result))                                                                    \
+    X(nrx_i32, GetSignal, (nrx_u16 card, nrx_u16 axis, nrx_u16 signal), (card, axis, signal))      \
+    X(nrx_i32, GetForcedResult, (const char* operation, nrx_i32* result), (operation, result))
 
 /* Export prefixes of the extras, indexed by family (RL, RM, RN). */
 #define NRXSIM_FOR_EACH_EXTRA_PREFIX(F)                                                            \
