@@ -78,6 +78,10 @@
 Do you want to save parameter to file?</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>NrxSimBoards.ini: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>COV_AboutDlg</name>

@@ -111,6 +111,9 @@ bool COV_MainFrame::create(const QStringList& libraryProblems)
 
     if (!m_startup.loadDevices(libraryProblems))
         return false;
+    const QString boardsFileNote = BoardStartup::boardsFileNote(m_board.simulator());
+    if (!boardsFileNote.isEmpty())
+        statusBar()->showMessage(boardsFileNote);
     m_tree->handleUserMessage(UM_TREE_BUILD);
     // The pages draw their captions for the family the tree has just made active.
     m_statusView->handleUserMessage(UM_CONTROLLER_CHANGED, 0);

@@ -82,3 +82,14 @@ std::optional<std::int32_t> BoardSimulator::forcedResult(BoardFamily family, Boa
         return std::nullopt;
     return result;
 }
+
+QStringList BoardSimulator::setupWarnings(BoardFamily family) const
+{
+    const SimExtraTable* table = extras(family);
+    if (table == nullptr || table->GetSetupWarnings == nullptr)
+        return {};
+    QByteArray text(64 * 1024, '\0');
+    if (table->GetSetupWarnings(text.data(), nrx_i32(text.size())) <= 0)
+        return {};
+    return QString::fromUtf8(text.constData()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+}

@@ -4,6 +4,8 @@
 #include "BoardOperationTable.h"
 #include "nrxsim_extras.h"
 
+#include <QStringList>
+
 #include <array>
 #include <cstdint>
 #include <optional>
@@ -49,6 +51,9 @@ public:
     // Forces the operation's result (it then does nothing), or frees it with nullopt.
     bool forceResult(BoardFamily family, BoardOp op, std::optional<std::int32_t> result) const;
     std::optional<std::int32_t> forcedResult(BoardFamily family, BoardOp op) const;
+
+    // What the family's last LoadDevice found wrong in the boards file, one problem a line.
+    QStringList setupWarnings(BoardFamily family) const;
 
 private:
     const SimExtraTable* extras(BoardFamily family) const

@@ -28,6 +28,10 @@
  *   GetForcedResult(operation, result)
  *                             1 with *result set while the operation's result is forced, 0
  *                             when it works; -1 for an unknown name
+ *   GetSetupWarnings(buffer, size)
+ *                             the number of problems the last LoadDevice found in the boards
+ *                             file (unknown sections and keys, bad values); their lines, each
+ *                             ended by a newline, go into buffer, cut to size - 1 characters
  *   GetMachinePos(card, axis) the axis's place in machine pulses, the frame of the sensor
  *                             positions in the boards file
  */
@@ -57,7 +61,8 @@
     X(nrx_i32, SetForcedResult, (const char* operation, nrx_i32 use, nrx_i32 result),              \
       (operation, use, result))                                                                    \
     X(nrx_i32, GetSignal, (nrx_u16 card, nrx_u16 axis, nrx_u16 signal), (card, axis, signal))      \
-    X(nrx_i32, GetForcedResult, (const char* operation, nrx_i32* result), (operation, result))
+    X(nrx_i32, GetForcedResult, (const char* operation, nrx_i32* result), (operation, result))     \
+    X(nrx_i32, GetSetupWarnings, (char* buffer, nrx_i32 size), (buffer, size))
 
 /* Export prefixes of the extras, indexed by family (RL, RM, RN). */
 #define NRXSIM_FOR_EACH_EXTRA_PREFIX(F)                                                            \

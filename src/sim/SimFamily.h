@@ -28,6 +28,7 @@ public:
     int cardCount() const { return static_cast<int>(cards_.size()); }
     SimCard* card(int index);
     int32_t version() const { return setup_.version; }
+    const std::vector<std::string>& setupWarnings() const { return setup_.warnings; }
     // The result the boards file forces on an operation (not LoadDevice), or null.
     const int32_t* forcedResult(BoardOp op) const
     {

@@ -1,5 +1,8 @@
 #include "SimRehearsal.h"
 
+#include <algorithm>
+#include <string>
+
 namespace nrxsim {
 
 nrx_i32 SimRehearsal::SetManualClock(nrx_i32 on)
@@ -94,6 +97,19 @@ nrx_i32 SimRehearsal::GetForcedResult(const char* operation, nrx_i32* result)
     if (state == 1 && result)
         *result = forced;
     return state;
+}
+
+nrx_i32 SimRehearsal::GetSetupWarnings(char* buffer, nrx_i32 size)
+{
+    std::string lines;
+    for (const std::string& warning : family_.setupWarnings())
+        lines += warning + '\n';
+    if (buffer && size > 0) {
+        const std::size_t length = std::min(lines.size(), static_cast<std::size_t>(size - 1));
+        lines.copy(buffer, length);
+        buffer[length] = '\0';
+    }
+    return static_cast<nrx_i32>(family_.setupWarnings().size());
 }
 
 nrx_i32 SimRehearsal::GetMachinePos(nrx_u16 c, nrx_u16 a)

@@ -18,6 +18,7 @@
 #include <QListWidget>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QStatusBar>
 #include <QTest>
 
 namespace {
@@ -45,9 +46,9 @@ private:
         ToolWindowFactory factory;
         std::unique_ptr<COV_MainFrame> frame;
 
-        bool start(bool simulated = true)
+        bool start(bool simulated = true, const QByteArray& boards = Boards)
         {
-            if (!sim.start(false, Boards))
+            if (!sim.start(false, boards))
                 return false;
             if (!simulated) {
                 for (BoardFamily family : kAllFamilies)
@@ -188,6 +189,20 @@ private slots:
         QVERIFY(window->faultBox(2, 1)->isChecked());
         QCOMPARE(forced->item(0)->text(), QStringLiteral("Sudden_Stop returns -9"));
         QVERIFY(rig.lit(2, 6, "LMT-"));
+    }
+
+    void boardsFileProblems_inTheStatusBarOnceAtStart()
+    {
+        {
+            Rig rig;
+            QVERIFY(rig.start(true, Boards + "[Axes]\nPlusLimt=5\nServoDamping=5\n"));
+            const QString shown = rig.frame->statusBar()->currentMessage();
+            QCOMPARE(shown.count("PlusLimt", Qt::CaseInsensitive), 1); // every family reads it
+            QVERIFY2(shown.contains("ServoDamping=5 ignored"), qPrintable(shown));
+        }
+        Rig clean;
+        QVERIFY(clean.start());
+        QCOMPARE(clean.frame->statusBar()->currentMessage(), QStringLiteral("Ready"));
     }
 
     void menu_offersTheWindowOnlyOnSimulatedBoards()
