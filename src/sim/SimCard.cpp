@@ -15,16 +15,6 @@ SimCard::SimCard(const BoardSetup::Card& setup, int familyIndex)
         axes_.emplace_back(setup_.axis[static_cast<std::size_t>(a)], familyIndex == Family::RN);
 }
 
-SimAxis* SimCard::axis(int index)
-{
-    return index >= 0 && index < axisCount() ? &axes_[static_cast<std::size_t>(index)] : nullptr;
-}
-
-const SimAxis* SimCard::axis(int index) const
-{
-    return index >= 0 && index < axisCount() ? &axes_[static_cast<std::size_t>(index)] : nullptr;
-}
-
 bool SimCard::hasPoint(int bit) const
 {
     if (setup_.io == 24)

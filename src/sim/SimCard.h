@@ -22,8 +22,16 @@ public:
     bool isRn() const { return familyIndex_ == Family::RN; }
     int axisCount() const { return static_cast<int>(axes_.size()); }
     int ioCount() const { return setup_.io; }
-    SimAxis* axis(int index);
-    const SimAxis* axis(int index) const;
+    SimAxis* axis(int index)
+    {
+        return index >= 0 && index < axisCount() ? &axes_[static_cast<std::size_t>(index)]
+                                                 : nullptr;
+    }
+    const SimAxis* axis(int index) const
+    {
+        return index >= 0 && index < axisCount() ? &axes_[static_cast<std::size_t>(index)]
+                                                 : nullptr;
+    }
     SimAxis::Lines linesFor(int axis) const;
 
     // Whether the card has a digital point: 0..7 and 16..31 on a 24-point card, as the real

@@ -86,11 +86,6 @@ std::string SimFamily::pathOf(const std::string& fileName) const
     return dataFolder() + fileName;
 }
 
-SimCard* SimFamily::card(int index)
-{
-    return index >= 0 && index < cardCount() ? &cards_[static_cast<std::size_t>(index)] : nullptr;
-}
-
 int32_t SimFamily::load()
 {
     unload();

@@ -26,7 +26,11 @@ public:
     int32_t load();
     void unload();
     int cardCount() const { return static_cast<int>(cards_.size()); }
-    SimCard* card(int index);
+    SimCard* card(int index)
+    {
+        return index >= 0 && index < cardCount() ? &cards_[static_cast<std::size_t>(index)]
+                                                 : nullptr;
+    }
     int32_t version() const { return setup_.version; }
     const std::vector<std::string>& setupWarnings() const { return setup_.warnings; }
     // The result the boards file forces on an operation (not LoadDevice), or null.
