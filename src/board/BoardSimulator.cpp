@@ -10,6 +10,11 @@ constexpr int kOperationFamilies[] = {
 #undef ORVANE_OP_FAMILIES_
 };
 
+// The signals by number, as the log names them.
+constexpr const char* kSignalNames[] = {"alarm",        "EMG",           "+limit",
+                                        "-limit",       "origin",        "Z",
+                                        "INP stuck on", "INP stuck off", "encoder loss"};
+
 } // namespace
 
 void BoardSimulator::setExtras(BoardFamily family, const SimExtraTable* extras)
@@ -34,11 +39,14 @@ bool BoardSimulator::setSignal(BoardFamily family, CardNo card, AxisNo axis, Sim
     if (table == nullptr || table->SetSignal == nullptr ||
         table->SetSignal(card, axis, static_cast<nrx_u16>(signal), on ? 1 : 0) < 0)
         return false;
-    qCInfo(lcBoard).noquote() << QStringLiteral("Simulated %1 card %2 axis %3: signal %4 %5")
+    const auto number = static_cast<std::size_t>(signal);
+    qCInfo(lcBoard).noquote() << QStringLiteral("Simulated %1 card %2 axis %3: %4 %5")
                                      .arg(QLatin1String(familyShortName(family)))
                                      .arg(card)
                                      .arg(axis)
-                                     .arg(static_cast<int>(signal))
+                                     .arg(QLatin1String(number < std::size(kSignalNames)
+                                                            ? kSignalNames[number]
+                                                            : "signal"))
                                      .arg(on ? QStringLiteral("on") : QStringLiteral("off"));
     return true;
 }
