@@ -40,6 +40,10 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Documents/Orvane Axis Tests; each run in a dated folder inside</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Browse...</source>
         <translation type="unfinished"></translation>
     </message>
@@ -137,10 +141,6 @@
     </message>
     <message>
         <source>&quot;Positions&quot; must be whole numbers separated by commas.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Documents/Orvane Axis Tests; each run in a dated folder inside</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -412,6 +412,10 @@
     <message>
         <source>%1(%2) board parameters are changed.
 Do you want to save parameter to file?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>NrxSimBoards.ini: %1</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1708,6 +1712,153 @@ Can not change active controller !</source>
     </message>
     <message>
         <source>Can not write %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>COV_SimulatorWnd</name>
+    <message>
+        <source> +Limit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>plus limit switch held actuated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> -Limit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>minus limit switch held actuated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Origin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>origin switch held actuated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Encoder Z</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>encoder Z mark held on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Alarm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>drive alarm, latched until an alarm reset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> INP On</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>in-position line stuck on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> INP Off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>in-position line stuck off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Enc. Loss</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>encoder lost: the actual position stands still</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Faults (act at once, as the real inputs would)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 Axis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Axis %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> EMG</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The card&apos;s emergency-stop switch pressed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Forced Results (the operation does nothing)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The result the operation returns while forced</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Force</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The chosen operation returns the result and does nothing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The chosen operation works again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Free All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every operation of the family works again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Operation : </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Result : </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Simulator - %1(%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Switches set here hold until switched back or until NrxSimFaults.ini changes, which sets them all as it says.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The boards of this family are not simulated.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 returns %2</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -3641,6 +3792,10 @@ High Active : Normal Close</source>
     </message>
     <message>
         <source>Parameter files (*.ini *.txt);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Simulator</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

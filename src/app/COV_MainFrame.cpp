@@ -113,6 +113,9 @@ bool COV_MainFrame::create(const QStringList& libraryProblems)
 
     if (!m_startup.loadDevices(libraryProblems))
         return false;
+    const QString boardsFileNote = BoardStartup::boardsFileNote(m_board.simulator());
+    if (!boardsFileNote.isEmpty())
+        statusBar()->showMessage(boardsFileNote);
     m_tree->handleUserMessage(UM_TREE_BUILD);
     // The pages draw their captions for the family the tree has just made active.
     m_statusView->handleUserMessage(UM_CONTROLLER_CHANGED, 0);
@@ -183,7 +186,7 @@ QMenu* COV_MainFrame::createToolMenu(const QString& title, ToolMenu tools)
 void COV_MainFrame::addToolActions(QMenu& menu, ToolMenu tools)
 {
     for (const ToolWindowKind& entry : toolWindowKinds()) {
-        if (entry.menu != tools)
+        if (entry.menu != tools || (entry.simulatedOnly && !m_board.simulator().anySimulated()))
             continue;
         const ToolKind chosen = entry.kind;
         menu.addAction(toolWindowCaption(chosen), this, [this, chosen] { openTool(chosen); });

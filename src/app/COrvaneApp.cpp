@@ -43,8 +43,10 @@ int COrvaneApp::run()
 {
     m_loader = std::make_unique<BoardLoader>(m_state.moduleDirectory);
     m_loader->loadAll();
-    for (BoardFamily family : kAllFamilies)
+    for (BoardFamily family : kAllFamilies) {
         m_board.setTable(family, m_loader->table(family));
+        m_board.setSimExtras(family, m_loader->simExtras(family));
+    }
 
     m_frame = std::make_unique<COV_MainFrame>(m_state, m_board, m_prompt, m_factory);
     m_prompt.setParent(m_frame.get());

@@ -12,6 +12,7 @@
 #include "COV_PrmSuWnd.h"
 #include "COV_SavePrmDlg.h"
 #include "COV_ScopeWnd.h"
+#include "COV_SimulatorWnd.h"
 #include "COV_SnMtnWnd.h"
 #include "COV_SysDbgWnd.h"
 #include "COV_SysIoWnd.h"
@@ -62,6 +63,8 @@ const std::vector<ToolWindowKind>& toolWindowKinds()
          makerOf<COV_BoardCallWnd>()},
         {ToolAxisTest, QT_TRANSLATE_NOOP("ToolWindowKinds", "Axis Test"), ToolMenu::Motion,
          makerOf<COV_AxisTestWnd>()},
+        {ToolSimulator, QT_TRANSLATE_NOOP("ToolWindowKinds", "Simulator"), ToolMenu::Window,
+         makerOf<COV_SimulatorWnd>(), true},
     };
     return kinds;
 }

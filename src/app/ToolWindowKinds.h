@@ -25,6 +25,7 @@ struct ToolWindowKind
     const char* caption; // untranslated; see toolWindowCaption()
     ToolMenu menu;
     ToolWindowFactory::Maker make;
+    bool simulatedOnly = false; // offered only while some boards are simulated
 };
 
 // Every tool-window kind of the program in kind order: the one list the frame's menus, the

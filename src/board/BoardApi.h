@@ -4,6 +4,7 @@
 #include "BoardFailureLog.h"
 #include "BoardFamily.h"
 #include "BoardOperationTable.h"
+#include "BoardSimulator.h"
 #include "nrx_contract.h"
 
 #include <QString>
@@ -42,6 +43,7 @@ struct BoardLink
     BoardCallTrace* trace = nullptr;
     QStringList callers;
     BoardFailureLog failures;
+    BoardSimulator simulator;
 };
 
 // Where a handle's calls go and whose they are.
@@ -114,6 +116,13 @@ public:
         m_link->tables.set(family, table);
     }
     bool hasLibrary(BoardFamily family) const { return m_link->tables.find(family) != nullptr; }
+    // Installs (or removes) the extras of a simulated family's library, for the rehearsal
+    // switches every handle reaches through simulator().
+    void setSimExtras(BoardFamily family, const SimExtraTable* extras)
+    {
+        m_link->simulator.setExtras(family, extras);
+    }
+    const BoardSimulator& simulator() const { return m_link->simulator; }
 
     // The trace every handle on these boards writes to; null records nothing. It must
     // outlive its use here.

@@ -95,9 +95,17 @@ void BoardLoader::loadFamily(BoardFamily family)
     }
     slot.ready = true;
     // The simulated boards export extras of their own under a prefix no real library uses.
-    const QByteArray simulatorExport =
-        QByteArray("NRXSIM5") + "249"[familyIndex(family)] + "0L_SetManualClock";
-    slot.simulated = library.resolve(simulatorExport.constData()) != nullptr;
+    const QByteArray simulatorPrefix = QByteArray("NRXSIM5") + "249"[familyIndex(family)] + "0L_";
+#define ORVANE_RESOLVE_EXTRA_(ret, name, params, args)                                             \
+    slot.extras.name = reinterpret_cast<ret(*) params>(library.resolve(simulatorPrefix + #name));
+    NRXSIM_FOR_EACH_EXTRA(ORVANE_RESOLVE_EXTRA_)
+#undef ORVANE_RESOLVE_EXTRA_
+    slot.simulated = slot.extras.SetManualClock != nullptr;
+}
+
+const SimExtraTable* BoardLoader::simExtras(BoardFamily family) const
+{
+    return isSimulated(family) ? &m_families[std::size_t(familyIndex(family))].extras : nullptr;
 }
 
 bool BoardLoader::isSimulated(BoardFamily family) const

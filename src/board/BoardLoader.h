@@ -1,6 +1,7 @@
 #pragma once
 
 #include "BoardFamily.h"
+#include "BoardSimulator.h"
 #include "nrx_contract.h"
 
 #include <QLibrary>
@@ -33,6 +34,8 @@ public:
     QStringList problems() const { return m_problems; }
     // True when the family's library is one of the simulated boards.
     bool isSimulated(BoardFamily family) const;
+    // The simulated library's own exports, or null for a real library (or none).
+    const SimExtraTable* simExtras(BoardFamily family) const;
 
     // "libnrxMApiRlv_x64.so" on Linux, "nrxMApiRlv_x64.dll" on Windows.
     static QString libraryFileName(BoardFamily family);
@@ -49,6 +52,7 @@ private:
         NrxFunctionTable table{};
         bool ready = false;
         bool simulated = false;
+        SimExtraTable extras{};
     };
 
     void loadFamily(BoardFamily family);

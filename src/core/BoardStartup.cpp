@@ -65,6 +65,22 @@ bool BoardStartup::loadDevices(const QStringList& libraryProblems)
     return true;
 }
 
+QString BoardStartup::boardsFileNote(const BoardSimulator& simulator)
+{
+    // Every family reads the one file, so the problems of shared sections come once.
+    QStringList problems;
+    for (BoardFamily family : kAllFamilies) {
+        for (const QString& problem : simulator.setupWarnings(family)) {
+            if (!problems.contains(problem))
+                problems << problem;
+        }
+    }
+    if (problems.isEmpty())
+        return QString();
+    qCWarning(lcApp).noquote() << "NrxSimBoards.ini:" << problems.join(QStringLiteral("; "));
+    return tr("NrxSimBoards.ini: %1").arg(problems.join(QStringLiteral("; ")));
+}
+
 std::int32_t BoardStartup::readCardInfo(BoardFamily family, CardNo card)
 {
     nrx_i32 reserved = 0;

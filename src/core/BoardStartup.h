@@ -9,6 +9,7 @@
 #include <string>
 
 class BoardApi;
+class BoardSimulator;
 class CardRegistry;
 class PromptService;
 
@@ -37,6 +38,10 @@ public:
     bool offerSave();
     // UnloadDevice for each family that has boards.
     void unloadDevices();
+
+    // What the simulated boards found wrong in their boards file at the load, for the status
+    // bar, or an empty text when nothing (or the boards are real).
+    static QString boardsFileNote(const BoardSimulator& simulator);
 
     // The message a LoadDevice result gives, or an empty text for none.
     static QString loadFailureText(BoardFamily family, std::int32_t result);

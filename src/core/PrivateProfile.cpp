@@ -1,8 +1,14 @@
 #include "PrivateProfile.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QList>
 #include <QSaveFile>
+
+#ifndef Q_OS_WIN
+#include <fcntl.h>
+#include <unistd.h>
+#endif
 
 namespace {
 
@@ -59,6 +65,22 @@ QList<QByteArray> readLines(const QString& path, QByteArray& ending)
             line.chop(1);
     }
     return lines;
+}
+
+// The rename that replaced the file is an entry of its folder: only the folder's flush keeps
+// it through a power cut (the file's own content is flushed by the commit, before the rename).
+void flushFolderOf(const QString& path)
+{
+#ifndef Q_OS_WIN
+    const QByteArray folder = QFile::encodeName(QFileInfo(path).absolutePath());
+    const int fd = ::open(folder.constData(), O_RDONLY);
+    if (fd >= 0) {
+        ::fsync(fd);
+        ::close(fd);
+    }
+#else
+    Q_UNUSED(path);
+#endif
 }
 
 } // namespace
@@ -162,7 +184,10 @@ bool PrivateProfile::writeString(const QByteArray& section, const QByteArray& ke
         return false;
     for (const QByteArray& line : lines)
         file.write(line + ending);
-    return file.commit();
+    if (!file.commit())
+        return false;
+    flushFolderOf(m_path);
+    return true;
 }
 
 bool PrivateProfile::writeInt(const QByteArray& section, const QByteArray& key, int value)

@@ -23,7 +23,8 @@ public:
     int readInt(const QByteArray& section, const QByteArray& key, int fallback) const;
 
     // Sets the key, adding it to its section (and the section to the file) when new. The
-    // file is replaced in one step, never left half written.
+    // file is replaced in one step, never left half written: the new content reaches the disk
+    // before the rename, and the folder holding the rename after it.
     bool writeString(const QByteArray& section, const QByteArray& key, const QByteArray& value);
     bool writeInt(const QByteArray& section, const QByteArray& key, int value);
 

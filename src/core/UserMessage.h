@@ -36,6 +36,7 @@ enum ToolKind : int
     ToolScope = 107,
     ToolBoardCalls = 108,
     ToolAxisTest = 109,
+    ToolSimulator = 110,
 };
 constexpr int kToolKindFirst = ToolSystemIo;
-constexpr int kToolKindLast = ToolAxisTest;
+constexpr int kToolKindLast = ToolSimulator;

@@ -17,21 +17,35 @@ bool throughLevel(bool actuated, int wiring, int32_t board)
 
 } // namespace
 
+bool AxisSensors::actuated(Signal s, int64_t position) const
+{
+    if (forced(s))
+        return true;
+    switch (s) {
+    case Signal::Org:
+        return std::llabs(position - wiring_.origin) <= wiring_.originWidth / 2;
+    case Signal::LimitPlus:
+        return position >= wiring_.plusLimit;
+    case Signal::LimitMinus:
+        return position <= wiring_.minusLimit;
+    case Signal::Z:
+        return wiring_.zPeriod > 0 &&
+               pulse::floorMod(position - wiring_.zOffset, wiring_.zPeriod) == 0;
+    }
+    return false;
+}
+
 bool AxisSensors::active(Signal s, int64_t position, const AxisParameters& p) const
 {
     using Id = AxisParameters::Id;
     switch (s) {
     case Signal::Org:
-        return throughLevel(std::llabs(position - wiring_.origin) <= wiring_.originWidth / 2,
-                            wiring_.originLevel, p[Id::Org]);
+        return throughLevel(actuated(s, position), wiring_.originLevel, p[Id::Org]);
     case Signal::LimitPlus:
-        return throughLevel(position >= wiring_.plusLimit, wiring_.limitLevel, p[Id::HlmtLevel]);
     case Signal::LimitMinus:
-        return throughLevel(position <= wiring_.minusLimit, wiring_.limitLevel, p[Id::HlmtLevel]);
+        return throughLevel(actuated(s, position), wiring_.limitLevel, p[Id::HlmtLevel]);
     case Signal::Z:
-        return throughLevel(wiring_.zPeriod > 0 &&
-                                pulse::floorMod(position - wiring_.zOffset, wiring_.zPeriod) == 0,
-                            wiring_.zLevel, p[Id::EncoderZ]);
+        return throughLevel(actuated(s, position), wiring_.zLevel, p[Id::EncoderZ]);
     }
     return false;
 }
@@ -39,6 +53,8 @@ bool AxisSensors::active(Signal s, int64_t position, const AxisParameters& p) co
 std::optional<int64_t> AxisSensors::firstTransition(Signal s, int64_t from, int64_t to, bool want,
                                                     const AxisParameters& p) const
 {
+    if (forced(s))
+        return std::nullopt; // held: the reading does not change along the way
     const int dir = to > from ? 1 : -1;
     int64_t candidates[4];
     int n = 0;
@@ -89,7 +105,8 @@ bool AxisSensors::alarm(bool line, const AxisParameters& p) const
 
 bool AxisSensors::inPosition(bool standing, const AxisParameters& p) const
 {
-    return throughLevel(standing, wiring_.inposLevel, p[AxisParameters::Id::SvInposLevel]);
+    const bool line = inposStuck_ == 0 ? standing : inposStuck_ == 1;
+    return throughLevel(line, wiring_.inposLevel, p[AxisParameters::Id::SvInposLevel]);
 }
 
 } // namespace nrxsim

@@ -4,6 +4,7 @@
 #include "BoardSetup.h"
 #include "HomeSearch.h"
 
+#include <array>
 #include <cstdint>
 #include <optional>
 
@@ -32,8 +33,19 @@ public:
     bool alarm(bool line, const AxisParameters& p) const;
     bool inPosition(bool standing, const AxisParameters& p) const;
 
+    // A switch held actuated from outside, wherever the axis is: a rehearsed fault.
+    void setForced(Signal s, bool on) { forced_[static_cast<int>(s)] = on; }
+    bool forced(Signal s) const { return forced_[static_cast<int>(s)]; }
+    // The in-position line stuck: 0 free, 1 actuated, 2 released.
+    void setInposStuck(int how) { inposStuck_ = how; }
+    int inposStuck() const { return inposStuck_; }
+
 private:
+    bool actuated(Signal s, int64_t position) const;
+
     BoardSetup::Axis wiring_;
+    std::array<bool, 4> forced_{};
+    int inposStuck_ = 0;
 };
 
 } // namespace nrxsim

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <functional>
 
 namespace nrxsim {
 
@@ -89,6 +90,86 @@ void readForcedResults(const IniFile& file, const std::string& family, BoardSetu
     }
 }
 
+// Keys the file may hold, in lower case, by the kind of section.
+constexpr const char* FamilyKeys[] = {"cards", "version", "loadresult"};
+constexpr const char* CardKeys[] = {"axes",           "io",      "firmware", "info", "emergency",
+                                    "emergencylevel", "loopback"};
+constexpr const char* AxisKeys[] = {
+    "start",       "pluslimit",   "minuslimit",   "limitlevel",    "origin",         "originwidth",
+    "originlevel", "zperiod",     "zoffset",      "zlevel",        "alarm",          "alarmlevel",
+    "inposlevel",  "servolag",    "slip",         "needsservoon",  "servobandwidth", "servodamping",
+    "inposwindow", "inpossettle", "inpostimeout", "followinglimit"};
+
+bool listed(const std::string& key, const char* const* begin, const char* const* end)
+{
+    return std::find(begin, end, key) != end;
+}
+
+// "<stem><number>" with a number in [0, count).
+bool numbered(const std::string& text, const std::string& stem, int count)
+{
+    if (text.compare(0, stem.size(), stem) != 0 || text.size() == stem.size())
+        return false;
+    const auto n = IniFile::toInteger(text.substr(stem.size()));
+    return n && *n >= 0 && *n < count && std::isdigit(static_cast<unsigned char>(text.back()));
+}
+
+bool knownOperation(const std::string& key)
+{
+    for (const auto& op : kBoardOps) {
+        std::string name(op.name);
+        std::transform(name.begin(), name.end(), name.begin(),
+                       [](unsigned char ch) { return static_cast<char>(std::tolower(ch)); });
+        if (key == "fail." + name)
+            return true;
+    }
+    return false;
+}
+
+// Notes sections and keys of this family (and [Axes]) that nothing reads: a misspelt name.
+void reportUnknownNames(const IniFile& file, const std::string& familyName,
+                        std::vector<std::string>& warnings)
+{
+    std::string family = familyName;
+    std::transform(family.begin(), family.end(), family.begin(),
+                   [](unsigned char ch) { return static_cast<char>(std::tolower(ch)); });
+    const std::string others[] = {"rl", "rm", "rn"};
+    for (const auto& [section, keys] : file.sections()) {
+        const auto dot = section.find('.');
+        const std::string head = section.substr(0, dot);
+        const std::string rest = dot == std::string::npos ? "" : section.substr(dot + 1);
+        std::function<bool(const std::string&)> known;
+        if (section == family) {
+            known = [](const std::string& k) {
+                return listed(k, std::begin(FamilyKeys), std::end(FamilyKeys)) || knownOperation(k);
+            };
+        } else if (section == "axes" ||
+                   (head == family && rest.find('.') != std::string::npos &&
+                    numbered(rest.substr(0, rest.find('.')), "card", MaxCards) &&
+                    numbered(rest.substr(rest.find('.') + 1), "axis", MaxAxes))) {
+            known = [](const std::string& k) {
+                return listed(k, std::begin(AxisKeys), std::end(AxisKeys));
+            };
+        } else if (head == family && numbered(rest, "card", MaxCards)) {
+            known = [](const std::string& k) {
+                return listed(k, std::begin(CardKeys), std::end(CardKeys)) ||
+                       numbered(k, "input", MaxIoPoints);
+            };
+        } else if (section.empty() ||
+                   (head != family &&
+                    std::find(std::begin(others), std::end(others), head) != std::end(others))) {
+            continue; // another family's, or lines before the first section
+        } else {
+            warnings.push_back("[" + section + "] unknown section");
+            continue;
+        }
+        for (const auto& entry : keys) {
+            if (!known(entry.first))
+                warnings.push_back("[" + section + "] " + entry.first + " unknown key");
+        }
+    }
+}
+
 } // namespace
 
 const char* BoardSetup::familyName(int familyIndex)
@@ -140,6 +221,7 @@ BoardSetup BoardSetup::read(int familyIndex, const IniFile* file)
     const std::string family = familyName(familyIndex);
     if (!file->hasSection(family))
         return setup; // the file describes no board of this family
+    reportUnknownNames(*file, family, setup.warnings);
 
     SectionReader familyKeys(*file, {family}, setup.warnings);
     int cardCount = 1;
@@ -187,6 +269,13 @@ BoardSetup BoardSetup::read(int familyIndex, const IniFile* file)
             k.read("InposLevel", ax.inposLevel, 0, 1);
             k.read("ServoLag", ax.servoLag, 0, 1000);
             k.read("Slip", ax.slip, 0, 1000);
+            k.read("NeedsServoOn", ax.needsServoOn, 0, 1);
+            k.read("ServoBandwidth", ax.servoBandwidth, 0, 1000);
+            k.read("ServoDamping", ax.servoDamping, 10, 1000);
+            k.read("InposWindow", ax.inposWindow, 0, far);
+            k.read("InposSettle", ax.inposSettle, 0, 60000);
+            k.read("InposTimeout", ax.inposTimeout, 1, 600000);
+            k.read("FollowingLimit", ax.followingLimit, 0, far);
         }
         setup.cards.push_back(cd);
     }

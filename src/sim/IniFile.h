@@ -22,6 +22,12 @@ public:
 
     static std::optional<int64_t> toInteger(const std::string& text);
 
+    // Every section with its keys, names in lower case.
+    const std::map<std::string, std::map<std::string, std::string>>& sections() const
+    {
+        return sections_;
+    }
+
 private:
     std::map<std::string, std::map<std::string, std::string>> sections_;
 };

@@ -2,11 +2,15 @@
 // family with NRXSIM_FAMILY (RL, RM, RN), NRXSIM_FAMILY_INDEX, NRXSIM_PREFIX (NRX520L_ ...)
 // and NRXSIM_EXTRA_PREFIX (NRXSIM520L_ ...) defined by the build, so that every name comes
 // from the one operation list of the contract.
+#include "CallLock.h"
+#include "CallShape.h"
 #include "SimContract.h"
 #include "nrx_contract.h"
 #include "nrxsim_extras.h"
 
+#include <mutex> // std::lock_guard
 #include <string_view>
+#include <type_traits>
 
 #if !defined(NRXSIM_FAMILY) || !defined(NRXSIM_FAMILY_INDEX) || !defined(NRXSIM_PREFIX) ||         \
     !defined(NRXSIM_EXTRA_PREFIX)
@@ -53,6 +57,8 @@ NRXSIM_FOR_EACH_EXTRA_PREFIX(NRXSIM_CHECK_EXTRA_PREFIX_)
 
 namespace {
 nrxsim::SimContract board(NRXSIM_FAMILY_INDEX);
+// One caller at a time: every call, reads too, advances the motion shared by all threads.
+nrxsim::CallLock calls;
 } // namespace
 
 // One level more, so that the family mask arrives as a number.
@@ -63,8 +69,13 @@ nrxsim::SimContract board(NRXSIM_FAMILY_INDEX);
                   "family table out of step with the contract");                                   \
     NRXSIM_CAT(NRXSIM_WHEN_, NRXSIM_HAS(fam))                                                      \
     (NRXSIM_EXPORT ret NRXSIM_CAT(NRXSIM_PREFIX, name) params {                                    \
+        static constexpr nrxsim::CallShape shape =                                                 \
+            nrxsim::CallShape::of(#name, #params, std::is_same_v<ret, nrx_i32>);                   \
+        const std::lock_guard<nrxsim::CallLock> lock(calls);                                       \
         if (const int32_t* forced = board.forcedResult(BoardOp::name))                             \
             return static_cast<ret>(*forced);                                                      \
+        if (!shape.reaches(board.family(), nrxsim::CallShape::address args))                       \
+            return static_cast<ret>(shape.status ? nrxsim::CallShape::Refused : 0);                \
         return board.name args;                                                                    \
     })
 
@@ -73,7 +84,8 @@ NRX_FOR_EACH_OPERATION(NRXSIM_EXPORT_OPERATION)
 #define NRXSIM_EXPORT_EXTRA(ret, name, params, args)                                               \
     NRXSIM_EXPORT ret NRXSIM_CAT(NRXSIM_EXTRA_PREFIX, name) params                                 \
     {                                                                                              \
-        return board.name args;                                                                    \
+        const std::lock_guard<nrxsim::CallLock> lock(calls);                                       \
+        return board.extras().name args;                                                           \
     }
 
 NRXSIM_FOR_EACH_EXTRA(NRXSIM_EXPORT_EXTRA)

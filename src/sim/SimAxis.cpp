@@ -1,5 +1,6 @@
 #include "SimAxis.h"
 
+#include "AxisSpeeds.h"
 #include "SimConstants.h"
 #include "StatusWords.h"
 
@@ -14,9 +15,15 @@ using Signal = HomeSearch::Signal;
 
 SimAxis::SimAxis(const BoardSetup::Axis& wiring, bool rn)
     : sensors_(wiring), rn_(rn), counters_(wiring.start), machine_(wiring.start),
-      exact_(static_cast<double>(wiring.start)), servoLagMs_(wiring.servoLag),
-      slipPerMille_(wiring.slip)
+      exact_(static_cast<double>(wiring.start)), motor_(wiring, wiring.start),
+      settleTimeoutMs_(wiring.inposTimeout)
 {}
+
+void SimAxis::setServoOn(bool on)
+{
+    motor_.setServoOn(on, machine_);
+    servo_.setServoOn(on);
+}
 
 void SimAxis::setParameter(Id id, int32_t value)
 {
@@ -35,6 +42,7 @@ void SimAxis::restoreDefaults()
 void SimAxis::reset()
 {
     activity_ = Activity::Idle;
+    settling_ = false;
     stopping_ = false;
     unitSpeed_ = 0.0;
     profileBits_ = 0;
@@ -43,6 +51,7 @@ void SimAxis::reset()
     homeOk_ = false;
     exact_ = static_cast<double>(machine_);
     counters_.zeroAt(machine_, restingEncoder());
+    setServoOn(false);
     servo_.switchOff();
 }
 
@@ -52,26 +61,6 @@ void SimAxis::clearLatches()
     stopBits_ = 0;
     errorBits_ = 0;
     homeStopBits_ = 0;
-}
-
-SpeedProfile SimAxis::speedFor(int32_t initial, int32_t drive, int32_t accel, int32_t decel) const
-{
-    SpeedProfile::Request r;
-    r.initial = initial;
-    r.drive = drive;
-    r.accelMs = accel;
-    r.decelMs = decel;
-    r.shape = p(Id::SpeedMode) == 1 ? SpeedProfile::Shape::SCurve : SpeedProfile::Shape::Trapezoid;
-    // A magnification of 0 is read as 100, like a fresh board.
-    r.range = p(Id::RangeMode) == 0 ? 100 : p(Id::RangeMode);
-    r.fixedRange = p(Id::FixedRange) != 0;
-    return SpeedProfile(r);
-}
-
-SpeedProfile SimAxis::homeSpeed(bool fast) const
-{
-    const int32_t low = p(Id::HomeLow);
-    return speedFor(low, fast ? p(Id::HomeHigh) : low, p(Id::HomeAccDec), p(Id::HomeAccDec));
 }
 
 // ---- counters and signals -------------------------------------------------------------
@@ -137,15 +126,11 @@ void SimAxis::begin(Activity activity, const MotionProfile& profile, const Speed
     origin_ = exact_;
     tick_ = 0;
     stopping_ = false;
+    multiAxis_ = false;
     target_.reset();
     const auto s = profile_.at(0.0);
     unitSpeed_ = s.speed;
     profileBits_ = s.driveBits;
-}
-
-SpeedProfile SimAxis::positionSpeed() const
-{
-    return speedFor(p(Id::PosInitial), p(Id::PosDrive), p(Id::PosAccel), p(Id::PosDecel));
 }
 
 bool SimAxis::moveBy(int64_t distance, const Lines& lines)
@@ -160,7 +145,7 @@ bool SimAxis::moveBy(int64_t distance, const Lines& lines)
         finish(code);
         return true;
     }
-    const SpeedProfile speed = positionSpeed();
+    const SpeedProfile speed = AxisSpeeds::position(parameters_);
     begin(Activity::Move,
           MotionProfile::positioning(static_cast<double>(std::llabs(distance)), speed), speed, dir);
     target_ = machine_ + distance;
@@ -182,8 +167,7 @@ bool SimAxis::jog(int direction, const Lines& lines)
         finish(code);
         return true;
     }
-    const SpeedProfile speed =
-        speedFor(p(Id::JogInitial), p(Id::JogDrive), p(Id::JogAccel), p(Id::JogAccel));
+    const SpeedProfile speed = AxisSpeeds::jog(parameters_);
     begin(Activity::Jog, MotionProfile::endless(speed), speed, dir);
     return true;
 }
@@ -223,7 +207,7 @@ void SimAxis::startLeg()
                 homeSearch_.advance();
                 continue;
             }
-            const SpeedProfile speed = homeSpeed(true);
+            const SpeedProfile speed = AxisSpeeds::home(parameters_, true);
             begin(Activity::Home,
                   MotionProfile::positioning(std::fabs(static_cast<double>(offset)), speed), speed,
                   offset > 0 ? 1 : -1);
@@ -255,7 +239,7 @@ void SimAxis::startLeg()
                     machine_);
             return;
         }
-        const SpeedProfile speed = homeSpeed(leg.fast);
+        const SpeedProfile speed = AxisSpeeds::home(parameters_, leg.fast);
         begin(Activity::Home, MotionProfile::endless(speed), speed, leg.direction);
         return;
     }
@@ -270,15 +254,24 @@ void SimAxis::completeHome()
 
 void SimAxis::decelStop()
 {
-    if (!isMoving() || (stopping_ && afterRamp_ == AfterRamp::Finish))
+    if (!isMoving() || settling_ || (stopping_ && afterRamp_ == AfterRamp::Finish))
         return;
+    // A move already slowing down to its target keeps its ramp: a fresh one from the present
+    // speed would start without the deceleration already built up and end past the target.
+    if (!stopping_ && target_ && (profileBits_ & DriveBit::Descend) != 0) {
+        stopping_ = true;
+        afterRamp_ = AfterRamp::Finish;
+        pendingCode_ = StopCode::None;
+        pendingStopBits_ = 0;
+        return;
+    }
     rampDown(AfterRamp::Finish, StopCode::None, 0);
 }
 
 void SimAxis::suddenStop()
 {
     if (isMoving())
-        finish(StopCode::None);
+        end(StopCode::None, 0); // at once, not waiting for in-position
 }
 
 void SimAxis::rampDown(AfterRamp after, int32_t code, uint16_t stopBits)
@@ -329,6 +322,24 @@ void SimAxis::profileFinished()
 
 void SimAxis::finish(int32_t code, uint16_t stopBits)
 {
+    // A move that ends as planned, with in-position in use, ends when the drive is there.
+    if (code == StopCode::None && p(Id::SvInposUse) != 0 && !settling_) {
+        settling_ = true;
+        settleMs_ = 0;
+        settleStopBits_ = stopBits;
+        stopping_ = false;
+        unitSpeed_ = 0.0;
+        profileBits_ = 0;
+        target_.reset();
+        exact_ = static_cast<double>(machine_);
+        return;
+    }
+    end(code, stopBits);
+}
+
+void SimAxis::end(int32_t code, uint16_t stopBits)
+{
+    settling_ = false;
     const bool wasHome = activity_ == Activity::Home;
     activity_ = Activity::Idle;
     stopping_ = false;
@@ -336,7 +347,6 @@ void SimAxis::finish(int32_t code, uint16_t stopBits)
     profileBits_ = 0;
     target_.reset();
     exact_ = static_cast<double>(machine_);
-    lastStep_ = 0;
     errorCode_ = code;
     stopBits_ = stopBits | StatusWords::stopBitsFor(code, rn_);
     errorBits_ = StatusWords::errorBitsFor(code);
@@ -350,19 +360,19 @@ void SimAxis::step(const Lines& lines)
 {
     const int64_t before = machine_;
     advanceOneMs(lines);
-    followServo(before);
+    motor_.step(machine_, machine_ - before, isMoving() && !settling_);
+    if (motor_.overFollowingLimit())
+        servo_.setLatchedAlarm(true); // the drive's own alarm: it stays until reset
+    if (settling_)
+        awaitInPosition(lines);
 }
 
-void SimAxis::followServo(int64_t before)
+void SimAxis::awaitInPosition(const Lines& lines)
 {
-    const int64_t moved = machine_ - before;
-    lastStep_ = isMoving() ? moved : 0;
-    if (slipPerMille_ == 0 || moved == 0)
-        return;
-    slipRemainder_ += (moved < 0 ? -moved : moved) * slipPerMille_;
-    const int64_t lost = slipRemainder_ / 1000;
-    slipRemainder_ %= 1000;
-    slipOffset_ += moved < 0 ? lost : -lost;
+    if (sensors_.inPosition(motor_.inPosition(), parameters_) && !lines.emergency)
+        end(StopCode::None, settleStopBits_);
+    else if (++settleMs_ >= settleTimeoutMs_)
+        end(StopCode::Other, 0); // in-position never came
 }
 
 void SimAxis::advanceOneMs(const Lines& lines)
@@ -377,6 +387,8 @@ void SimAxis::advanceOneMs(const Lines& lines)
         finish(StopCode::Alarm);
         return;
     }
+    if (settling_ || forcedSwitchStops())
+        return;
     ++tick_;
     const MotionProfile::Sample s = profile_.at(static_cast<double>(tick_) / 1000.0);
     const double exact = origin_ + scale_ * s.distance;
@@ -395,6 +407,36 @@ void SimAxis::advanceOneMs(const Lines& lines)
     exact_ = onTarget ? static_cast<double>(next) : exact;
     if (s.finished)
         profileFinished();
+}
+
+bool SimAxis::forcedSwitchStops()
+{
+    // A switch forced on from outside acts as if the axis had just reached it.
+    const int dir = scale_ > 0 ? 1 : -1;
+    const Signal ahead = AxisSensors::limit(dir);
+    if (activity_ == Activity::Home && !stopping_ && !homeSearch_.finished() &&
+        !homeSearch_.current().offset) {
+        const HomeSearch::Leg& leg = homeSearch_.current();
+        if (sensors_.forced(leg.signal) && senses(leg.signal) == leg.wantActive) {
+            takeEvent(Event{EventKind::Leg, machine_, 0}, machine_);
+            return true;
+        }
+        if (leg.signal == ahead)
+            return false;
+    }
+    if (!sensors_.forced(ahead) || !senses(ahead))
+        return false;
+    const int32_t code = dir > 0 ? StopCode::PlusLimit : StopCode::MinusLimit;
+    const bool origin = activity_ == Activity::Home && homeSearch_.searchesOrigin();
+    if (origin || p(Id::HlmtStop) != 1) {
+        onLimit(dir > 0 ? EventKind::LimitPlus : EventKind::LimitMinus, machine_, machine_);
+        return true;
+    }
+    if (!stopping_)
+        rampDown(AfterRamp::Finish, code, 0);
+    else if (pendingCode_ != code)
+        redirectRamp(code);
+    return !isMoving();
 }
 
 std::optional<SimAxis::Event> SimAxis::firstEvent(int64_t from, int64_t to) const
@@ -479,7 +521,9 @@ void SimAxis::takeEvent(const Event& e, int64_t next)
             homeStopBits_ = DriveBit::StopLimitMinus;
             break;
         }
-        if (leg.rampDown) {
+        // A limit met at speed stops as the limit stop mode says, whatever the search.
+        const bool onLimit = leg.signal == Signal::LimitPlus || leg.signal == Signal::LimitMinus;
+        if (leg.rampDown && !(onLimit && p(Id::HlmtStop) != 1)) {
             machine_ = next;
             exact_ = static_cast<double>(next);
             rampDown(AfterRamp::NextLeg, StopCode::None, 0);

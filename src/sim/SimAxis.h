@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AxisCounters.h"
+#include "AxisMotor.h"
 #include "AxisParameters.h"
 #include "AxisSensors.h"
 #include "BoardSetup.h"
@@ -46,9 +47,10 @@ public:
     void step(const Lines& lines);
 
     bool isMoving() const { return activity_ != Activity::Idle; }
+    // Moving, or the motor still on its way: the card steps it.
+    bool isActive() const { return isMoving() || motor_.busy(); }
     // Checks run before a start; 0 when the axis may move in `direction`.
     int32_t startCode(int direction, const Lines& lines) const;
-    SpeedProfile positionSpeed() const;
 
     int32_t commandPosition() const;
     int32_t actualPosition() const;
@@ -58,21 +60,37 @@ public:
     int64_t machinePosition() const { return machine_; }
     // Where the encoder is: behind the command by the servo's following error while moving,
     // and short of it by what the axis slipped.
-    int64_t encoderPosition() const { return restingEncoder() - lastStep_ * servoLagMs_; }
+    int64_t encoderPosition() const { return motor_.encoder(); }
     int32_t errorCode() const { return errorCode_; }
     bool homed() const { return homeOk_; }
     bool isHoming() const { return activity_ == Activity::Home; }
+    // The motion just started belongs to a multi-axis move (RN's I-RUN).
+    void markMultiAxis() { multiAxis_ = isMoving(); }
+    bool inMultiAxisMove() const { return multiAxis_ && isMoving(); }
 
     // What the status words are made of.
     uint16_t stopBits() const { return stopBits_; }
     uint16_t errorBits() const { return errorBits_; }
     uint16_t profileBits() const { return isMoving() ? profileBits_ : 0; }
     bool senses(HomeSearch::Signal s) const { return sensors_.active(s, machine_, parameters_); }
-    bool inPosition() const { return sensors_.inPosition(!isMoving(), parameters_); }
+    bool inPosition() const
+    {
+        return sensors_.inPosition(pulsesStopped() && motor_.inPosition(), parameters_);
+    }
+    bool pulsesStopped() const { return !isMoving() || settling_; }
     bool alarmActive(const Lines& lines) const;
     bool limitActive(int direction) const { return senses(AxisSensors::limit(direction)); }
     bool compareActive(int direction) const;
 
+    // The servo-on output; an axis that needs it holds its encoder while it is off.
+    void setServoOn(bool on);
+    // Faults switched from outside while running.
+    void forceSwitch(HomeSearch::Signal s, bool on) { sensors_.setForced(s, on); }
+    void setInposStuck(int how) { sensors_.setInposStuck(how); }
+    void setEncoderLost(bool lost) { motor_.setEncoderLost(lost); }
+    bool switchForced(HomeSearch::Signal s) const { return sensors_.forced(s); }
+    int inposStuck() const { return sensors_.inposStuck(); }
+    bool encoderLost() const { return motor_.encoderLost(); }
     ServoLink& servo() { return servo_; }
     const ServoLink& servo() const { return servo_; }
 
@@ -107,8 +125,6 @@ private:
 
     using Id = AxisParameters::Id;
     int32_t p(Id id) const { return parameters_[id]; }
-    SpeedProfile speedFor(int32_t initial, int32_t drive, int32_t accel, int32_t decel) const;
-    SpeedProfile homeSpeed(bool fast) const;
     int64_t compared(int64_t position) const { return counters_.compared(position, parameters_); }
 
     void begin(Activity activity, const MotionProfile& profile, const SpeedProfile& speed,
@@ -124,8 +140,10 @@ private:
     void clearLatches();
     void completeHome();
     void advanceOneMs(const Lines& lines);
-    void followServo(int64_t before);
-    int64_t restingEncoder() const { return machine_ + slipOffset_; }
+    void end(int32_t code, uint16_t stopBits);
+    void awaitInPosition(const Lines& lines);
+    bool forcedSwitchStops();
+    int64_t restingEncoder() const { return motor_.resting(machine_); }
 
     AxisSensors sensors_;
     bool rn_ = false;
@@ -140,6 +158,7 @@ private:
     double origin_ = 0.0;
     int64_t tick_ = 0;
     bool stopping_ = false;
+    bool multiAxis_ = false;
     AfterRamp afterRamp_ = AfterRamp::Finish;
     int32_t pendingCode_ = 0;
     uint16_t pendingStopBits_ = 0;
@@ -152,11 +171,12 @@ private:
     int64_t machine_ = 0;
     double exact_ = 0.0;
 
-    int64_t servoLagMs_ = 0;
-    int64_t slipPerMille_ = 0;
-    int64_t lastStep_ = 0; // pulses of the last millisecond while moving
-    int64_t slipOffset_ = 0;
-    int64_t slipRemainder_ = 0;
+    AxisMotor motor_;
+    // With in-position use on, a move's end waits here for INP.
+    bool settling_ = false;
+    int64_t settleMs_ = 0;
+    int64_t settleTimeoutMs_ = 0;
+    uint16_t settleStopBits_ = 0;
 
     int32_t errorCode_ = 0;
     uint16_t stopBits_ = 0;

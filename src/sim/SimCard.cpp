@@ -15,16 +15,6 @@ SimCard::SimCard(const BoardSetup::Card& setup, int familyIndex)
         axes_.emplace_back(setup_.axis[static_cast<std::size_t>(a)], familyIndex == Family::RN);
 }
 
-SimAxis* SimCard::axis(int index)
-{
-    return index >= 0 && index < axisCount() ? &axes_[static_cast<std::size_t>(index)] : nullptr;
-}
-
-const SimAxis* SimCard::axis(int index) const
-{
-    return index >= 0 && index < axisCount() ? &axes_[static_cast<std::size_t>(index)] : nullptr;
-}
-
 bool SimCard::hasPoint(int bit) const
 {
     if (setup_.io == 24)
@@ -81,6 +71,7 @@ bool SimCard::multiMove(int n, const uint16_t* axes, const int32_t* values, bool
             a.moveTo(values[i], lines);
         else
             a.moveBy(values[i], lines);
+        a.markMultiAxis();
     }
     return true;
 }
@@ -89,8 +80,10 @@ bool SimCard::multiJog(int n, const uint16_t* axes, const uint16_t* directions)
 {
     if (!directions || !validAxes(n, axes))
         return false;
-    for (int i = 0; i < n; ++i)
+    for (int i = 0; i < n; ++i) {
         axes_[axes[i]].jog(directions[i], linesFor(axes[i]));
+        axes_[axes[i]].markMultiAxis();
+    }
     return true;
 }
 
@@ -119,12 +112,12 @@ bool SimCard::step()
     bool moving = false;
     for (int i = 0; i < axisCount(); ++i) {
         SimAxis& a = axes_[static_cast<std::size_t>(i)];
-        if (!a.isMoving())
+        if (!a.isActive())
             continue;
+        const bool wasMoving = a.isMoving();
         a.step(linesFor(i));
-        if (a.isMoving())
-            moving = true;
-        else if (a.errorCode() < 0 && onAbnormalStop)
+        moving = moving || a.isActive();
+        if (wasMoving && !a.isMoving() && a.errorCode() < 0 && onAbnormalStop)
             onAbnormalStop(i, a.errorCode());
     }
     return moving || anyMoving();
@@ -132,7 +125,7 @@ bool SimCard::step()
 
 bool SimCard::anyMoving() const
 {
-    return std::any_of(axes_.begin(), axes_.end(), [](const SimAxis& a) { return a.isMoving(); });
+    return std::any_of(axes_.begin(), axes_.end(), [](const SimAxis& a) { return a.isActive(); });
 }
 
 void SimCard::reset()

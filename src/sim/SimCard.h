@@ -22,8 +22,16 @@ public:
     bool isRn() const { return familyIndex_ == Family::RN; }
     int axisCount() const { return static_cast<int>(axes_.size()); }
     int ioCount() const { return setup_.io; }
-    SimAxis* axis(int index);
-    const SimAxis* axis(int index) const;
+    SimAxis* axis(int index)
+    {
+        return index >= 0 && index < axisCount() ? &axes_[static_cast<std::size_t>(index)]
+                                                 : nullptr;
+    }
+    const SimAxis* axis(int index) const
+    {
+        return index >= 0 && index < axisCount() ? &axes_[static_cast<std::size_t>(index)]
+                                                 : nullptr;
+    }
     SimAxis::Lines linesFor(int axis) const;
 
     // Whether the card has a digital point: 0..7 and 16..31 on a 24-point card, as the real
@@ -34,6 +42,7 @@ public:
     bool input(int bit) const;
     bool emergencyActive() const;
     void setForcedEmergency(bool on) { forcedEmergency_ = on; }
+    bool forcedEmergency() const { return forcedEmergency_; }
 
     // Card-wide settings, kept in the parameter file.
     uint16_t emergencyLevel = 0;
@@ -46,7 +55,7 @@ public:
     bool multiStop(int n, const uint16_t* axes, bool rampDown);
     void stop(int axis, bool rampDown);
 
-    // One millisecond for every axis; true while any axis still moves.
+    // One millisecond for every axis; true while any axis still moves or settles.
     bool step();
     bool anyMoving() const;
     void reset();

@@ -85,8 +85,8 @@ nrx_i32 SimContract::GetDllVersion(const char*)
 
 nrx_i32 SimContract::LogCheck(nrx_u16 level)
 {
-    family_.log().setLevel(std::min<int>(level, SimLog::Parameters));
-    family_.note(SimLog::Errors, "log level " + std::to_string(level));
+    family_.log().setLevel(std::min<int>(level, SimLog::MaxLevel));
+    family_.note(SimLog::Commands, "log level " + std::to_string(level));
     return 0;
 }
 
@@ -428,7 +428,9 @@ nrx_u16 SimContract::servoOutput(nrx_u16 c, nrx_u16 a, bool (ServoLink::*get)() 
 
 nrx_i32 SimContract::PutSvOn(nrx_u16 c, nrx_u16 a, nrx_u16 on)
 {
-    return putServo(c, a, &ServoLink::setServoOn, on);
+    if (SimAxis* ax = axis(c, a))
+        ax->setServoOn(on != 0);
+    return 0;
 }
 
 nrx_u16 SimContract::GetSvOn(nrx_u16 c, nrx_u16 a)
@@ -549,47 +551,6 @@ nrx_u16 SimContract::GetErrStatus(nrx_u16 c, nrx_u16 a)
 nrx_u16 SimContract::GetInputStatus(nrx_u16 c, nrx_u16 a)
 {
     return statusWord(c, a, &StatusWords::input);
-}
-
-// ---- extras ---------------------------------------------------------------------------------
-
-nrx_i32 SimContract::SetManualClock(nrx_i32 on)
-{
-    family_.advance();
-    family_.clock().setManual(on != 0);
-    return 0;
-}
-
-nrx_i32 SimContract::AdvanceClock(nrx_i32 ms)
-{
-    if (!family_.clock().advance(ms))
-        return -1;
-    family_.advance();
-    return 0;
-}
-
-nrx_i32 SimContract::SetDataFolder(const char* folder)
-{
-    family_.setDataFolder(folder ? folder : "");
-    return 0;
-}
-
-nrx_i32 SimContract::SetSignal(nrx_u16 c, nrx_u16 a, nrx_u16 signal, nrx_u16 on)
-{
-    SimCard* cd = card(c);
-    if (!cd)
-        return 0;
-    if (signal == NRXSIM_SIGNAL_EMERGENCY)
-        cd->setForcedEmergency(on != 0);
-    else if (signal == NRXSIM_SIGNAL_ALARM && cd->axis(a))
-        cd->axis(a)->servo().setLatchedAlarm(on != 0);
-    return 0;
-}
-
-nrx_i32 SimContract::GetMachinePos(nrx_u16 c, nrx_u16 a)
-{
-    const SimAxis* ax = axis(c, a);
-    return ax ? static_cast<nrx_i32>(ax->machinePosition()) : 0;
 }
 
 } // namespace nrxsim

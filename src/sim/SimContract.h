@@ -1,8 +1,8 @@
 #pragma once
 
 #include "SimFamily.h"
+#include "SimRehearsal.h"
 #include "nrx_contract.h"
-#include "nrxsim_extras.h"
 
 namespace nrxsim {
 
@@ -10,9 +10,11 @@ namespace nrxsim {
 class SimContract
 {
 public:
-    // Wrong card, axis or bit numbers and null pointers are refused quietly: 0 is returned
-    // and nothing is written.
+    // Bit numbers and null pointers beyond the address are refused quietly: nothing is
+    // written.
     explicit SimContract(int familyIndex);
+
+    SimFamily& family() { return family_; }
 
 #define NRXSIM_DECLARE_OPERATION_(ret, name, params, args, fam) ret name params;
     NRX_FOR_EACH_OPERATION(NRXSIM_DECLARE_OPERATION_)
@@ -23,9 +25,10 @@ public:
         return family_.forcedResult(op);
     }
 
-#define NRXSIM_DECLARE_EXTRA_(ret, name, params, args) ret name params;
-    NRXSIM_FOR_EACH_EXTRA(NRXSIM_DECLARE_EXTRA_)
-#undef NRXSIM_DECLARE_EXTRA_
+    SimRehearsal& extras()
+    {
+        return extras_;
+    }
 
 private:
     using Id = AxisParameters::Id;
@@ -44,6 +47,7 @@ private:
     nrx_i32 command(nrx_u16 card, nrx_u16 axis, const char* what, bool accepted, nrx_i32 value = 0);
 
     SimFamily family_;
+    SimRehearsal extras_{family_};
 };
 
 } // namespace nrxsim

@@ -86,11 +86,6 @@ std::string SimFamily::pathOf(const std::string& fileName) const
     return dataFolder() + fileName;
 }
 
-SimCard* SimFamily::card(int index)
-{
-    return index >= 0 && index < cardCount() ? &cards_[static_cast<std::size_t>(index)] : nullptr;
-}
-
 int32_t SimFamily::load()
 {
     unload();
@@ -98,7 +93,7 @@ int32_t SimFamily::load()
     const auto file = IniFile::load(pathOf(BoardSetup::FileName));
     setup_ = BoardSetup::read(familyIndex_, file ? &*file : nullptr);
     for (const std::string& w : setup_.warnings)
-        note(SimLog::Errors, std::string(BoardSetup::FileName) + ": " + w);
+        note(SimLog::Always, std::string(BoardSetup::FileName) + ": " + w);
 
     if (setup_.forcedLoadResult) {
         note(SimLog::Errors, "LoadDevice forced to " + std::to_string(*setup_.forcedLoadResult));
@@ -113,9 +108,10 @@ int32_t SimFamily::load()
                                      " stopped with " + std::to_string(code));
         };
         const std::string name = ParameterFile::fileName(familyIndex_, c);
-        if (ParameterFile::load(pathOf(name), familyIndex_, c, card) ==
+        std::string problem;
+        if (ParameterFile::load(pathOf(name), familyIndex_, c, card, problem) ==
             ParameterFile::Result::Damaged) {
-            note(SimLog::Errors, name + " does not match this card");
+            note(SimLog::Always, pathOf(name) + " not applied: " + problem);
             damaged = true;
         }
     }
@@ -125,9 +121,36 @@ int32_t SimFamily::load()
     return result;
 }
 
+bool SimFamily::setForcedResult(const std::string& operation, bool use, int32_t result)
+{
+    for (int op = 0; op < kBoardOpCount; ++op) {
+        if (operation != kBoardOps[op].name || static_cast<BoardOp>(op) == BoardOp::LoadDevice)
+            continue;
+        auto& forced = setup_.forcedResults[static_cast<std::size_t>(op)];
+        forced = use ? std::optional<int32_t>(result) : std::nullopt;
+        note(SimLog::Errors, operation + (use ? " forced to " + std::to_string(result) : " freed"));
+        return true;
+    }
+    return false;
+}
+
+int SimFamily::forcedResult(const std::string& operation, int32_t& result) const
+{
+    for (int op = 0; op < kBoardOpCount; ++op) {
+        if (operation != kBoardOps[op].name)
+            continue;
+        const int32_t* forced = forcedResult(static_cast<BoardOp>(op));
+        if (forced)
+            result = *forced;
+        return forced ? 1 : 0;
+    }
+    return -1;
+}
+
 void SimFamily::unload()
 {
     cards_.clear();
+    faults_.reset();
     log_.close();
 }
 
@@ -144,6 +167,8 @@ bool SimFamily::saveCard(int index)
 
 void SimFamily::advanceTo(int64_t now)
 {
+    if (!cards_.empty())
+        faults_.poll(*this, simulatedMs_);
     bool moving = false;
     for (const SimCard& c : cards_)
         moving = moving || c.anyMoving();

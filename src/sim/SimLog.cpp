@@ -10,9 +10,23 @@ void SimLog::setPath(const std::string& path)
     path_ = path;
 }
 
-void SimLog::write(int level, int64_t ms, const std::string& text)
+bool SimLog::wants(Kind kind) const
 {
-    if (!wants(level) || path_.empty())
+    switch (level_) {
+    case 1:
+        return kind == Commands || kind == Always;
+    case 2:
+        return kind == Errors || kind == Always;
+    case MaxLevel:
+        return true;
+    default:
+        return kind == Always;
+    }
+}
+
+void SimLog::write(Kind kind, int64_t ms, const std::string& text)
+{
+    if (!wants(kind) || path_.empty())
         return;
     if (!out_.is_open())
         out_.open(path_, std::ios::app);

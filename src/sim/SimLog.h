@@ -10,27 +10,28 @@ namespace nrxsim {
 class SimLog
 {
 public:
-    // Each level adds to the one below: load results and abnormal stops, then motion
-    // commands and saves, then every parameter write.
-    enum Level
+    // What a line is. LogCheck's levels: 0 nothing, 1 commands only, 2 errors only, 3 all;
+    // mistakes in the boards file are written at every level.
+    enum Kind
     {
-        Off = 0,
-        Errors = 1,
-        Commands = 2,
-        Parameters = 3
+        Commands,
+        Errors,
+        Parameters,
+        Always
     };
+    static constexpr int MaxLevel = 3;
 
     void setPath(const std::string& path);
     void setLevel(int level) { level_ = level; }
     int level() const { return level_; }
-    bool wants(int level) const { return level_ >= level && level > Off; }
-    void write(int level, int64_t ms, const std::string& text);
+    bool wants(Kind kind) const;
+    void write(Kind kind, int64_t ms, const std::string& text);
     void close();
 
 private:
     std::string path_;
     std::ofstream out_;
-    int level_ = Off;
+    int level_ = 0;
 };
 
 } // namespace nrxsim

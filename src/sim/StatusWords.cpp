@@ -28,6 +28,7 @@ uint16_t StatusWords::card(const SimCard& card, int index, int64_t nowMs)
     w |= a.servo().counterClearOutput(nowMs) ? CardBit::CounterClear : 0;
     w |= a.servo().servoOn() ? CardBit::ServoOn : 0;
     w |= a.servo().alarmReset() ? CardBit::AlarmReset : 0;
+    w |= card.isRn() && a.inMultiAxisMove() ? CardBit::InterpolationRun : 0;
     return w;
 }
 
@@ -56,6 +57,7 @@ uint16_t StatusWords::main(const SimCard& card, int index)
         }
         const SimAxis::Lines lines = card.linesFor(base + slot);
         w |= lines.emergency ? MainBit::RnEmergency : 0;
+        w |= a.inMultiAxisMove() ? MainBit::RnInterpolationRun : 0;
         w |= a.isHoming() ? MainBit::RnHoming : 0;
         w |= a.homed() ? MainBit::RnHomeOk : 0;
         w |= a.servo().servoOn() ? MainBit::RnServoOn : 0;

@@ -34,6 +34,10 @@ Alarm=DO2
 [RL.Card1]
 Axes=2
 IO=bogus
+[RL.Card1.Axis1]
+PlusLimt=5000
+[RL.Card9]
+Axes=2
 )";
 
 } // namespace
@@ -122,6 +126,12 @@ private slots:
         QVERIFY(rl().nrx.GetCardStatus(0, 0) & CardBit::Alm);
         rl().nrx.Inc_Move(0, 0, 100);
         QCOMPARE(rl().nrx.GetMotionErrCod(0, 0), -640);
+
+        // Mistakes reach the log at every load, with no LogCheck at all.
+        const QString log = TextFile::read(path("NrxSimRL.log"));
+        QVERIFY2(log.contains("io=bogus ignored", Qt::CaseInsensitive), qPrintable(log));
+        QVERIFY(log.contains("[rl.card1.axis1] pluslimt unknown key"));
+        QVERIFY(log.contains("[rl.card9] unknown section"));
     }
 
     void boardsFile_largestConfiguration()
@@ -163,15 +173,22 @@ private slots:
     void parameterFile_damagedOrForeignGivesMinus2_data()
     {
         QTest::addColumn<QString>("damage");
-        QTest::newRow("truncated") << "truncate";
-        QTest::newRow("value edited") << "edit";
-        QTest::newRow("other axis count") << "axes";
-        QTest::newRow("empty") << "empty";
-        QTest::newRow("binary junk") << "junk";
+        QTest::addColumn<QString>("problemText");
+        QTest::newRow("truncated") << "truncate"
+                                   << "no checksum line";
+        QTest::newRow("value edited") << "edit"
+                                      << "checksum does not match";
+        QTest::newRow("other axis count") << "axes"
+                                          << "made for RL card 0 with 4 axes";
+        QTest::newRow("empty") << "empty"
+                               << "no checksum line";
+        QTest::newRow("binary junk") << "junk"
+                                     << "no checksum line";
     }
     void parameterFile_damagedOrForeignGivesMinus2()
     {
         QFETCH(QString, damage);
+        QFETCH(QString, problemText);
         QCOMPARE(rl().loadIn(dir_->path()), 1);
         rl().nrx.SetRangeMode(0, 0, 42);
         rl().nrx.SaveFile(0);
@@ -192,9 +209,14 @@ private slots:
         else
             QVERIFY(TextFile::write(file, text));
 
+        QVERIFY(TextFile::write(file + ".new", "half a save"));
         QCOMPARE(rl().loadIn(dir_->path()), -2);
         // The sound parameters were not half applied.
         QCOMPARE(rl().nrx.GetRangeMode(0, 0), 100);
+        // The log names the file and what is wrong with it, at any log level.
+        const QString log = TextFile::read(path("NrxSimRL.log"));
+        QVERIFY2(log.contains("NrxSimRL_Card0.prm not applied: " + problemText), qPrintable(log));
+        QVERIFY(!QFile::exists(file + ".new")); // what an interrupted save left
         rl().nrx.UnloadDevice();
         QFile::remove(file);
         QVERIFY(rl().loadIn(dir_->path()) >= 0);
@@ -207,25 +229,39 @@ private slots:
         rl().nrx.LogCheck(0);
         rl().nrx.Inc_Move(0, 0, 10);
         QVERIFY(!TextFile::read(log).contains("Inc_Move"));
-        rl().nrx.LogCheck(1);
+        // 1: command functions only; 2: errors only; 3: everything.
+        rl().nrx.LogCheck(2);
         rl().nrx.SetSlmt(0, 1, 50, -50, 1);
         rl().nrx.Inc_Move(0, 1, 100);
         rl().sim.AdvanceClock(1000);
         QVERIFY(TextFile::read(log).contains("axis 1 stopped with -600"));
         QVERIFY(!TextFile::read(log).contains("Inc_Move"));
-        rl().nrx.LogCheck(2);
+        rl().nrx.LogCheck(1);
         rl().nrx.Inc_Move(0, 2, 10);
+        rl().nrx.Inc_Move(0, 3, 100);
+        rl().sim.AdvanceClock(1000);
         QVERIFY(TextFile::read(log).contains("axis 2 Inc_Move 10"));
+        QVERIFY(!TextFile::read(log).contains("axis 3 stopped"));
         QVERIFY(!TextFile::read(log).contains("PulseMode"));
         rl().nrx.LogCheck(3);
         rl().nrx.SetPulseMode(0, 2, 4);
         QVERIFY(TextFile::read(log).contains("axis 2 PulseMode=4"));
     }
 
-    void refusals_areQuiet()
+    void refusals_wrongAddressIsAnError()
     {
-        QCOMPARE(rl().loadIn(dir_->path()), 1); // card 1 has 2 axes
         NrxFunctionTable& n = rl().nrx;
+        rl().sim.SetDataFolder(dir_->path().toLocal8Bit().constData());
+        QCOMPARE(n.SetPosSpeed(0, 0, 100, 1000, 100, 100), -1); // before LoadDevice
+        QCOMPARE(n.Inc_Move(0, 0, 100), -1);
+        QCOMPARE(rl().loadIn(dir_->path()), 1); // card 1 has 2 axes
+        QCOMPARE(n.Inc_Move(1, 2, 100), -1);
+        QCOMPARE(n.SetHlmt(2, 0, 0, 0), -1);
+        QCOMPARE(n.PutDOBit(2, 0, 1), -1);
+        QCOMPARE(n.SaveFile(9), -1);
+        QCOMPARE(n.Multi_Decel_Stop(5, 0, nullptr), -1);
+        QCOMPARE(n.Decel_Stop(1, 1), 0);
+
         const nrx_i32 sentinel = 0x5A5A5A;
         nrx_i32 a = sentinel, b = sentinel, c = sentinel, d = sentinel, e = sentinel;
         n.BoardInfo(2, &a, &b, &c, &d, &e);
@@ -233,7 +269,6 @@ private slots:
         n.GetSlmt(9, 0, &a, &b, nullptr);
         QCOMPARE(QList<int>({a, b, c, d, e}),
                  QList<int>({sentinel, sentinel, sentinel, sentinel, sentinel}));
-        QCOMPARE(n.Inc_Move(1, 2, 100), 0);
         QCOMPARE(n.Done(1, 2), 0);
         QCOMPARE(n.GetCommandPos(1, 2), 0);
         QCOMPARE(n.GetCardStatus(65535, 65535), 0);

@@ -158,6 +158,30 @@ private slots:
         }
     }
 
+    void highSpeedLimitModes_stopAsTheLimitStopModeSays()
+    {
+        for (const int slowDown : {0, 1}) {
+            for (const int mode : {6, 7}) {
+                init();
+                nrx_->SetHlmt(0, 0, slowDown, 0);
+                nrx_->SetHomeMode(0, 0, mode);
+                nrx_->SetHomeDir(0, 0, Minus);
+                nrx_->SetHomeSpeed(0, 0, 2000, 200000, 100);
+                nrx_->Home_Move(0, 0);
+                int lowest = 0;
+                for (int ms = 0; nrx_->Done(0, 0) && ms < 100000; ++ms) {
+                    lib_->sim.AdvanceClock(1);
+                    lowest = std::min(lowest, lib_->sim.GetMachinePos(0, 0));
+                }
+                const QString row = QStringLiteral("stop %1 mode %2").arg(slowDown).arg(mode);
+                QVERIFY2(nrx_->GetMotionErrCod(0, 0) == 0, qPrintable(row));
+                QCOMPARE(lib_->sim.GetMachinePos(0, 0), mode == 6 ? -50000 : -47700);
+                // E-Stop: not one pulse past the switch; S-Stop ramps down beyond it.
+                QVERIFY2(slowDown ? lowest < -51000 : lowest == -50000, qPrintable(row));
+            }
+        }
+    }
+
     void zMarkUnderTheAxis_isRefused()
     {
         home(2, 8, Minus);

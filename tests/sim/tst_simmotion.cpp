@@ -4,7 +4,10 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <atomic>
+#include <functional>
 #include <memory>
+#include <thread>
 
 using namespace nrxsim;
 
@@ -102,6 +105,57 @@ private slots:
     }
 
     // The + limit with E-Stop is met end to end by the single-axis window and the monitors.
+    void decelStop_inAnSCurvesDecelerationEndsByItsTarget()
+    {
+        // 200 kpps, 500 ms S-curves: each ramp covers about 50000 pulses.
+        rl_->SetSpeedMode(0, 0, 1);
+        rl_->SetPosSpeed(0, 0, 100, 200000, 500, 500);
+        for (const int intoRamp : {1, 100, 250, 400}) {
+            rl_->SetCommandPos(0, 0, 0);
+            rl_->Inc_Move(0, 0, 150000);
+            while (!(rl_->GetDrvStatus(0, 0) & DriveBit::Descend))
+                advance(1);
+            advance(intoRamp);
+            rl_->Decel_Stop(0, 0);
+            runUntilDone(0, 0);
+            QVERIFY2(rl_->GetCommandPos(0, 0) <= 150000, qPrintable(QString::number(intoRamp)));
+            QVERIFY(rl_->GetCommandPos(0, 0) > 100000);
+            QCOMPARE(rl_->GetMotionErrCod(0, 0), 0);
+        }
+    }
+
+    void threads_twoCallersNeitherCrashNorCorruptAJog()
+    {
+        auto jogFor = [this](int ms, const std::function<void()>& meanwhile) {
+            rl_->SetCommandPos(0, 0, 0);
+            rl_->SetJogSpeed(0, 0, 100, 10000, 100);
+            rl_->Jog_Move(0, 0, 1);
+            std::atomic<bool> running{true};
+            std::thread clock([&] {
+                for (int i = 0; i < ms; ++i)
+                    lib_[0]->sim.AdvanceClock(1);
+                running = false;
+            });
+            while (running)
+                meanwhile();
+            clock.join();
+            rl_->Sudden_Stop(0, 0);
+            return rl_->GetCommandPos(0, 0);
+        };
+        const int alone = jogFor(20000, [] {});
+        // The other thread reads the jogging axis and moves another one all the while.
+        const int shared = jogFor(20000, [this] {
+            rl_->GetCardStatus(0, 0);
+            rl_->GetDrvStatus(0, 0);
+            rl_->GetActualPos(0, 0);
+            rl_->GetCommandSpeed(0, 0);
+            if (rl_->Done(0, 1) == 0)
+                rl_->Inc_Move(0, 1, 3);
+        });
+        QCOMPARE(shared, alone);
+        QVERIFY(alone > 190000);
+    }
+
     void limits_stopWithTheirCodes_data()
     {
         QTest::addColumn<int>("direction");
@@ -318,8 +372,14 @@ private slots:
         const nrx_u16 w = rn.GetMainStatus(0, 3);
         QCOMPARE(w & 0xFF, 0x03);
         QVERIFY(w & MainBit::RnServoOn);
-        // Multi-axis moves run independent axes, never an interpolation.
-        QVERIFY(!(w & MainBit::RnInterpolationRun));
+        // I-RUN: the group and each axis of a running multi-axis move, not a single move.
+        QVERIFY(w & MainBit::RnInterpolationRun);
+        QVERIFY(rn.GetCardStatus(0, 1) & CardBit::InterpolationRun);
+        rn.Inc_Move(0, 2, 100);
+        QVERIFY(!(rn.GetCardStatus(0, 2) & CardBit::InterpolationRun));
+        rn.Sudden_Stop(0, 0);
+        rn.Sudden_Stop(0, 1);
+        QVERIFY(!(rn.GetMainStatus(0, 3) & MainBit::RnInterpolationRun));
     }
 
     void statusWords_servoOutputsAndCounterClearPulse()

@@ -50,6 +50,7 @@ struct SimBoardsRig
             sim.SetManualClock(1);
             sim.SetDataFolder(QFile::encodeName(folder.path()).constData());
             api.setTable(family, loader.table(family));
+            api.setSimExtras(family, loader.simExtras(family));
         }
         return !loadBoards || load();
     }
