@@ -329,6 +329,7 @@ void COV_MainFrame::readSettings()
     m_showStatusWindow = values.showStatusWindow;
     m_statusFollowsOperation = values.statusFollowsOperation;
     m_state.statusFollowsOperation = values.statusFollowsOperation;
+    m_state.units = AxisUnits::read(m_state.settingsFilePath);
 }
 
 void COV_MainFrame::applySkin()
