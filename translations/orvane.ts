@@ -209,6 +209,49 @@ Do you want to save parameter to file?</source>
     </message>
 </context>
 <context>
+    <name>COV_AxisUnitsDlg</name>
+    <message>
+        <source>Axis Units - %1(%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leave Pulses/Unit empty to show an axis in pulses.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Axis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pulses/Unit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Decimals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 Axis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 Axis : Pulses/Unit &quot;%2&quot; is not a positive number.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 Axis : enter the name of the unit.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The axis units could not be written to %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>COV_BoardCallWnd</name>
     <message>
         <source>All</source>
@@ -3175,6 +3218,17 @@ High Active : Normal Close</source>
     </message>
     <message>
         <source>Parameter files (*.ini *.txt);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>UserUnitsActions</name>
+    <message>
+        <source>Axis Units...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show User Units</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

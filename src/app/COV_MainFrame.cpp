@@ -16,6 +16,7 @@
 #include "ToolView.h"
 #include "ToolWindowHost.h"
 #include "ToolWindowKinds.h"
+#include "UserUnitsActions.h"
 
 #include <QAction>
 #include <QApplication>
@@ -135,6 +136,7 @@ void COV_MainFrame::createMenus()
     QMenu* setup = createToolMenu(tr("Setup"), ToolMenu::Setup);
     setup->addAction(tr("Actual Speed Calculator"), this,
                      [this] { runCommand(FrameCommand::ActualSpeedCalculator); });
+    UserUnitsActions::addTo(*setup, m_state, m_prompt, this);
     bar->addMenu(setup);
     QMenu* motion = createToolMenu(tr("Motion"), ToolMenu::Motion);
     motion->addSeparator();
