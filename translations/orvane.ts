@@ -7,6 +7,10 @@
         <source>%1 Axis</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>%1 [%2]</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>BoardCallText</name>

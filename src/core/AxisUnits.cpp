@@ -11,6 +11,14 @@ const QByteArray kDecimals = QByteArrayLiteral("Decimals");
 constexpr int kDefaultDecimals = 3;
 
 // "Units.RL.0.1" as family, card and axis; false for any other section.
+// Revisions come from one counter, so that units read afresh never repeat a revision a
+// window has cached from the ones they replace.
+int nextRevision()
+{
+    static int last = 0;
+    return ++last;
+}
+
 bool parseSection(const QByteArray& name, BoardFamily& family, int& card, int& axis)
 {
     const QList<QByteArray> parts = name.split('.');
@@ -36,13 +44,21 @@ void AxisUnits::setShown(bool shown)
     if (shown == m_shown)
         return;
     m_shown = shown;
-    ++m_revision;
+    m_revision = nextRevision();
 }
 
 AxisUnitScale AxisUnits::scale(BoardFamily family, int card, int axis) const
 {
     const auto found = m_scales.find(Key(familyIndex(family), card, axis));
     return found == m_scales.end() ? AxisUnitScale() : found->second;
+}
+
+std::vector<AxisUnitScale> AxisUnits::shownScales(BoardFamily family, int card, int axisCount) const
+{
+    std::vector<AxisUnitScale> scales;
+    for (int axis = 0; axis < axisCount; ++axis)
+        scales.push_back(shownScale(family, card, axis));
+    return scales;
 }
 
 void AxisUnits::setScale(BoardFamily family, int card, int axis, const AxisUnitScale& scale)
@@ -54,7 +70,7 @@ void AxisUnits::setScale(BoardFamily family, int card, int axis, const AxisUnitS
         m_scales[key] = scale;
     else
         m_scales.erase(key);
-    ++m_revision;
+    m_revision = nextRevision();
 }
 
 QByteArray AxisUnits::sectionName(BoardFamily family, int card, int axis)
@@ -82,7 +98,6 @@ AxisUnits AxisUnits::read(const QString& settingsFilePath)
                        AxisUnitScale(QString::fromUtf8(file.readString(section, kUnit)), *pulses,
                                      file.readInt(section, kDecimals, kDefaultDecimals)));
     }
-    units.m_revision = 0;
     return units;
 }
 

@@ -8,6 +8,7 @@
 
 #include <map>
 #include <tuple>
+#include <vector>
 
 // Every axis' unit scale and the one switch that shows figures in units, kept in the program's
 // settings file (sections "Units.RL.0.1" for RL card 0 axis 1, and "Units" with "Show"). The
@@ -26,6 +27,8 @@ public:
     {
         return m_shown ? scale(family, card, axis) : AxisUnitScale();
     }
+    // The shown scales of a card's first axisCount axes.
+    std::vector<AxisUnitScale> shownScales(BoardFamily family, int card, int axisCount) const;
     // A scale that is not set removes the axis' scale.
     void setScale(BoardFamily family, int card, int axis, const AxisUnitScale& scale);
     int revision() const { return m_revision; }
