@@ -417,6 +417,10 @@ Do you want to save parameter to file?</source>
         <source>%1 of %2 parameters differ</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Unit Scale</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>COV_CopyPrmDlg</name>
@@ -755,6 +759,23 @@ Can not import parameters !</source>
     </message>
     <message>
         <source>Write %1 changed parameter(s) to the boards?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 axis unit scale(s) would change.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The axis unit scales could not be written to %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep %1 axis unit scale(s) of the file on this PC?</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2571,6 +2592,26 @@ High Active : Normal Close</source>
         <source>... and %1 more fault(s)</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>PulsesPerUnit: &quot;%1&quot; is not a positive number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Decimals: &quot;%1&quot; is not 0 .. %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unknown unit key %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>[%1] lacks PulsesPerUnit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>[%1] has no axis section</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ProfileFields</name>
@@ -3222,6 +3263,17 @@ High Active : Normal Close</source>
     </message>
     <message>
         <source>Parameter files (*.ini *.txt);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>UnitScaleImport</name>
+    <message>
+        <source>pulses</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 pulses/%2, %3 decimals</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
