@@ -61,7 +61,8 @@ QVariant AxisValueGridModel::headerData(int section, Qt::Orientation orientation
         if (!m_anyScale || !shared.isEmpty() || !isPresent(section) ||
             !m_scales[static_cast<std::size_t>(section)].isSet())
             return title;
-        return tr("%1 [%2]").arg(title, m_scales[static_cast<std::size_t>(section)].unit());
+        return tr("%1 [%2]").arg(m_compactUnitTitles ? QString::number(section) : title,
+                                 m_scales[static_cast<std::size_t>(section)].unit());
     }
     if (section < 0 || section >= rowCount())
         return QString();

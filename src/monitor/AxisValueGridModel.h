@@ -58,6 +58,8 @@ public:
     // in units, and the row titles name the unit all present scaled axes share, otherwise
     // each scaled axis' title names its own. Unchanged scales signal nothing.
     void setScales(const std::vector<AxisUnitScale>& scales);
+    // Narrow columns name an axis' own unit as "0 [mm]" rather than "0 Axis [mm]".
+    void setCompactUnitTitles(bool compact) { m_compactUnitTitles = compact; }
     const AxisUnitScale& scale(int axis) const { return m_scales[static_cast<std::size_t>(axis)]; }
 
     static QString format(Format format, std::int32_t value);
@@ -70,5 +72,6 @@ private:
 
     std::array<AxisUnitScale, kAxes> m_scales{};
     bool m_anyScale = false;
+    bool m_compactUnitTitles = false;
     int m_presentAxes = kAxes;
 };

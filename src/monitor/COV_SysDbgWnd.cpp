@@ -47,6 +47,7 @@ COV_SysDbgWnd::COV_SysDbgWnd(const ToolContext& context, QWidget* parent)
                                     {tr("Input"), Format::HexWord16}},
                                    this);
     m_positions->setObjectName(QStringLiteral("positionGrid"));
+    m_positions->values()->setCompactUnitTitles(true);
     m_statuses->setObjectName(QStringLiteral("statusGrid"));
 
     auto* layout = new QVBoxLayout(this);

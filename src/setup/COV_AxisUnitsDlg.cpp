@@ -46,6 +46,7 @@ QWidget* COV_AxisUnitsDlg::createRows()
         Row row;
         row.unit = new QComboBox(box);
         row.unit->setEditable(true);
+        row.unit->setMinimumContentsLength(6);
         row.unit->addItems({QStringLiteral("mm"), QStringLiteral("deg"), QStringLiteral("inch"),
                             QStringLiteral("rev")});
         row.unit->setCurrentText(scale.isSet() ? scale.unit() : QStringLiteral("mm"));

@@ -103,6 +103,9 @@ private slots:
         const AxisValueGridModel* model = rig.pane->model();
         QCOMPARE(Rig::title(model, kAxis, Qt::Horizontal), "1 Axis [mm]");
         QCOMPARE(Rig::title(model, 0, Qt::Horizontal), "0 Axis");
+        // The diagnosis' narrow columns name it shorter.
+        QCOMPARE(Rig::title(rig.diagnosis->positionGrid()->values(), kAxis, Qt::Horizontal),
+                 "1 [mm]");
         QCOMPARE(Rig::title(model, COV_UtMtnStWnd::CommandPosition, Qt::Vertical),
                  "Command Position");
 
