@@ -1,5 +1,6 @@
 #include "COV_ComparePrmDlg.h"
 #include "COV_ImportPrmDlg.h"
+#include "ParameterCommandLine.h"
 #include "ParameterSourceBox.h"
 #include "ParameterText.h"
 #include "RecordingFrame.h"
@@ -11,6 +12,7 @@
 #include <QCheckBox>
 #include <QTableWidget>
 #include <QTest>
+#include <QTextStream>
 
 // Axis scales in parameter files: exported as [Units.RL.Card0.Axis1], checked on reading,
 // imported into this PC's settings and set side by side by compare.
@@ -68,6 +70,37 @@ private slots:
         QVERIFY(rig.state.units.scale(BoardFamily::RL, 0, 1) == kScale);
         QVERIFY(AxisUnits::read(rig.state.settingsFilePath).scale(BoardFamily::RL, 0, 1) == kScale);
         QCOMPARE(import.changeTable().rowCount(), 0);
+    }
+
+    void commandLine_exportDiffImportCarryTheScales()
+    {
+        SimBoardsRig rig;
+        QVERIFY(rig.start(true, "[RL]\nCards=1\n[RL.Card0]\nAxes=4\n"));
+        const QString settings = rig.folder.filePath(QStringLiteral("ZelbrinOrvane.ini"));
+        AxisUnits units;
+        units.setScale(BoardFamily::RL, 0, 2, kScale);
+        QVERIFY(units.writeCard(settings, BoardFamily::RL, 0, 4));
+        QString out;
+        QString err;
+        QTextStream outStream(&out);
+        QTextStream errStream(&err);
+        ParameterCommandLine cli(rig.api, rig.state.registry, outStream, errStream);
+        cli.setSettingsFile(settings);
+        const QString file = rig.folder.filePath(QStringLiteral("cli.ini"));
+        QCOMPARE(cli.run({QStringLiteral("export"), file}), 0);
+        QVERIFY(TextFile::read(file).contains("[Units.RL.Card0.Axis2]\nUnit=mm\n"));
+        QCOMPARE(cli.run({QStringLiteral("diff"), file, QStringLiteral("RL:0")}), 0);
+
+        // Without the scale here: diff names it, import keeps it.
+        QVERIFY(AxisUnits().writeCard(settings, BoardFamily::RL, 0, 4));
+        cli.setSettingsFile(settings);
+        out.clear();
+        QCOMPARE(cli.run({QStringLiteral("diff"), QStringLiteral("RL:0"), file}), 1);
+        QVERIFY2(out.contains(
+                     QStringLiteral("Axis 2 Unit Scale: pulses | 2777.777 pulses/mm, 4 decimals")),
+                 qPrintable(out));
+        QCOMPARE(cli.run({QStringLiteral("import"), file, QStringLiteral("--yes")}), 0);
+        QVERIFY(AxisUnits::read(settings).scale(BoardFamily::RL, 0, 2) == kScale);
     }
 
     void reading_badScalesAreFaultsWithTheirLine()
