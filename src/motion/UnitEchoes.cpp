@@ -8,8 +8,8 @@
 #include <QLineEdit>
 
 namespace {
-// The column after a field grid's caption, field, unit and button.
-constexpr int kEchoColumn = 4;
+// A field grid's columns: caption, field, unit, then a button on some rows.
+constexpr int kButtonColumn = 3;
 } // namespace
 
 UnitEchoes::UnitEchoes(const AppState& state, std::function<Axis()> axis, QWidget* window)
@@ -25,12 +25,20 @@ void UnitEchoes::add(QLineEdit* field, Measure measure)
     if (auto* grid = qobject_cast<QGridLayout*>(field->parentWidget()->layout())) {
         int row = 0, column = 0, rows = 0, columns = 0;
         grid->getItemPosition(grid->indexOf(field), &row, &column, &rows, &columns);
-        grid->addWidget(label, row, kEchoColumn);
+        // The button column where the row has no button, so the page grows no wider.
+        const bool buttonFree = grid->itemAtPosition(row, kButtonColumn) == nullptr;
+        grid->addWidget(label, row, buttonFree ? kButtonColumn : kButtonColumn + 1);
+    } else {
+        label->hide(); // a field outside a field grid has no room beside it
     }
+    QFont small = label->font();
+    small.setPointSizeF(small.pointSizeF() * 0.85);
+    label->setFont(small);
     m_echoes.push_back({field, label, measure});
     const Echo& added = m_echoes.back();
     connect(field, &QLineEdit::textChanged, this, [this, added] { echo(added); });
-    echo(added);
+    // Echoed at once, so the window opens wide enough for them.
+    refresh();
 }
 
 void UnitEchoes::refresh()
