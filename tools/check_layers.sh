@@ -1,11 +1,12 @@
 #!/usr/bin/env bash
 # Fails when a source folder includes a header from a folder on its own level or above, so
-# every include points down: app -> setup, motion, monitor, scope -> core, controls, sim -> board.
+# every include points down: app -> axistest -> setup, motion, monitor, scope -> core,
+# controls, sim -> board.
 # Includes name bare files, so each is resolved to the folder under src that holds it.
 set -euo pipefail
 src="${1:-$(dirname "$0")/../src}"
 declare -A rank=([board]=0 [core]=1 [controls]=1 [sim]=1
-                 [setup]=2 [motion]=2 [monitor]=2 [scope]=2 [app]=3)
+                 [setup]=2 [motion]=2 [monitor]=2 [scope]=2 [axistest]=3 [app]=4)
 declare -A home
 while IFS= read -r path; do
   rel="${path#"$src"/}"

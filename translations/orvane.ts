@@ -2,6 +2,342 @@
 <!DOCTYPE TS>
 <TS version="2.1">
 <context>
+    <name>AxisTestForm</name>
+    <message>
+        <source>Home Repeatability</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Positioning (ISO 230-2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run-in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Axis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Axes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drive speed of the test&apos;s moves; 0 keeps the axis&apos;s positioning profile</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Speed [pps]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Switch the servo on first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Searches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move away [pulse]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tolerance of the range [pulse]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From [pulse]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To [pulse]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Targets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Approaches each way</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Overrun [pulse]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dwell [ms]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tolerance of the accuracy A [pulse]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Relative back and forth</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Absolute between two points</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Absolute through a list of points</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The distance, the two points or the list of points, in pulses, separated by commas</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Positions [pulse]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cycles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Or duration [s]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Largest following error [pulse]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop at the first fault</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Axis %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be a whole number.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;Positions&quot; must be whole numbers separated by commas.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Documents/Orvane Axis Tests; each run in a dated folder inside</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AxisTestPlots</name>
+    <message>
+        <source>Completed position of each search</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Deviation against target position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cycle time over the cycles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Largest following error of each cycle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Completed position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Position [pulse]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mean deviation, approach from below</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>+2s from below</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>-2s from below</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mean deviation, approach from above</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>+2s from above</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>-2s from above</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Target [pulse]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Deviation [pulse]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cycle time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cycle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time [ms]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Largest following error</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Following error [pulse]</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AxisTestReport</name>
+    <message>
+        <source>Axis Test: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Board and axis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Figures (pulses)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At each target (pulses)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Searches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Parameters of the card and the axis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not write %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AxisTestRun</name>
+    <message>
+        <source>No axis is chosen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only a run-in tests several axes at once.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An axis is named twice.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The number of runs must be from 1 to 10000.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The dwell must be from 0 to 600000 ms.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The speed must be a positive number of pulses per second.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The number of targets must be from 2 to 1000.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The travel is too short for %1 targets.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The overrun must not be negative.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A run-in needs a number of cycles or a duration.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The move pattern needs at least %1 position(s).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The servo of axis %1 is off.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Axis %1 is moving.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Position %1 of axis %2 is outside its soft limits (%3 to %4).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refused: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Following error of %1 pulses on axis %2, over the tolerance of %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The board refused the move (result %1).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stopped with code %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>AxisValueGridModel</name>
     <message>
         <source>%1 Axis</source>
@@ -209,6 +545,89 @@ Do you want to save parameter to file?</source>
     </message>
     <message>
         <source>Axis Status - %1(%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>COV_AxisTestWnd</name>
+    <message>
+        <source>Start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stops the tested axes at once and writes a partial report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Figure</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value [pulse]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop pressed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Axis Test - %1(%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refused: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The test cannot start: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be created.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>samples.csv cannot be written in %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>window closed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cycle %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, elapsed %1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, %1 s left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, worst following error %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report in %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -3263,6 +3682,10 @@ High Active : Normal Close</source>
     </message>
     <message>
         <source>Parameter files (*.ini *.txt);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Axis Test</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

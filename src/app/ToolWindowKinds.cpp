@@ -2,6 +2,7 @@
 
 #include "COV_ActSpdCalDlg.h"
 #include "COV_AxStMonWnd.h"
+#include "COV_AxisTestWnd.h"
 #include "COV_BoardCallWnd.h"
 #include "COV_ComparePrmDlg.h"
 #include "COV_DIoWnd.h"
@@ -59,6 +60,8 @@ const std::vector<ToolWindowKind>& toolWindowKinds()
          makerOf<COV_ScopeWnd>()},
         {ToolBoardCalls, QT_TRANSLATE_NOOP("ToolWindowKinds", "Board Calls"), ToolMenu::Window,
          makerOf<COV_BoardCallWnd>()},
+        {ToolAxisTest, QT_TRANSLATE_NOOP("ToolWindowKinds", "Axis Test"), ToolMenu::Motion,
+         makerOf<COV_AxisTestWnd>()},
     };
     return kinds;
 }

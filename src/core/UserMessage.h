@@ -35,6 +35,7 @@ enum ToolKind : int
     ToolSystemDiagnosis = 106,
     ToolScope = 107,
     ToolBoardCalls = 108,
+    ToolAxisTest = 109,
 };
 constexpr int kToolKindFirst = ToolSystemIo;
-constexpr int kToolKindLast = ToolBoardCalls;
+constexpr int kToolKindLast = ToolAxisTest;

@@ -1,9 +1,8 @@
 #include "ParameterCommandLine.h"
 
 #include "BoardApi.h"
-#include "BoardLoader.h"
-#include "BoardStartup.h"
 #include "CardRegistry.h"
+#include "HeadlessBoards.h"
 #include "LogFile.h"
 #include "OrvaneLog.h"
 #include "ParameterComparison.h"
@@ -24,22 +23,6 @@
 #include <map>
 
 namespace {
-
-// Start-up messages of the board loading go to the terminal; nobody is there to answer.
-class ConsolePrompt : public PromptService
-{
-public:
-    explicit ConsolePrompt(QTextStream& err) : m_err(err) {}
-    bool askYesNo(const QString& text) override
-    {
-        m_err << text << Qt::endl;
-        return false;
-    }
-    void inform(const QString& text) override { m_err << text << Qt::endl; }
-
-private:
-    QTextStream& m_err;
-};
 
 // Splits arguments into the positional ones and the options; false on an unknown option.
 bool splitArguments(const QStringList& arguments, const QStringList& flags,
@@ -129,29 +112,11 @@ int ParameterCommandLine::main(int argc, char** argv)
         return arguments.isEmpty() ? BadInput : Success;
     }
 
-    // The libraries come from the program's own folder only, as for the window.
-    BoardLoader loader(QDir(QCoreApplication::applicationDirPath()).absolutePath() +
-                       QLatin1Char('/'));
-    loader.loadAll();
-    BoardApi board;
-    for (BoardFamily family : kAllFamilies)
-        board.setTable(family, loader.table(family));
-    CardRegistry registry;
-    ConsolePrompt prompt(err);
-    BoardStartup startup(board, registry, prompt);
-    if (!startup.loadDevices(loader.problems()))
+    HeadlessBoards boards(err);
+    if (!boards.load())
         return BadInput;
-    for (BoardFamily family : kAllFamilies) {
-        for (int card = 0; card < registry.cardCount(family); ++card)
-            startup.readCardInfo(family, static_cast<CardNo>(card));
-    }
-    ParameterCommandLine command(board, registry, out, err);
-    std::vector<BoardFamily> simulated;
-    for (BoardFamily family : kAllFamilies) {
-        if (loader.isSimulated(family))
-            simulated.push_back(family);
-    }
-    command.setSimulated(std::move(simulated));
+    ParameterCommandLine command(boards.api(), boards.registry(), out, err);
+    command.setSimulated(boards.simulated());
     // Where the window keeps its settings: beside the program, or in the user's data folder
     // when that is not writable (an installed copy).
     QString folder = QCoreApplication::applicationDirPath() + QLatin1Char('/');
@@ -159,9 +124,7 @@ int ParameterCommandLine::main(int argc, char** argv)
         folder =
             QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + QLatin1Char('/');
     command.setSettingsFile(folder + QStringLiteral("ZelbrinOrvane.ini"));
-    const int result = command.run(arguments);
-    startup.unloadDevices();
-    return result;
+    return command.run(arguments);
 }
 
 void ParameterCommandLine::setSettingsFile(const QString& path)

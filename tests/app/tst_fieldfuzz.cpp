@@ -66,6 +66,9 @@ QList<QRegularExpression> knownTexts()
         "Do you want system reset?",
         "%1 axis parameter set to default value?",
         "Are you sure you want to save the parameter files of all the cards?",
+        "The test cannot start: %1",
+        "\"%1\" must be a whole number.",
+        "\"Positions\" must be whole numbers separated by commas.",
     };
     for (std::int32_t code : {-600, -610, -620, -630, -640, -650, -660, -9999}) {
         for (auto wording :

@@ -1,0 +1,206 @@
+#include "AxisTestCsv.h"
+#include "AxisTestReport.h"
+#include "AxisTestRun.h"
+#include "SimBoardsRig.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTemporaryDir>
+#include <QTest>
+
+// The three tests end to end on the simulated boards, their clock stepped by hand.
+class TestAxisTestRun : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void home_searchesAndReports();
+    void positioning_exactAxisHasNoDeviation();
+    void runIn_severalAxesAndStop();
+    void start_refusedWithReason();
+    void refusedMove_endsTheTest();
+
+private:
+    // Steps the boards and the run 10 ms at a time until it ends or `limitMs` passes.
+    static void runOut(SimBoardsRig& rig, AxisTestRun& run, std::int64_t limitMs = 600000)
+    {
+        std::int64_t now = 0;
+        QVERIFY(run.start(now));
+        while (run.running() && now < limitMs) {
+            rig.advance(BoardFamily::RL, 10);
+            now += 10;
+            run.tick(now);
+        }
+    }
+};
+
+// Keeps what a run sends, for the checks.
+struct Collected : AxisTestSink
+{
+    std::vector<AxisTestRecord> records;
+    void record(const AxisTestRecord& r) override { records.push_back(r); }
+    int count(AxisTestRecord::Kind kind) const
+    {
+        return int(std::count_if(records.begin(), records.end(),
+                                 [kind](const AxisTestRecord& r) { return r.kind == kind; }));
+    }
+};
+
+void TestAxisTestRun::home_searchesAndReports()
+{
+    SimBoardsRig rig;
+    QVERIFY(rig.start());
+    QTemporaryDir out;
+    AxisTestCsv csv(out.filePath("samples.csv"));
+    AxisTestSettings settings;
+    settings.kind = AxisTestKind::Home;
+    settings.axes = {1};
+    settings.runs = 3;
+    settings.away = 4000;
+    settings.tolerance = 5;
+    settings.servoOn = true;
+    AxisTestRun run(rig.api, settings, csv);
+    runOut(rig, run);
+
+    QCOMPARE(run.outcome(), AxisTestRun::Outcome::Passed);
+    QCOMPARE(run.homeRuns().size(), size_t(3));
+    for (const AxisTestRecord& r : run.homeRuns()) {
+        QCOMPARE(r.code, 0);
+        QVERIFY(r.durationMs > 0);
+    }
+    // Each search ends where the next one's move away starts from.
+    QCOMPARE(rig.api.GetCommandPos(BoardFamily::RL, 0, 1), 4000);
+
+    const AxisTestReport report(
+        run, AxisTestFacts::read(rig.api, rig.state.registry, BoardFamily::RL, 0, 1),
+        QDateTime::currentDateTime());
+    QString error;
+    QVERIFY2(report.write(out.path(), &error), qPrintable(error));
+    QFile json(out.filePath("summary.json"));
+    QVERIFY(json.open(QIODevice::ReadOnly));
+    const QJsonObject summary = QJsonDocument::fromJson(json.readAll()).object();
+    QCOMPARE(summary["test"].toString(), QString("home"));
+    QCOMPARE(summary["outcome"].toString(), QString("passed"));
+    QCOMPARE(summary["figures"]["runs"].toArray().size(), 3);
+    QVERIFY(!summary["board"]["model"].toString().isEmpty());
+    QFile html(out.filePath("report.html"));
+    QVERIFY(html.open(QIODevice::ReadOnly));
+    const QByteArray page = html.readAll();
+    QVERIFY(page.contains("data:image/png;base64,"));
+    QVERIFY(page.contains("PASSED"));
+    QFile samples(out.filePath("samples.csv"));
+    QVERIFY(samples.open(QIODevice::ReadOnly));
+    // Header, start, three searches, the end.
+    QCOMPARE(samples.readAll().count('\n'), 6);
+}
+
+void TestAxisTestRun::positioning_exactAxisHasNoDeviation()
+{
+    SimBoardsRig rig;
+    QVERIFY(rig.start());
+    Collected sink;
+    AxisTestSettings settings;
+    settings.kind = AxisTestKind::Positioning;
+    settings.from = 0;
+    settings.to = 20000;
+    settings.targets = 4;
+    settings.runs = 2;
+    settings.overrun = 500;
+    settings.dwellMs = 50;
+    settings.speed = 40000;
+    settings.servoOn = true;
+    nrx_i32 initial = 0, drive = 0, accel = 0, decel = 0;
+    rig.api.GetPosSpeed(BoardFamily::RL, 0, 0, &initial, &drive, &accel, &decel);
+    AxisTestRun run(rig.api, settings, sink);
+    runOut(rig, run);
+
+    QCOMPARE(run.outcome(), AxisTestRun::Outcome::Passed);
+    QCOMPARE(sink.count(AxisTestRecord::Kind::Measure), 2 * 4 * 2);
+    QCOMPARE(run.targets().front(), 0);
+    QCOMPARE(run.targets().back(), 20000);
+    for (const AxisTestRecord& r : sink.records) {
+        if (r.kind == AxisTestRecord::Kind::Measure)
+            QCOMPARE(r.actual, r.target);
+    }
+    QCOMPARE(run.positioning().axis().a, 0.0);
+    // The board's own profile is back once the test is over.
+    nrx_i32 after = 0;
+    rig.api.GetPosSpeed(BoardFamily::RL, 0, 0, &initial, &after, &accel, &decel);
+    QCOMPARE(after, drive);
+}
+
+void TestAxisTestRun::runIn_severalAxesAndStop()
+{
+    SimBoardsRig rig;
+    QVERIFY(rig.start());
+    Collected sink;
+    AxisTestSettings settings;
+    settings.kind = AxisTestKind::RunIn;
+    settings.axes = {0, 2};
+    settings.points = {0, 6000};
+    settings.cycles = 3;
+    settings.dwellMs = 20;
+    settings.servoOn = true;
+    AxisTestRun run(rig.api, settings, sink);
+    runOut(rig, run);
+    QCOMPARE(run.outcome(), AxisTestRun::Outcome::Passed);
+    QCOMPARE(run.done(), 3);
+    QCOMPARE(sink.count(AxisTestRecord::Kind::Cycle), 3 * 2);
+    QVERIFY(run.meanCycleMs() > 0);
+
+    // A stop mid-cycle ends the test at once and leaves no axis moving.
+    settings.cycles = 100;
+    AxisTestRun endless(rig.api, settings, sink);
+    QVERIFY(endless.start(0));
+    for (int t = 10; t <= 300; t += 10) {
+        rig.advance(BoardFamily::RL, 10);
+        endless.tick(t);
+    }
+    endless.stop("Stop pressed");
+    QCOMPARE(endless.outcome(), AxisTestRun::Outcome::Stopped);
+    QCOMPARE(rig.api.Done(BoardFamily::RL, 0, 0), nrx_u16(0));
+    QCOMPARE(rig.api.Done(BoardFamily::RL, 0, 2), nrx_u16(0));
+    QCOMPARE(sink.records.back().note, QString("stopped: Stop pressed"));
+}
+
+void TestAxisTestRun::start_refusedWithReason()
+{
+    SimBoardsRig rig;
+    QVERIFY(rig.start());
+    Collected sink;
+    AxisTestSettings settings;
+    settings.kind = AxisTestKind::Positioning;
+    settings.axes = {3};
+    {
+        rig.api.PutSvOn(BoardFamily::RL, 0, 3, 0);
+        AxisTestRun run(rig.api, settings, sink);
+        QVERIFY(!run.start(0));
+        QCOMPARE(run.fault(), QString("The servo of axis 3 is off."));
+    }
+    rig.api.PutSvOn(BoardFamily::RL, 0, 3, 1);
+    rig.api.SetSlmt(BoardFamily::RL, 0, 3, 50000, -50000, 1);
+    settings.to = 50000; // the overrun goes past
+    AxisTestRun run(rig.api, settings, sink);
+    QVERIFY(!run.start(0));
+    QVERIFY2(run.fault().contains("outside its soft limits"), qPrintable(run.fault()));
+    QCOMPARE(rig.api.Done(BoardFamily::RL, 0, 3), nrx_u16(0));
+}
+
+void TestAxisTestRun::refusedMove_endsTheTest()
+{
+    SimBoardsRig rig;
+    QVERIFY(rig.start(true, "[RL]\nCards=1\nFail.Abs_Move=-1\n[RL.Card0]\nAxes=4\n"));
+    Collected sink;
+    AxisTestSettings settings;
+    settings.kind = AxisTestKind::RunIn;
+    settings.stopAtFault = false; // a refusal ends it all the same
+    settings.servoOn = true;
+    AxisTestRun run(rig.api, settings, sink);
+    runOut(rig, run);
+    QCOMPARE(run.outcome(), AxisTestRun::Outcome::Faulted);
+    QCOMPARE(run.fault(), QString("The board refused the move (result -1)."));
+}
+
+QTEST_MAIN(TestAxisTestRun)
+#include "tst_axistestrun.moc"
