@@ -19,14 +19,24 @@ QString AxisUnitScale::format(double pulses) const
 {
     if (!isSet())
         return QString::number(static_cast<long long>(std::llround(pulses)));
-    QString text = QString::number(toUnits(pulses), 'f', m_decimals);
-    // -0.0004 mm rounds to "-0.000", which reads as a position left of zero.
-    if (text.startsWith(u'-') && text.size() > 1) {
-        bool allZero = true;
-        for (qsizetype i = 1; i < text.size() && allZero; ++i)
-            allZero = text[i] == u'0' || text[i] == u'.';
-        if (allZero)
-            text.remove(0, 1);
+    // Whole numbers of the last decimal, written by hand: a moving axis formats a few dozen
+    // cells every 10 ms, and integers format several times faster than doubles.
+    static constexpr long long kPowers[] = {1, 10, 100, 1000, 10000, 100000, 1000000};
+    const long long power = kPowers[m_decimals];
+    const double scaled = toUnits(pulses) * static_cast<double>(power);
+    if (!(std::fabs(scaled) < 9e15))
+        return QString::number(toUnits(pulses), 'f', m_decimals);
+    // A value that rounds to nothing shows without a minus sign: -0.0004 mm is "0.000".
+    const long long count = std::llround(scaled);
+    const unsigned long long magnitude =
+        static_cast<unsigned long long>(count < 0 ? -count : count);
+    QString text = QString::number(magnitude / static_cast<unsigned long long>(power));
+    if (count < 0)
+        text.prepend(u'-');
+    if (m_decimals > 0) {
+        text += u'.';
+        text += QString::number(magnitude % static_cast<unsigned long long>(power))
+                    .rightJustified(m_decimals, u'0');
     }
     return text;
 }
