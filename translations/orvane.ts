@@ -40,10 +40,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Documents/Orvane Axis Tests; each run in a dated folder inside</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Browse...</source>
         <translation type="unfinished"></translation>
     </message>
@@ -141,6 +137,10 @@
     </message>
     <message>
         <source>&quot;Positions&quot; must be whole numbers separated by commas.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Documents/Orvane Axis Tests; each run in a dated folder inside</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -341,6 +341,10 @@
     <name>AxisValueGridModel</name>
     <message>
         <source>%1 Axis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 [%2]</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -642,6 +646,49 @@ Orvane stays open; exit again to retry, or answer No to leave the values unsaved
     </message>
 </context>
 <context>
+    <name>COV_AxisUnitsDlg</name>
+    <message>
+        <source>Axis Units - %1(%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leave Pulses/Unit empty to show an axis in pulses.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Axis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pulses/Unit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Decimals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 Axis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 Axis : Pulses/Unit &quot;%2&quot; is not a positive number.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 Axis : enter the name of the unit.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The axis units could not be written to %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>COV_BoardCallWnd</name>
     <message>
         <source>All</source>
@@ -801,6 +848,10 @@ Orvane stays open; exit again to retry, or answer No to leave the values unsaved
     </message>
     <message>
         <source>%1 of %2 parameters differ</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unit Scale</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1141,6 +1192,23 @@ Can not import parameters !</source>
     </message>
     <message>
         <source>Write %1 changed parameter(s) to the boards?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 axis unit scale(s) would change.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The axis unit scales could not be written to %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep %1 axis unit scale(s) of the file on this PC?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3141,6 +3209,26 @@ High Active : Normal Close</source>
         <source>... and %1 more fault(s)</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>PulsesPerUnit: &quot;%1&quot; is not a positive number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Decimals: &quot;%1&quot; is not 0 .. %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unknown unit key %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>[%1] lacks PulsesPerUnit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>[%1] has no axis section</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ProfileFields</name>
@@ -3795,11 +3883,33 @@ High Active : Normal Close</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Simulator</source>
+        <source>Axis Test</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Axis Test</source>
+        <source>Simulator</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>UnitScaleImport</name>
+    <message>
+        <source>pulses</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 pulses/%2, %3 decimals</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>UserUnitsActions</name>
+    <message>
+        <source>Axis Units...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show User Units</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -3,7 +3,7 @@
 // the board call trace recording, on the simulated boards.
 //
 //   orvane_bench_frame [--boards largest|default] [--ticks N] [--size WxH]
-//                      [--screenshot file.png]
+//                      [--screenshot file.png] [--units]
 //
 // It reports, in one run:
 //   - the mean and p99 cost of a refresh with the repaints it causes while every axis of the
@@ -11,8 +11,10 @@
 //   - the number of widget repaints over 100 refreshes while nothing moves (0 is the target:
 //     a lamp, cell or field that did not change is not repainted);
 //   - the period the multi-axis window's 1 ms gantry check really gets while axes jog.
-// "largest" is 3 families x 8 cards x 8 axes; "default" is the simulator's built-in set. The
-// simulator's files go to a temporary folder, so the build's own folder is left alone.
+// --units shows every axis in user units (2777.777 pulses/mm, 3 decimals) as Setup > "Show
+// User Units" would. "largest" is 3 families x 8 cards x 8 axes; "default" is the simulator's
+// built-in set. The simulator's files go to a temporary folder, so the build's own folder is left
+// alone.
 
 #include "AppState.h"
 #include "BoardApi.h"
@@ -87,6 +89,17 @@ void jogActiveCard(const AppState& state, BoardApi& board)
         board.SetJogSpeed(family, card, a, 100, 2000 + 500 * axis, 200);
         board.Jog_Move(family, card, a, static_cast<nrx_u16>(axis % 2));
     }
+}
+
+// A scale that is not a whole number of pulses, on every axis of every card.
+void showUserUnits(AppState& state)
+{
+    for (BoardFamily family : kAllFamilies)
+        for (int card = 0; card < state.registry.cardCount(family); ++card)
+            for (int axis = 0; axis < state.registry.axisCount(family, card); ++axis)
+                state.units.setScale(family, card, axis,
+                                     AxisUnitScale(QStringLiteral("mm"), 2777.777, 3));
+    state.units.setShown(true);
 }
 
 void stopActiveCard(const AppState& state, BoardApi& board)
@@ -194,6 +207,7 @@ int main(int argc, char* argv[])
     options.addOption({"ticks", "refreshes to time while axes move", "count", "2000"});
     options.addOption({"size", "the frame's size", "WxH", "1400x900"});
     options.addOption({"screenshot", "save the frame with every window open as a PNG", "file"});
+    options.addOption({"units", "show every axis in user units"});
     options.process(qtApp);
 
     QTemporaryDir data;
@@ -224,6 +238,8 @@ int main(int argc, char* argv[])
         return 1;
     }
     frame.monitorTimer().stop();
+    if (options.isSet("units"))
+        showUserUnits(state);
     const QStringList size = options.value("size").split(QLatin1Char('x'));
     frame.resize(size.value(0).toInt(), size.value(1).toInt());
     frame.show();

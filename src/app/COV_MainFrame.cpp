@@ -17,6 +17,7 @@
 #include "ToolView.h"
 #include "ToolWindowHost.h"
 #include "ToolWindowKinds.h"
+#include "UserUnitsActions.h"
 
 #include <QAction>
 #include <QApplication>
@@ -144,6 +145,7 @@ void COV_MainFrame::createMenus()
     QMenu* setup = createToolMenu(tr("Setup"), ToolMenu::Setup);
     setup->addAction(tr("Actual Speed Calculator"), this,
                      [this] { runCommand(FrameCommand::ActualSpeedCalculator); });
+    UserUnitsActions::addTo(*setup, m_state, m_prompt, this);
     bar->addMenu(setup);
     QMenu* motion = createToolMenu(tr("Motion"), ToolMenu::Motion);
     motion->addSeparator();
@@ -339,6 +341,7 @@ void COV_MainFrame::readSettings()
     m_showStatusWindow = values.showStatusWindow;
     m_statusFollowsOperation = values.statusFollowsOperation;
     m_state.statusFollowsOperation = values.statusFollowsOperation;
+    m_state.units = AxisUnits::read(m_state.settingsFilePath);
 }
 
 void COV_MainFrame::applySkin()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ActiveController.h"
+#include "AxisUnits.h"
 #include "CardRegistry.h"
 
 #include <QString>
@@ -15,6 +16,7 @@ struct AppState
     QString settingsFilePath;       // moduleDirectory + "ZelbrinOrvane.ini"
     int statusFollowsOperation = 1; // "Change_Status_Axis_Depend_On_Operation"
     int logLevel = 2;
+    AxisUnits units; // each axis' unit scale and the "Show User Units" switch
 
     // Card count, axis count and model name of the active card, for titles and selectors.
     int activeCardCount() const { return registry.cardCount(active.family); }

@@ -110,6 +110,18 @@ QByteArray PrivateProfile::readString(const QByteArray& section, const QByteArra
     return fallback;
 }
 
+QList<QByteArray> PrivateProfile::sectionNames() const
+{
+    QByteArray ending;
+    QList<QByteArray> names;
+    for (const QByteArray& line : readLines(m_path, ending)) {
+        QByteArray name;
+        if (sectionName(line, name))
+            names.append(name);
+    }
+    return names;
+}
+
 int PrivateProfile::readInt(const QByteArray& section, const QByteArray& key, int fallback) const
 {
     const QByteArray value = readString(section, key);

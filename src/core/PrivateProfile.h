@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QList>
 #include <QString>
 
 // Reads and writes keys of a narrow INI file the way the boards' tools always have: sections
@@ -21,6 +22,8 @@ public:
     // The value's leading decimal number (0 when there is none); fallback when the key is
     // absent or its value empty.
     int readInt(const QByteArray& section, const QByteArray& key, int fallback) const;
+    // The names of the file's sections, in file order.
+    QList<QByteArray> sectionNames() const;
 
     // Sets the key, adding it to its section (and the section to the file) when new. The
     // file is replaced in one step, never left half written: the new content reaches the disk

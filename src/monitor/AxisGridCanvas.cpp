@@ -24,6 +24,8 @@ AxisGridCanvas::AxisGridCanvas(AxisValueGridModel& model, QWidget* parent)
             update(
                 cellRect(first.row(), first.column()).united(cellRect(last.row(), last.column())));
         });
+    // Titles change only when the units do: the row names may need a wider column.
+    connect(&m_model, &QAbstractItemModel::headerDataChanged, this, [this] { fitTitles(); });
 }
 
 void AxisGridCanvas::fitTitles()

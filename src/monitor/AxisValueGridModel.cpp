@@ -33,6 +33,9 @@ QVariant AxisValueGridModel::data(const QModelIndex& index, int role) const
         const auto& value = m_values[row][static_cast<std::size_t>(axis)];
         if (!isPresent(axis) || !value)
             return QString();
+        const AxisUnitScale& unit = m_scales[static_cast<std::size_t>(axis)];
+        if (m_rows[row].measure != Measure::Plain && unit.isSet())
+            return unit.format(*value);
         return format(m_rows[row].format, *value);
     }
     case Qt::BackgroundRole:
@@ -52,10 +55,50 @@ QVariant AxisValueGridModel::headerData(int section, Qt::Orientation orientation
                                        : Qt::Alignment(Qt::AlignLeft | Qt::AlignVCenter));
     if (role != Qt::DisplayRole)
         return QVariant();
-    if (orientation == Qt::Horizontal)
-        return tr("%1 Axis").arg(section);
-    return section >= 0 && section < rowCount() ? m_rows[static_cast<std::size_t>(section)].title
-                                                : QString();
+    const QString shared = m_anyScale ? sharedUnit() : QString();
+    if (orientation == Qt::Horizontal) {
+        const QString title = tr("%1 Axis").arg(section);
+        if (!m_anyScale || !shared.isEmpty() || !isPresent(section) ||
+            !m_scales[static_cast<std::size_t>(section)].isSet())
+            return title;
+        return tr("%1 [%2]").arg(m_compactUnitTitles ? QString::number(section) : title,
+                                 m_scales[static_cast<std::size_t>(section)].unit());
+    }
+    if (section < 0 || section >= rowCount())
+        return QString();
+    const Row& row = m_rows[static_cast<std::size_t>(section)];
+    if (shared.isEmpty() || row.measure == Measure::Plain)
+        return row.title;
+    return tr("%1 [%2]").arg(
+        row.title, row.measure == Measure::Speed ? shared + QStringLiteral("/s") : shared);
+}
+
+QString AxisValueGridModel::sharedUnit() const
+{
+    QString shared;
+    for (int axis = 0; axis < m_presentAxes; ++axis) {
+        const AxisUnitScale& each = m_scales[static_cast<std::size_t>(axis)];
+        if (!each.isSet() || (axis > 0 && each.unit() != shared))
+            return QString();
+        shared = each.unit();
+    }
+    return shared;
+}
+
+void AxisValueGridModel::setScales(const std::vector<AxisUnitScale>& scales)
+{
+    std::array<AxisUnitScale, kAxes> next{};
+    for (std::size_t axis = 0; axis < next.size() && axis < scales.size(); ++axis)
+        next[axis] = scales[axis];
+    if (next == m_scales)
+        return;
+    m_scales = next;
+    m_anyScale = false;
+    for (const AxisUnitScale& each : m_scales)
+        m_anyScale = m_anyScale || each.isSet();
+    emit dataChanged(index(0, 0), index(rowCount() - 1, kAxes - 1), {Qt::DisplayRole});
+    emit headerDataChanged(Qt::Horizontal, 0, kAxes - 1);
+    emit headerDataChanged(Qt::Vertical, 0, rowCount() - 1);
 }
 
 Qt::ItemFlags AxisValueGridModel::flags(const QModelIndex& index) const
@@ -90,4 +133,9 @@ void AxisValueGridModel::setPresentAxes(int count)
             row[static_cast<std::size_t>(axis)].reset();
     emit dataChanged(index(0, first), index(rowCount() - 1, last),
                      {Qt::DisplayRole, Qt::BackgroundRole});
+    // The shared unit is that of the present axes.
+    if (m_anyScale) {
+        emit headerDataChanged(Qt::Horizontal, 0, kAxes - 1);
+        emit headerDataChanged(Qt::Vertical, 0, rowCount() - 1);
+    }
 }

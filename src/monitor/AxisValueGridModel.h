@@ -1,5 +1,7 @@
 #pragma once
 
+#include "AxisUnitScale.h"
+
 #include <QAbstractTableModel>
 #include <QColor>
 #include <QStringList>
@@ -22,10 +24,18 @@ public:
         Decimal,   // "%d"
         HexWord16, // the low 16 bits, "%04X"
     };
+    // What a decimal row counts, so that an axis' unit scale can apply to it.
+    enum class Measure
+    {
+        Plain,
+        Position, // pulses
+        Speed,    // pulses/s
+    };
     struct Row
     {
         QString title;
         Format format;
+        Measure measure = Measure::Plain;
     };
     static constexpr int kAxes = 8;
     static QColor absentColor() { return QColor(222, 222, 222); }
@@ -44,10 +54,24 @@ public:
     void setPresentAxes(int count);
     bool isPresent(int axis) const { return axis >= 0 && axis < m_presentAxes; }
 
+    // The axes' unit scales (none for an axis shown in pulses): position and speed rows read
+    // in units, and the row titles name the unit all present scaled axes share, otherwise
+    // each scaled axis' title names its own. Unchanged scales signal nothing.
+    void setScales(const std::vector<AxisUnitScale>& scales);
+    // Narrow columns name an axis' own unit as "0 [mm]" rather than "0 Axis [mm]".
+    void setCompactUnitTitles(bool compact) { m_compactUnitTitles = compact; }
+    const AxisUnitScale& scale(int axis) const { return m_scales[static_cast<std::size_t>(axis)]; }
+
     static QString format(Format format, std::int32_t value);
 
 private:
     std::vector<Row> m_rows;
     std::vector<std::array<std::optional<std::int32_t>, kAxes>> m_values;
+    // The unit every present axis shares, or empty when one has none or they differ.
+    QString sharedUnit() const;
+
+    std::array<AxisUnitScale, kAxes> m_scales{};
+    bool m_anyScale = false;
+    bool m_compactUnitTitles = false;
     int m_presentAxes = kAxes;
 };

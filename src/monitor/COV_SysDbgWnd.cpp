@@ -35,9 +35,10 @@ COV_SysDbgWnd::COV_SysDbgWnd(const ToolContext& context, QWidget* parent)
       m_card(context.state.active.card)
 {
     setWindowTitle(tr("System Diagnosis"));
-    m_positions = new DiagnosisGrid({{tr("Cmd Pos"), Format::Decimal},
-                                     {tr("Act Pos"), Format::Decimal},
-                                     {tr("Cmd Vel"), Format::Decimal}},
+    using Measure = AxisValueGridModel::Measure;
+    m_positions = new DiagnosisGrid({{tr("Cmd Pos"), Format::Decimal, Measure::Position},
+                                     {tr("Act Pos"), Format::Decimal, Measure::Position},
+                                     {tr("Cmd Vel"), Format::Decimal, Measure::Speed}},
                                     this);
     m_statuses = new DiagnosisGrid({{tr("Card"), Format::HexWord16},
                                     {tr("Drive"), Format::HexWord16},
@@ -46,6 +47,7 @@ COV_SysDbgWnd::COV_SysDbgWnd(const ToolContext& context, QWidget* parent)
                                     {tr("Input"), Format::HexWord16}},
                                    this);
     m_positions->setObjectName(QStringLiteral("positionGrid"));
+    m_positions->values()->setCompactUnitTitles(true);
     m_statuses->setObjectName(QStringLiteral("statusGrid"));
 
     auto* layout = new QVBoxLayout(this);
@@ -193,6 +195,7 @@ void COV_SysDbgWnd::readPositions()
     const auto card = static_cast<CardNo>(m_card);
     AxisValueGridModel* values = m_positions->values();
     values->setPresentAxes(m_axisCount);
+    takeScales();
     for (int axis = 0; axis < m_axisCount; ++axis) {
         const auto a = static_cast<AxisNo>(axis);
         if (m_positions->isCellVisible(CmdPos, axis))
@@ -202,6 +205,17 @@ void COV_SysDbgWnd::readPositions()
         if (m_positions->isCellVisible(CmdVel, axis))
             values->setValue(CmdVel, axis, board.GetCommandSpeed(m_family, card, a));
     }
+}
+
+void COV_SysDbgWnd::takeScales()
+{
+    const AxisUnits& units = m_context.state.units;
+    const std::tuple<int, int, int> now(units.revision(), familyIndex(m_family), m_card);
+    if (now == m_scalesOf)
+        return;
+    m_scalesOf = now;
+    m_positions->values()->setScales(
+        units.shownScales(m_family, m_card, AxisValueGridModel::kAxes));
 }
 
 void COV_SysDbgWnd::readStatusWords()

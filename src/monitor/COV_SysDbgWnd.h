@@ -9,6 +9,7 @@
 #include <array>
 #include <cstdint>
 #include <optional>
+#include <tuple>
 
 class DiagnosisGrid;
 class QComboBox;
@@ -63,6 +64,8 @@ private:
     void chooseCard(int index);
     void takeCounts();
     void readPositions();
+    // Hands the position grid the card's scales when the units or the card changed.
+    void takeScales();
     void readStatusWords();
     void readIo(Side side);
 
@@ -81,4 +84,6 @@ private:
     std::array<std::array<std::optional<std::uint32_t>, 2>, 2> m_ioShown{};
     std::array<std::array<bool, 2>, 2> m_ioEmpty{};
     QTimer m_timer;
+    // the units' revision, family and card the position grid's scales belong to
+    std::tuple<int, int, int> m_scalesOf{-1, -1, -1};
 };

@@ -12,9 +12,10 @@ COV_UtMtnStWnd::COV_UtMtnStWnd(AppState& state, BoardApi& board, FrameRelay& fra
     : QWidget(parent), m_state(state), m_board(board), m_frame(frame)
 {
     using Format = AxisValueGridModel::Format;
-    m_model = new AxisValueGridModel({{tr("Command Position"), Format::Decimal},
-                                      {tr("Actual Position"), Format::Decimal},
-                                      {tr("Command Velocity"), Format::Decimal}},
+    using Measure = AxisValueGridModel::Measure;
+    m_model = new AxisValueGridModel({{tr("Command Position"), Format::Decimal, Measure::Position},
+                                      {tr("Actual Position"), Format::Decimal, Measure::Position},
+                                      {tr("Command Velocity"), Format::Decimal, Measure::Speed}},
                                      this);
     // A grid painted by hand: a changed value repaints its own cell and nothing else.
     m_canvas = new AxisGridCanvas(*m_model, this);
@@ -41,6 +42,7 @@ void COV_UtMtnStWnd::refresh()
         qBound(0, static_cast<int>(m_state.registry.axisCount(family, m_state.active.card)),
                static_cast<int>(AxisValueGridModel::kAxes));
     m_model->setPresentAxes(axisCount);
+    takeScales();
     for (int row = 0; row < kRows; ++row) {
         for (int axis = 0; axis < axisCount; ++axis) {
             if (!isCellVisible(row, axis))
@@ -61,6 +63,17 @@ void COV_UtMtnStWnd::refresh()
             m_model->setValue(row, axis, value);
         }
     }
+}
+
+void COV_UtMtnStWnd::takeScales()
+{
+    const std::tuple<int, int, int> now(m_state.units.revision(),
+                                        familyIndex(m_state.active.family), m_state.active.card);
+    if (now == m_scalesOf)
+        return;
+    m_scalesOf = now;
+    m_model->setScales(m_state.units.shownScales(m_state.active.family, m_state.active.card,
+                                                 AxisValueGridModel::kAxes));
 }
 
 void COV_UtMtnStWnd::activateAxis(int axis)

@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+#include <tuple>
+
 class AxisGridCanvas;
 class AxisValueGridModel;
 class BoardApi;
@@ -35,9 +37,14 @@ public:
     bool isCellVisible(int row, int axis) const;
 
 private:
+    // Hands the model the active card's scales when the units or the card changed.
+    void takeScales();
+
     AppState& m_state;
     BoardApi& m_board;
     FrameRelay& m_frame;
     AxisValueGridModel* m_model = nullptr;
     AxisGridCanvas* m_canvas = nullptr;
+    // the units' revision, family and card the model's scales belong to
+    std::tuple<int, int, int> m_scalesOf{-1, -1, -1};
 };

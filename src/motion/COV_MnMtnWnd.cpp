@@ -11,6 +11,7 @@
 #include "PollInterval.h"
 #include "PromptService.h"
 #include "PromptTexts.h"
+#include "UnitEchoes.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -48,8 +49,25 @@ COV_MnMtnWnd::COV_MnMtnWnd(const ToolContext& context, QWidget* parent, Sequence
     m_form.gantrySource->setCurrentIndex(0);
     fillCardCombo();
     reload();
+    addUnitEchoes();
     m_listWatch.setInterval(kPollIntervalMs);
     m_listWatch.start();
+}
+
+void COV_MnMtnWnd::addUnitEchoes()
+{
+    m_echoes = new UnitEchoes(
+        m_context.state,
+        [this] {
+            return UnitEchoes::Axis{family(), m_card, m_focused};
+        },
+        this);
+    m_echoes->add(m_form.profile.drive, UnitEchoes::Measure::Speed);
+    m_echoes->add(m_form.profile.initial, UnitEchoes::Measure::Speed);
+    m_echoes->add(m_form.position1, UnitEchoes::Measure::Position);
+    m_echoes->add(m_form.position2, UnitEchoes::Measure::Position);
+    connect(m_form.axisList, &QListWidget::currentRowChanged, m_echoes,
+            [this] { m_echoes->refresh(); });
 }
 
 COV_MnMtnWnd::~COV_MnMtnWnd()

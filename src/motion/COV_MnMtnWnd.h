@@ -12,6 +12,7 @@
 #include <QTimer>
 
 class SequencerClockwork;
+class UnitEchoes;
 
 // The multi-axis motion tool window: moves the checked axes of one card together by jog,
 // relative and absolute steps with repeat, with a gantry check that stops them all when two
@@ -48,6 +49,8 @@ private:
     BoardFamily family() const;
     void fillCardCombo();
     void reload();
+    // "= 12.500 mm" beside the speed and position fields of the highlighted axis.
+    void addUnitEchoes();
     void loadProfilesFromBoard();
     void showFocusedFields();
     PtpSpeeds profileFields() const;
@@ -103,5 +106,6 @@ private:
     QString m_lastValidLimit = QStringLiteral("100");
 
     QTimer m_listWatch;
+    UnitEchoes* m_echoes = nullptr;
     GantryCheck m_gantry;
 };

@@ -4,6 +4,7 @@
 #include "CounterPresets.h"
 #include "FieldText.h"
 #include "PageFieldGrid.h"
+#include "UnitEchoes.h"
 
 #include <QComboBox>
 #include <QGroupBox>
@@ -20,6 +21,15 @@ COV_SnMtnHomeWnd::COV_SnMtnHomeWnd(AppState& state, BoardApi& board, QWidget* pa
     m_presets = new CounterPresets(state, board);
     layout->addWidget(m_presets);
     layout->addStretch();
+    m_echoes = new UnitEchoes(
+        state,
+        [this] {
+            return UnitEchoes::Axis{m_state.active.family, m_card, m_axis};
+        },
+        this);
+    m_echoes->add(m_highSpeed, UnitEchoes::Measure::Speed);
+    m_echoes->add(m_lowSpeed, UnitEchoes::Measure::Speed);
+    m_echoes->add(m_offset, UnitEchoes::Measure::Position);
 }
 
 QWidget* COV_SnMtnHomeWnd::createModeGroup()
@@ -70,6 +80,7 @@ void COV_SnMtnHomeWnd::setCardAxis(CardNo card, AxisNo axis)
     m_card = card;
     m_axis = axis;
     m_presets->setCardAxis(card, axis);
+    m_echoes->refresh();
 }
 
 void COV_SnMtnHomeWnd::load()

@@ -10,6 +10,7 @@ class BoardApi;
 class CounterPresets;
 class QComboBox;
 class QLineEdit;
+class UnitEchoes;
 
 // The "Home" page of the single-axis window: the homing parameters of the axis and the
 // command and actual counter presets.
@@ -42,4 +43,5 @@ private:
     QLineEdit* m_accDec = nullptr;
     QLineEdit* m_offset = nullptr;
     CounterPresets* m_presets = nullptr;
+    UnitEchoes* m_echoes = nullptr; // the speeds and offset in the axis' unit
 };

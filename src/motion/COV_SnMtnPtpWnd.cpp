@@ -7,6 +7,7 @@
 #include "PageFieldGrid.h"
 #include "PromptService.h"
 #include "PromptTexts.h"
+#include "UnitEchoes.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -34,6 +35,16 @@ COV_SnMtnPtpWnd::COV_SnMtnPtpWnd(AppState& state, BoardApi& board, PromptService
     layout->addWidget(createDisplayGroup());
     layout->addStretch();
     connectControls();
+    m_echoes = new UnitEchoes(
+        state,
+        [this] {
+            return UnitEchoes::Axis{family(), m_card, m_axis};
+        },
+        this);
+    m_echoes->add(m_profile.drive, UnitEchoes::Measure::Speed);
+    m_echoes->add(m_profile.initial, UnitEchoes::Measure::Speed);
+    m_echoes->add(m_position1, UnitEchoes::Measure::Position);
+    m_echoes->add(m_position2, UnitEchoes::Measure::Position);
 
     m_profile.motionType->setCurrentIndex(static_cast<int>(m_motionType));
     clearTimeAndCount();
@@ -108,6 +119,7 @@ void COV_SnMtnPtpWnd::setCardAxis(CardNo card, AxisNo axis)
     m_card = card;
     m_axis = axis;
     m_presets->setCardAxis(card, axis);
+    m_echoes->refresh();
 }
 
 void COV_SnMtnPtpWnd::applyFieldStates()

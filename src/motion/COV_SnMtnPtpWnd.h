@@ -15,6 +15,7 @@ class QCheckBox;
 class QComboBox;
 class QLabel;
 class QLineEdit;
+class UnitEchoes;
 
 // The "Point To Point" page of the single-axis window: the speed profile, repeat settings and
 // positions of a move, and the cycle time and count while the host sequences it.
@@ -45,6 +46,7 @@ public:
     void showTimeAndCount(int elapsedMs, int cycleCount);
     void clearTimeAndCount();
     void setSequenceLocked(bool locked);
+    UnitEchoes* unitEchoes() const { return m_echoes; }
 
 signals:
     void motionTypeChanged();
@@ -85,4 +87,5 @@ private:
     CounterPresets* m_presets = nullptr;
     QLineEdit* m_repeatCount = nullptr;
     QLineEdit* m_cycleTime = nullptr;
+    UnitEchoes* m_echoes = nullptr;
 };

@@ -4,6 +4,7 @@
 #include "BoardApi.h"
 #include "FieldText.h"
 #include "PageFieldGrid.h"
+#include "UnitEchoes.h"
 
 #include <QLineEdit>
 #include <QPushButton>
@@ -21,12 +22,21 @@ CounterPresets::CounterPresets(AppState& state, BoardApi& board, QWidget* parent
     setFieldNumber(m_setActual, 0);
     connect(command, &QPushButton::clicked, this, [this] { preset(TestValue::SetCommand); });
     connect(actual, &QPushButton::clicked, this, [this] { preset(TestValue::SetActual); });
+    m_echoes = new UnitEchoes(
+        state,
+        [this] {
+            return UnitEchoes::Axis{m_state.active.family, m_card, m_axis};
+        },
+        this);
+    m_echoes->add(m_setCommand, UnitEchoes::Measure::Position);
+    m_echoes->add(m_setActual, UnitEchoes::Measure::Position);
 }
 
 void CounterPresets::setCardAxis(CardNo card, AxisNo axis)
 {
     m_card = card;
     m_axis = axis;
+    m_echoes->refresh();
 }
 
 void CounterPresets::load()

@@ -8,6 +8,7 @@
 struct AppState;
 class BoardApi;
 class QLineEdit;
+class UnitEchoes;
 
 // The "Set Command" and "Set Actual" presets both single-axis pages carry: each button sets
 // its counter on the board and remembers the value for the card and axis.
@@ -32,4 +33,5 @@ private:
     AxisNo m_axis = 0;
     QLineEdit* m_setCommand = nullptr;
     QLineEdit* m_setActual = nullptr;
+    UnitEchoes* m_echoes = nullptr; // both presets in the axis' unit
 };

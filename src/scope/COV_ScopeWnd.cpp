@@ -10,6 +10,7 @@
 #include "ScopeChannelTable.h"
 #include "ScopeCsv.h"
 #include "ScopeReadout.h"
+#include "ScopeUnits.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -307,24 +308,37 @@ void COV_ScopeWnd::sampleTick()
 
 void COV_ScopeWnd::drawTick()
 {
-    if (m_recorder.revision() != m_drawnRevision)
+    if (m_recorder.revision() != m_drawnRevision ||
+        m_context.state.units.revision() != m_drawnUnits)
         refreshPlot();
 }
 
 void COV_ScopeWnd::refreshPlot()
 {
     m_drawnRevision = m_recorder.revision();
+    m_drawnUnits = m_context.state.units.revision();
     m_shown = m_viewingFile ? m_file : m_recorder.recording();
+    // The prediction works in pulses, before the record turns into units.
+    predictSpeeds();
+    if (!m_viewingFile)
+        ScopeUnits::apply(m_shown, m_predicted, m_context.state.units);
     updateSeries();
     updateXRange();
     m_readout->showValues(m_shown, m_navigator->cursor(0), m_navigator->cursor(1));
     updateControls();
 }
 
+void COV_ScopeWnd::predictSpeeds()
+{
+    m_predicted.assign(m_shown.columns.size(), {});
+    for (size_t c = 0; c < m_shown.columns.size(); ++c)
+        if (m_shown.columns[c].unit == QLatin1String("pps"))
+            m_predicted[c] = PredictedSpeedProfile::forRecording(m_shown, static_cast<int>(c));
+}
+
 void COV_ScopeWnd::updateSeries()
 {
     m_plot->clearSeries();
-    m_predicted.assign(m_shown.columns.size(), {});
     QString leftTitle;
     for (size_t c = 0; c < m_shown.columns.size(); ++c) {
         const ScopeRecording::Column& column = m_shown.columns[c];
@@ -351,8 +365,6 @@ void COV_ScopeWnd::updateSeries()
             name += QStringLiteral("  %1 .. %2").arg(low).arg(high);
         }
         m_plot->setSeries(index, std::move(points), ScopeChannelTable::colour(channel), name);
-        if (column.unit == QLatin1String("pps"))
-            m_predicted[c] = PredictedSpeedProfile::forRecording(m_shown, index);
     }
     if (std::any_of(m_predicted.begin(), m_predicted.end(),
                     [](const QVector<QPointF>& curve) { return !curve.isEmpty(); }))

@@ -69,6 +69,7 @@ private:
     void connectControls();
     void applySettings();
     void updateControls();
+    void predictSpeeds();
     void updateSeries();
     void updateXRange();
     void drawOverlay(QPainter& painter, const PlotWidget& plot) const;
@@ -84,6 +85,7 @@ private:
     bool m_userView = false; // zoomed or panned: the time axis stays where the user put it
     bool m_placeCursors = true;
     std::uint64_t m_drawnRevision = ~std::uint64_t{0};
+    int m_drawnUnits = -1; // the units' revision the plot was drawn with
     // Predicted command speed per shown column (empty where there is none).
     std::vector<QVector<QPointF>> m_predicted;
 

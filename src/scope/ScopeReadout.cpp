@@ -10,8 +10,10 @@
 
 namespace {
 
-QString number(double value)
+QString number(double value, int decimals = -1)
 {
+    if (decimals >= 0)
+        return QString::number(value, 'f', decimals);
     return QString::number(value, 'f', value == std::floor(value) ? 0 : 3);
 }
 
@@ -74,9 +76,9 @@ void ScopeReadout::showValues(const ScopeRecording& recording, double cursor1, d
         const double first = valueAt(recording, column, cursor1);
         const double second = valueAt(recording, column, cursor2);
         setText(row, 0, QStringLiteral("%1 [%2]").arg(source.name, source.unit));
-        setText(row, 1, number(first));
-        setText(row, 2, number(second));
-        setText(row, 3, number(second - first));
+        setText(row, 1, number(first, source.decimals));
+        setText(row, 2, number(second, source.decimals));
+        setText(row, 3, number(second - first, source.decimals));
     }
 }
 

@@ -177,6 +177,7 @@ ScopeRecording ScopeRecorder::recording() const
         column.name = channel.name();
         column.unit = ScopeChannel::unit(channel.signal);
         column.channel = static_cast<int>(c);
+        column.source = channel;
         column.hasSettings = m_triggered && channel.signal == ScopeChannel::CommandSpeed;
         column.settings = m_speedSettings[c];
         column.values.reserve(count);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ActualSpeedCalculator.h"
+#include "ScopeChannel.h"
 
 #include <QString>
 
@@ -20,6 +21,8 @@ struct ScopeRecording
         // predicted profile can be drawn against them.
         bool hasSettings = false;
         ActualSpeedCalculator::Request settings;
+        ScopeChannel source; // that channel's axis and signal as recorded
+        int decimals = -1;   // the user unit's decimals; -1 for values in pulses
     };
 
     std::vector<double> times;

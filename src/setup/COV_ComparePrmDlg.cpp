@@ -6,6 +6,7 @@
 #include "ParameterText.h"
 #include "PromptService.h"
 #include "ToolContext.h"
+#include "UnitScaleImport.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
@@ -71,6 +72,7 @@ bool COV_ComparePrmDlg::read(const ParameterSourceBox& box, ParameterSet& set)
 {
     if (box.kind() != ParameterSourceBox::File) {
         set = ParameterSet::fromBoards(m_context.board, m_context.state.registry, box.scope());
+        set.addUnits(m_context.state.units);
         return true;
     }
     std::vector<ParameterFault> faults;
@@ -88,6 +90,7 @@ bool COV_ComparePrmDlg::compare()
     if (!read(*m_sources[0], sets[0]) || !read(*m_sources[1], sets[1]))
         return false;
     m_rows = ParameterComparison::compare(sets[0], sets[1]);
+    m_unitRows = ParameterComparison::compareUnits(sets[0], sets[1]);
     m_table->setHorizontalHeaderLabels({tr("Section"), tr("Parameter"),
                                         tr("A: ") + m_sources[0]->label(),
                                         tr("B: ") + m_sources[1]->label()});
@@ -110,6 +113,28 @@ void COV_ComparePrmDlg::showRows()
         const QStringList cells{row.section, QLatin1String(row.info->name),
                                 ParameterComparison::valueText(*row.info, row.first),
                                 ParameterComparison::valueText(*row.info, row.second)};
+        for (int column = 0; column < cells.size(); ++column) {
+            auto* item = new QTableWidgetItem(cells[column]);
+            if (row.differs())
+                item->setBackground(kDifferent);
+            m_table->setItem(at, column, item);
+        }
+    }
+    showUnitRows();
+}
+
+// The axis scales after the parameters, where either source has one.
+void COV_ComparePrmDlg::showUnitRows()
+{
+    const bool onlyDifferent = m_differencesOnly->isChecked();
+    for (const UnitComparisonRow& row : m_unitRows) {
+        if (onlyDifferent && !row.differs())
+            continue;
+        const int at = m_table->rowCount();
+        m_table->insertRow(at);
+        const QStringList cells{row.section, tr("Unit Scale"),
+                                UnitScaleImport::scaleText(row.first),
+                                UnitScaleImport::scaleText(row.second)};
         for (int column = 0; column < cells.size(); ++column) {
             auto* item = new QTableWidgetItem(cells[column]);
             if (row.differs())

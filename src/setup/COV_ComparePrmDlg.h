@@ -30,6 +30,7 @@ public:
 private:
     bool read(const ParameterSourceBox& box, ParameterSet& set);
     void showRows();
+    void showUnitRows();
 
     const ToolContext& m_context;
     ParameterSourceBox* m_sources[2] = {};
@@ -37,4 +38,5 @@ private:
     QLabel* m_summary = nullptr;
     QTableWidget* m_table = nullptr;
     std::vector<ComparisonRow> m_rows;
+    std::vector<UnitComparisonRow> m_unitRows;
 };

@@ -70,8 +70,9 @@ bool COV_ExportPrmDlg::exportFile()
         m_context.prompt.inform(tr("Choose the file to export to."));
         return false;
     }
-    const ParameterSet set =
+    ParameterSet set =
         ParameterSet::fromBoards(m_context.board, m_context.state.registry, m_source->scope());
+    set.addUnits(m_context.state.units);
     const QString error = ParameterText::writeFile(path, set, QDateTime::currentDateTime());
     qCInfo(lcParams).noquote() << "Export of" << set.cards.size() << "card(s) to" << path
                                << (error.isEmpty() ? QStringLiteral("done") : error);

@@ -9,6 +9,7 @@
 #include "ParameterText.h"
 #include "PromptService.h"
 #include "ToolContext.h"
+#include "UnitScaleImport.h"
 
 #include <QDialogButtonBox>
 #include <QFileDialog>
@@ -83,6 +84,8 @@ void COV_ImportPrmDlg::load(const QString& path)
     std::vector<ParameterFault> faults;
     const ParameterSet file = ParameterText::readFile(path, faults);
     m_import = std::make_unique<ParameterImport>(file, m_context.board, m_context.state.registry);
+    m_units =
+        std::make_unique<UnitScaleImport>(file, m_context.state.units, m_context.state.registry);
     // One list of everything wrong: the text's faults and what the PC lacks.
     ParameterText::merge(faults, m_import->faults());
     m_faults->setVisible(!faults.empty());
@@ -113,20 +116,58 @@ void COV_ImportPrmDlg::showChanges()
         for (int column = 0; column < cells.size(); ++column)
             m_changes->setItem(row, column, new QTableWidgetItem(cells[column]));
     }
+    showUnitChanges();
     QString summary = changes.empty() ? tr("The boards already hold every value of the file.")
                                       : tr("%1 parameter(s) would change:").arg(changes.size());
+    if (!m_units->changes().empty())
+        summary += tr("\n%1 axis unit scale(s) would change.").arg(m_units->changes().size());
     for (const QString& other : m_import->otherModels())
         summary += QLatin1Char('\n') + other + QLatin1Char('.');
     for (const QString& skipped : m_import->skipped())
         summary += tr("\nSkipped %1.").arg(skipped);
     m_summary->setText(summary);
-    m_write->setEnabled(!changes.empty());
+    m_write->setEnabled(!changes.empty() || !m_units->changes().empty());
+}
+
+// The axis scales the file would change, below the parameters: they go to the settings file.
+void COV_ImportPrmDlg::showUnitChanges()
+{
+    const int first = m_changes->rowCount();
+    m_changes->setRowCount(first + static_cast<int>(m_units->changes().size()));
+    int row = first;
+    for (const UnitSection& change : m_units->changes()) {
+        const QStringList cells{QString::fromStdString(change.name()), tr("Scale"),
+                                UnitScaleImport::scaleText(m_units->before(change)),
+                                UnitScaleImport::scaleText(change.scale)};
+        for (int column = 0; column < cells.size(); ++column)
+            m_changes->setItem(row, column, new QTableWidgetItem(cells[column]));
+        ++row;
+    }
+}
+
+void COV_ImportPrmDlg::writeUnits()
+{
+    AppState& state = m_context.state;
+    if (!m_units->apply(state.units, state.settingsFilePath))
+        m_context.prompt.inform(
+            tr("The axis unit scales could not be written to %1.").arg(state.settingsFilePath));
+    qCInfo(lcParams).noquote() << "Import of" << m_units->changes().size() << "axis scale(s) from"
+                               << m_file->text();
 }
 
 bool COV_ImportPrmDlg::writeToBoards()
 {
-    if (!m_import || m_import->changes().empty())
+    if (!m_import || (m_import->changes().empty() && m_units->changes().empty()))
         return false;
+    // Scales alone touch no board, only this PC's settings.
+    if (m_import->changes().empty()) {
+        if (!m_context.prompt.askYesNo(tr("Keep %1 axis unit scale(s) of the file on this PC?")
+                                           .arg(m_units->changes().size())))
+            return false;
+        writeUnits();
+        load(m_file->text());
+        return true;
+    }
     // New limits or pulse settings under a moving axis could run it anywhere.
     if (m_context.state.active.anyAxesMoving()) {
         m_context.prompt.inform(tr("Axes are moving !\nCan not import parameters !"));
@@ -148,6 +189,8 @@ bool COV_ImportPrmDlg::writeToBoards()
         else
             state.registry.setParametersChanged(family, card, true);
     }
+    if (!m_units->changes().empty())
+        writeUnits();
     for (ToolKind kind : {ToolParameter, ToolSingleAxis, ToolMultiAxis, ToolDigitalIo})
         m_context.frame.sendToFrame(UM_VIEW_COMMAND, kind);
     if (!m_import->refused().isEmpty())

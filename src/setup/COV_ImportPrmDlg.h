@@ -10,6 +10,7 @@ class QLineEdit;
 class QPlainTextEdit;
 class QPushButton;
 class QTableWidget;
+class UnitScaleImport;
 struct ToolContext;
 
 // "Import Parameters": checks a parameter file against the boards, shows what it would change
@@ -32,9 +33,12 @@ public:
 
 private:
     void showChanges();
+    void showUnitChanges();
+    void writeUnits();
 
     const ToolContext& m_context;
     std::unique_ptr<ParameterImport> m_import;
+    std::unique_ptr<UnitScaleImport> m_units; // the file's axis scales
     QLineEdit* m_file = nullptr;
     QLabel* m_summary = nullptr;
     QPlainTextEdit* m_faults = nullptr;

@@ -9,11 +9,13 @@
 #include "ParameterImport.h"
 #include "ParameterText.h"
 #include "PromptService.h"
+#include "UnitScaleImport.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
+#include <QStandardPaths>
 #include <QTextStream>
 
 #include <algorithm>
@@ -116,7 +118,20 @@ int ParameterCommandLine::main(int argc, char** argv)
         return BadInput;
     ParameterCommandLine command(boards.api(), boards.registry(), out, err);
     command.setSimulated(boards.simulated());
+    // Where the window keeps its settings: beside the program, or in the user's data folder
+    // when that is not writable (an installed copy).
+    QString folder = QCoreApplication::applicationDirPath() + QLatin1Char('/');
+    if (!QFileInfo(folder).isWritable())
+        folder =
+            QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + QLatin1Char('/');
+    command.setSettingsFile(folder + QStringLiteral("ZelbrinOrvane.ini"));
     return command.run(arguments);
+}
+
+void ParameterCommandLine::setSettingsFile(const QString& path)
+{
+    m_settingsFile = path;
+    m_units = AxisUnits::read(path);
 }
 
 int ParameterCommandLine::run(const QStringList& arguments)
@@ -165,7 +180,8 @@ int ParameterCommandLine::exportFile(const QStringList& arguments)
         m_err << "orvane params export: this PC has no such board" << Qt::endl;
         return BadInput;
     }
-    const ParameterSet set = ParameterSet::fromBoards(m_board, m_registry, scope);
+    ParameterSet set = ParameterSet::fromBoards(m_board, m_registry, scope);
+    set.addUnits(m_units);
     const QString error =
         ParameterText::writeFile(positional[0], set, QDateTime::currentDateTime());
     if (!error.isEmpty()) {
@@ -221,17 +237,35 @@ int ParameterCommandLine::importFile(const QStringList& arguments)
               << ParameterComparison::valueText(*c.info, c.boardValue) << " -> "
               << ParameterComparison::valueText(*c.info, c.fileValue) << '\n';
     }
+    const UnitScaleImport units(file, m_units, m_registry);
+    for (const UnitSection& u : units.changes())
+        m_out << QString::fromStdString(u.name())
+              << " Scale: " << UnitScaleImport::scaleText(units.before(u)) << " -> "
+              << UnitScaleImport::scaleText(u.scale) << '\n';
     m_out.flush();
     const auto count = import.changes().size();
-    if (count == 0) {
+    const auto unitCount = units.changes().size();
+    if (count == 0 && unitCount == 0) {
         m_err << "The boards already hold every value of " << positional[0] << Qt::endl;
         return Success;
     }
     if (!options.count(QStringLiteral("--yes"))) {
-        m_err << count << " change(s); nothing written. Run again with --yes to write them."
-              << Qt::endl;
+        m_err << count + unitCount
+              << " change(s); nothing written. Run again with --yes to write them." << Qt::endl;
         return Success;
     }
+    if (unitCount > 0) {
+        if (m_settingsFile.isEmpty() || !units.apply(m_units, m_settingsFile)) {
+            m_err << "orvane params import: the axis unit scales could not be kept in "
+                  << m_settingsFile << Qt::endl;
+            return BadInput;
+        }
+        qCInfo(lcParams).noquote()
+            << "params import:" << unitCount << "axis scale(s) from" << positional[0];
+        m_err << "Kept " << unitCount << " axis unit scale(s) in " << m_settingsFile << Qt::endl;
+    }
+    if (count == 0)
+        return Success;
     const auto touched = import.apply();
     qCInfo(lcParams).noquote() << "params import:" << count << "change(s) from" << positional[0]
                                << "written to" << touched.size() << "card(s)";
@@ -299,6 +333,7 @@ bool ParameterCommandLine::source(const QString& text, ParameterSet& set)
         return false;
     }
     set = ParameterSet::fromBoards(m_board, m_registry, *scope);
+    set.addUnits(m_units);
     return true;
 }
 
@@ -322,8 +357,16 @@ int ParameterCommandLine::diff(const QStringList& arguments)
         m_out << row.section << ' ' << row.info->name << ": " << shown(row.first) << " | "
               << shown(row.second) << '\n';
     }
+    int unitDifferences = 0;
+    for (const UnitComparisonRow& row : ParameterComparison::compareUnits(first, second)) {
+        if (!row.differs())
+            continue;
+        ++unitDifferences;
+        m_out << row.section << " Unit Scale: " << UnitScaleImport::scaleText(row.first) << " | "
+              << UnitScaleImport::scaleText(row.second) << '\n';
+    }
     m_out.flush();
-    const int count = ParameterComparison::differenceCount(rows);
+    const int count = ParameterComparison::differenceCount(rows) + unitDifferences;
     m_err << count << (count == 1 ? " difference" : " differences") << " in " << rows.size()
           << " parameters" << Qt::endl;
     return count == 0 ? Success : Differences;

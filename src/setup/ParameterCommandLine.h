@@ -1,5 +1,6 @@
 #pragma once
 
+#include "AxisUnits.h"
 #include "BoardFamily.h"
 
 #include <QStringList>
@@ -32,6 +33,9 @@ public:
     int run(const QStringList& arguments);
     // The families whose boards are simulated: their values live only as long as the process.
     void setSimulated(std::vector<BoardFamily> families) { m_simulated = std::move(families); }
+    // The program's settings file: its axis scales go into exports and diffs, and import
+    // keeps a file's scales there.
+    void setSettingsFile(const QString& path);
 
     // True when the program was started as "orvane params ...".
     static bool isCommand(int argc, char** argv);
@@ -54,4 +58,6 @@ private:
     QTextStream& m_out;
     QTextStream& m_err;
     std::vector<BoardFamily> m_simulated;
+    QString m_settingsFile;
+    AxisUnits m_units;
 };

@@ -1,5 +1,6 @@
 #include "ParameterComparison.h"
 
+#include <algorithm>
 #include <map>
 
 namespace {
@@ -68,6 +69,40 @@ std::vector<ComparisonRow> ParameterComparison::compare(const ParameterSet& whol
                 rows.push_back({key, v.info, std::nullopt, v.value});
         }
     }
+    return rows;
+}
+
+std::vector<UnitComparisonRow> ParameterComparison::compareUnits(const ParameterSet& wholeFirst,
+                                                                 const ParameterSet& wholeSecond)
+{
+    const ParameterSet first = narrowed(wholeFirst, wholeSecond);
+    const ParameterSet second = narrowed(wholeSecond, wholeFirst);
+    const bool relative = singleCard(first) && singleCard(second);
+    std::vector<UnitComparisonRow> rows;
+    std::map<QString, std::size_t> index;
+    auto take = [&](const ParameterSet& whole, const ParameterSet& part, bool isFirst) {
+        for (const ParameterSection& section : part.sections) {
+            if (section.axis < 0)
+                continue;
+            const QString key = sectionKey(part, section, relative);
+            const UnitSection* units =
+                whole.unitSection(section.family, section.card, section.axis);
+            const auto found = index.find(key);
+            if (found == index.end()) {
+                index[key] = rows.size();
+                rows.push_back({key, {}, {}});
+            }
+            UnitComparisonRow& row = rows[index[key]];
+            (isFirst ? row.first : row.second) = units ? units->scale : AxisUnitScale();
+        }
+    };
+    take(wholeFirst, first, true);
+    take(wholeSecond, second, false);
+    rows.erase(std::remove_if(rows.begin(), rows.end(),
+                              [](const UnitComparisonRow& row) {
+                                  return !row.first.isSet() && !row.second.isSet();
+                              }),
+               rows.end());
     return rows;
 }
 

@@ -1,5 +1,6 @@
 #include "ParameterSet.h"
 
+#include "AxisUnits.h"
 #include "BoardApi.h"
 #include "BoardLoader.h"
 #include "BoardTexts.h"
@@ -62,6 +63,29 @@ std::string ParameterSection::name() const
     if (axis >= 0)
         text += ".Axis" + std::to_string(axis);
     return text;
+}
+
+std::string UnitSection::name() const
+{
+    return std::string("Units.") + familyShortName(family) + ".Card" + std::to_string(card) +
+           ".Axis" + std::to_string(axis);
+}
+
+void ParameterSet::addUnits(const AxisUnits& from)
+{
+    for (const ParameterSection& section : sections) {
+        const AxisUnitScale scale = from.scale(section.family, section.card, section.axis);
+        if (section.axis >= 0 && scale.isSet())
+            units.push_back({section.family, section.card, section.axis, 0, scale});
+    }
+}
+
+const UnitSection* ParameterSet::unitSection(BoardFamily family, int card, int axis) const
+{
+    for (const UnitSection& each : units)
+        if (each.family == family && each.card == card && each.axis == axis)
+            return &each;
+    return nullptr;
 }
 
 std::vector<ParameterValue> ParameterSet::readSection(BoardApi& board, BoardFamily family,

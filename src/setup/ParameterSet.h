@@ -1,5 +1,6 @@
 #pragma once
 
+#include "AxisUnitScale.h"
 #include "ParameterCatalog.h"
 
 #include <QString>
@@ -8,6 +9,7 @@
 #include <string>
 #include <vector>
 
+class AxisUnits;
 class CardRegistry;
 
 // A fault found in a parameter text, with the line it is on (0 for the file as a whole).
@@ -49,6 +51,20 @@ struct ParameterSection
     std::string name() const;
 };
 
+// An axis' user-unit scale as a set holds it: not a board value, but kept with the axis'
+// parameters so that a machine's files carry it ("[Units.RL.Card0.Axis1]").
+struct UnitSection
+{
+    BoardFamily family = BoardFamily::RL;
+    int card = 0;
+    int axis = 0;
+    int line = 0; // where a text gave it
+    AxisUnitScale scale;
+
+    // "Units.RL.Card0.Axis1"
+    std::string name() const;
+};
+
 // Where a card's values came from: what its export knew of the board.
 struct CardDescription
 {
@@ -68,6 +84,8 @@ public:
     std::vector<CardDescription> cards;
     // Per card its card section, then its axes in order.
     std::vector<ParameterSection> sections;
+    // The scales of axes the set covers, in section order.
+    std::vector<UnitSection> units;
 
     // Reads every catalogued parameter of the scope from the boards.
     static ParameterSet fromBoards(BoardApi& board, const CardRegistry& registry,
@@ -75,6 +93,10 @@ public:
     // The values of a card or axis as the board holds them, in catalogue order.
     static std::vector<ParameterValue> readSection(BoardApi& board, BoardFamily family, CardNo card,
                                                    int axis);
+
+    // Adds the scale of every axis section that has one.
+    void addUnits(const AxisUnits& from);
+    const UnitSection* unitSection(BoardFamily family, int card, int axis) const;
 
     const CardDescription* card(BoardFamily family, int card) const;
     const ParameterSection* section(BoardFamily family, int card, int axis) const;

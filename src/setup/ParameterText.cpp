@@ -12,6 +12,7 @@
 namespace {
 
 const QString kHeader = QStringLiteral("Header");
+const QString kUnitsPrefix = QStringLiteral("Units.");
 // Keys that describe a card rather than set it; they are not written to a board.
 const QStringList kCardKeys{QStringLiteral("Model"), QStringLiteral("Firmware"),
                             QStringLiteral("LibraryVersion"), QStringLiteral("Axes")};
@@ -162,6 +163,8 @@ private:
             return fault(lineNo, ParameterText::tr("section [%1] given twice (first on line %2)")
                                      .arg(shown)
                                      .arg(m_sectionLines[inner]));
+        if (inner.startsWith(kUnitsPrefix))
+            return readUnitsSection(lineNo, inner);
         const SectionName name = parseSectionName(inner);
         m_current.ignored = !name.header && !name.family;
         if (name.header) {
@@ -182,7 +185,7 @@ private:
         const QString shownKey = key.left(40);
         if (m_current.ignored)
             return;
-        if (!m_current.header && !m_current.section)
+        if (!m_current.header && !m_current.section && !m_current.units)
             return fault(lineNo, ParameterText::tr("%1 comes before any section").arg(shownKey));
         if (!m_current.keys.emplace(key, lineNo).second)
             return fault(lineNo, ParameterText::tr("%1 given twice (first on line %2)")
@@ -190,6 +193,8 @@ private:
                                      .arg(m_current.keys[key]));
         if (m_current.header)
             return readHeaderValue(lineNo, key, value);
+        if (m_current.units)
+            return readUnitsValue(lineNo, key, value);
 
         ParameterSection& section = m_set.sections[*m_current.section];
         // A key given with a bad value has its own fault; it is not missing as well.
@@ -232,6 +237,58 @@ private:
                                      .arg(info->minimum)
                                      .arg(info->maximum));
         section.values.push_back({info, *number});
+    }
+
+    // "[Units.RL.Card0.Axis1]": the axis' scale, whose parameters the file must also hold.
+    void readUnitsSection(int lineNo, const QString& inner)
+    {
+        const SectionName name = parseSectionName(inner.mid(kUnitsPrefix.size()));
+        if (!name.family || name.axis < 0)
+            return fault(lineNo, ParameterText::tr("unknown section [%1]").arg(inner.left(40)));
+        m_current.ignored = false;
+        m_current.units = m_unitTexts.size();
+        m_unitTexts.push_back({*name.family, name.card, name.axis, lineNo, {}});
+        m_unitValues.emplace_back();
+    }
+
+    void readUnitsValue(int lineNo, const QString& key, const QString& value)
+    {
+        UnitValues& values = m_unitValues[*m_current.units];
+        if (key == QLatin1String("Unit")) {
+            values.unit = value;
+        } else if (key == QLatin1String("PulsesPerUnit")) {
+            values.pulses = AxisUnitScale::parsePulsesPerUnit(value);
+            if (!values.pulses)
+                fault(lineNo, ParameterText::tr("PulsesPerUnit: \"%1\" is not a positive number")
+                                  .arg(value.left(40)));
+            values.pulsesGiven = true;
+        } else if (key == QLatin1String("Decimals")) {
+            const auto decimals = parseNumber(value);
+            if (!decimals || *decimals < 0 || *decimals > AxisUnitScale::kMaxDecimals)
+                return fault(lineNo, ParameterText::tr("Decimals: \"%1\" is not 0 .. %2")
+                                         .arg(value.left(20))
+                                         .arg(AxisUnitScale::kMaxDecimals));
+            values.decimals = *decimals;
+        } else {
+            fault(lineNo, ParameterText::tr("unknown unit key %1").arg(key.left(40)));
+        }
+    }
+
+    void finishUnits()
+    {
+        for (std::size_t i = 0; i < m_unitTexts.size(); ++i) {
+            UnitSection& units = m_unitTexts[i];
+            const UnitValues& values = m_unitValues[i];
+            const QString name = QString::fromStdString(units.name());
+            if (!values.pulsesGiven)
+                fault(units.line, ParameterText::tr("[%1] lacks PulsesPerUnit").arg(name));
+            if (!m_set.section(units.family, units.card, units.axis))
+                fault(units.line, ParameterText::tr("[%1] has no axis section").arg(name));
+            if (!values.pulses)
+                continue;
+            units.scale = AxisUnitScale(values.unit, *values.pulses, values.decimals);
+            m_set.units.push_back(units);
+        }
     }
 
     void readHeaderValue(int lineNo, const QString& key, const QString& value)
@@ -283,6 +340,7 @@ private:
             reportMissing(section, m_named[i]);
             sortByCatalogue(section);
         }
+        finishUnits();
     }
 
     // A file cut short or trimmed by hand must not import half an axis.
@@ -320,7 +378,15 @@ private:
         bool header = false;
         bool ignored = false;
         std::optional<std::size_t> section;
+        std::optional<std::size_t> units;
         std::map<QString, int> keys;
+    };
+    struct UnitValues
+    {
+        QString unit;
+        std::optional<double> pulses;
+        bool pulsesGiven = false;
+        int decimals = 3;
     };
 
     std::vector<ParameterFault>& m_faults;
@@ -328,6 +394,8 @@ private:
     Current m_current;
     std::map<QString, int> m_sectionLines;
     std::map<std::size_t, std::set<QString>> m_named;
+    std::vector<UnitSection> m_unitTexts;
+    std::vector<UnitValues> m_unitValues;
     int m_headerLine = 0;
     int m_cards = -1;
     int m_cardsLine = 0;
@@ -369,6 +437,17 @@ QByteArray ParameterText::write(const ParameterSet& set, const QDateTime& create
             if (const char* meaning = v.info->meaning(v.value))
                 text += QStringLiteral(" ; ") + QString::fromUtf8(meaning);
             line(out, text);
+        }
+        if (section.axis < 0)
+            continue;
+        if (const UnitSection* units =
+                set.unitSection(section.family, section.card, section.axis)) {
+            line(out, QString());
+            line(out, QStringLiteral("[%1]").arg(QString::fromStdString(units->name())));
+            line(out, QStringLiteral("Unit=") + units->scale.unit());
+            line(out, QStringLiteral("PulsesPerUnit=") +
+                          AxisUnitScale::pulsesPerUnitText(units->scale.pulsesPerUnit()));
+            line(out, QStringLiteral("Decimals=%1").arg(units->scale.decimals()));
         }
     }
     return out;

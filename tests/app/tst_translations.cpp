@@ -149,7 +149,8 @@ private slots:
     void menus_allMarked()
     {
         const QStringList contexts{QStringLiteral("COV_MainFrame"),
-                                   QStringLiteral("ToolWindowKinds")};
+                                   QStringLiteral("ToolWindowKinds"),
+                                   QStringLiteral("UserUnitsActions")};
         QStringList unmarked;
         QList<QMenu*> menus;
         for (QAction* action : m_frame->menuBar()->actions())

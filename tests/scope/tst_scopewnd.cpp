@@ -140,12 +140,11 @@ private slots:
         ScopeRecording record;
         for (int i = 0; i <= 1000; ++i)
             record.times.push_back(i);
-        record.columns.push_back({QStringLiteral("A"),
-                                  QStringLiteral("pps"),
-                                  std::vector<double>(record.times),
-                                  -1,
-                                  false,
-                                  {}});
+        ScopeRecording::Column ramp;
+        ramp.name = QStringLiteral("A");
+        ramp.unit = QStringLiteral("pps");
+        ramp.values = record.times;
+        record.columns.push_back(ramp);
         const QString csv = rig.folder.filePath(QStringLiteral("ramp.csv"));
         QVERIFY(ScopeCsv::write(record, csv));
         QVERIFY(rig.window->openCsv(csv));
