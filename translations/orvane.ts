@@ -351,10 +351,6 @@
 <context>
     <name>BoardCallText</name>
     <message>
-        <source>Time (us)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Family</source>
         <translation type="unfinished"></translation>
     </message>
@@ -380,6 +376,10 @@
     </message>
     <message>
         <source>Caller</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

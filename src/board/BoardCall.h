@@ -14,7 +14,8 @@ struct BoardCall
     static constexpr int kMaxValues = 18;
     static constexpr int kMaxArray = 8;
 
-    std::int64_t timeUs;
+    std::uint64_t number; // in the order the calls were made
+    std::int64_t timeUs;  // microseconds since the epoch
     std::int32_t result;
     BoardOp op;
     std::uint16_t caller;

@@ -3,11 +3,13 @@
 #include "BoardFamily.h"
 #include "CardRegistry.h"
 
+#include <QDateTime>
+
 namespace {
 
 // Marked for the board-call window, which shows them translated; the CSV keeps them as written.
 const char* const kHeaders[BoardCallText::ColumnCount] = {
-    QT_TRANSLATE_NOOP("BoardCallText", "Time (us)"),
+    QT_TRANSLATE_NOOP("BoardCallText", "Time"),
     QT_TRANSLATE_NOOP("BoardCallText", "Family"),
     QT_TRANSLATE_NOOP("BoardCallText", "Operation"),
     QT_TRANSLATE_NOOP("BoardCallText", "Card"),
@@ -77,7 +79,8 @@ QString BoardCallText::column(const BoardCall& call, int column, const QStringLi
 {
     switch (column) {
     case Time:
-        return QString::number(call.timeUs);
+        return QDateTime::fromMSecsSinceEpoch(call.timeUs / 1000)
+            .toString(QStringLiteral("HH:mm:ss.zzz"));
     case Family:
         return QString::fromLatin1(familyShortName(static_cast<BoardFamily>(call.family)));
     case Operation:
@@ -108,9 +111,18 @@ QString BoardCallText::csvHeader()
 QString BoardCallText::csvLine(const BoardCall& call, const QStringList& callers)
 {
     QStringList fields;
-    for (int c = 0; c < ColumnCount; ++c)
+    fields << preciseTime(call);
+    for (int c = Time + 1; c < ColumnCount; ++c)
         fields << csvField(column(call, c, callers));
     return fields.join(QLatin1Char(','));
+}
+
+QString BoardCallText::preciseTime(const BoardCall& call)
+{
+    const auto micro = static_cast<int>(((call.timeUs % 1000) + 1000) % 1000);
+    return QDateTime::fromMSecsSinceEpoch(call.timeUs / 1000)
+               .toString(QStringLiteral("yyyy-MM-dd HH:mm:ss.zzz")) +
+           QStringLiteral("%1").arg(micro, 3, 10, QLatin1Char('0'));
 }
 
 QString BoardCallText::failureNote(const BoardCall& call, const CardRegistry& registry)

@@ -33,6 +33,9 @@ public:
     // A line of a CSV file (RFC 4180 quoting), and its header line.
     static QString csvLine(const BoardCall& call, const QStringList& callers);
     static QString csvHeader();
+    // The call's date and clock time to the microsecond, "2026-11-24 14:03:07.123456": the
+    // Time column's tooltip and the CSV's time.
+    static QString preciseTime(const BoardCall& call);
     // "SetPosSpeed on NRX-RL416V(0) axis 1 returned -1"
     static QString failureNote(const BoardCall& call, const CardRegistry& registry);
 };

@@ -1,5 +1,71 @@
 #include "BoardCallTrace.h"
 
-BoardCallTrace::BoardCallTrace(std::size_t capacity)
-    : m_entries(capacity > 0 ? capacity : 1), m_start(Clock::now())
-{}
+#include <QDateTime>
+
+#include <algorithm>
+
+BoardCallTrace::BoardCallTrace(std::size_t readCapacity)
+    : m_reads(readCapacity > 0 ? readCapacity : 1),
+      m_originUs(QDateTime::currentMSecsSinceEpoch() * 1000), m_start(Clock::now())
+{
+    addBlock(0);
+}
+
+std::uint64_t BoardCallTrace::firstReadFrom(std::uint64_t number) const
+{
+    // Numbers rise with the index in both stores, so a binary search finds the place.
+    std::uint64_t low = readsHeldFrom(), high = m_readsEnd;
+    while (low < high) {
+        const std::uint64_t middle = low + (high - low) / 2;
+        if (readAt(middle).number < number)
+            low = middle + 1;
+        else
+            high = middle;
+    }
+    return low;
+}
+
+std::uint64_t BoardCallTrace::firstKeptFrom(std::uint64_t number) const
+{
+    std::uint64_t low = m_keptBegin, high = m_keptEnd;
+    while (low < high) {
+        const std::uint64_t middle = low + (high - low) / 2;
+        if (keptAt(middle).number < number)
+            low = middle + 1;
+        else
+            high = middle;
+    }
+    return low;
+}
+
+const BoardCall* BoardCallTrace::find(std::uint64_t number) const
+{
+    const std::uint64_t kept = firstKeptFrom(number);
+    if (kept < m_keptEnd && keptAt(kept).number == number)
+        return &keptAt(kept);
+    const std::uint64_t read = firstReadFrom(number);
+    if (read < m_readsEnd && readAt(read).number == number)
+        return &readAt(read);
+    return nullptr;
+}
+
+void BoardCallTrace::addBlock(std::size_t block)
+{
+    if (m_blocks.size() <= block)
+        m_blocks.resize(block + 1);
+    m_blocks[block] = std::make_unique<BoardCall[]>(kBlock);
+}
+
+void BoardCallTrace::dropOldestBlock()
+{
+    m_keptBegin = (m_keptBegin / kBlock + 1) * kBlock;
+    m_keptGap = keptAt(m_keptBegin).number;
+    releaseBlocks();
+}
+
+void BoardCallTrace::releaseBlocks()
+{
+    const auto first = static_cast<std::size_t>(m_keptBegin / kBlock);
+    for (std::size_t block = 0; block < first && block < m_blocks.size(); ++block)
+        m_blocks[block].reset();
+}

@@ -13,8 +13,15 @@ BoardCallModel::BoardCallModel(const BoardCallTrace& trace, const QStringList& c
                                QObject* parent)
     : QAbstractTableModel(parent), m_trace(trace), m_callers(callers)
 {
-    m_scanned = m_trace.begin();
+    m_scanned = firstShown();
     refresh();
+}
+
+std::uint64_t BoardCallModel::firstShown() const
+{
+    // The calls that change something go back to the start; shown with the polling reads,
+    // the list starts where the reads' ring does.
+    return m_filter.hidePolling ? m_trace.keptFrom() : m_trace.begin();
 }
 
 void BoardCallModel::setFilter(const BoardCallFilter& filter)
@@ -22,14 +29,14 @@ void BoardCallModel::setFilter(const BoardCallFilter& filter)
     beginResetModel();
     m_filter = filter;
     m_rows.clear();
-    m_scanned = m_trace.begin();
+    m_scanned = firstShown();
     endResetModel();
     refresh();
 }
 
 bool BoardCallModel::refresh()
 {
-    const std::uint64_t first = m_trace.begin();
+    const std::uint64_t first = firstShown();
     const std::uint64_t end = m_trace.end();
     const auto kept = std::lower_bound(m_rows.begin(), m_rows.end(), first);
     const auto gone = static_cast<int>(kept - m_rows.begin());
@@ -39,10 +46,10 @@ bool BoardCallModel::refresh()
         endRemoveRows();
     }
     m_found.clear();
-    for (std::uint64_t number = std::max(m_scanned, first); number < end; ++number) {
-        if (m_filter.matches(m_trace.at(number)))
-            m_found.push_back(number);
-    }
+    m_trace.forEachFrom(std::max(m_scanned, first), [this](const BoardCall& call) {
+        if (m_filter.matches(call))
+            m_found.push_back(call.number);
+    });
     m_scanned = end;
     if (!m_found.empty()) {
         const auto rows = static_cast<int>(m_rows.size());
@@ -58,7 +65,7 @@ const BoardCall* BoardCallModel::call(int row) const
     if (row < 0 || row >= rowCount())
         return nullptr;
     const std::uint64_t number = m_rows[static_cast<std::size_t>(row)];
-    return m_trace.contains(number) ? &m_trace.at(number) : nullptr;
+    return m_trace.find(number);
 }
 
 QString BoardCallModel::rowText(int row) const
@@ -101,7 +108,9 @@ QVariant BoardCallModel::data(const QModelIndex& index, int role) const
     case Qt::DisplayRole:
         return BoardCallText::column(*recorded, index.column(), m_callers);
     case Qt::ToolTipRole:
-        // long argument lists do not fit their column
+        // long argument lists do not fit their column; the time shows milliseconds only
+        if (index.column() == BoardCallText::Time)
+            return BoardCallText::preciseTime(*recorded);
         return index.column() == BoardCallText::Arguments
                    ? QVariant(BoardCallText::arguments(*recorded))
                    : QVariant();

@@ -42,6 +42,8 @@ public:
                         int role = Qt::DisplayRole) const override;
 
 private:
+    std::uint64_t firstShown() const;
+
     const BoardCallTrace& m_trace;
     const QStringList& m_callers;
     BoardCallFilter m_filter;

@@ -5,8 +5,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
-// The Board Calls table over a small ring: rows follow the trace as it goes round, is
-// cleared or filtered, and only changes are announced.
+// The Board Calls table: the calls that change something stay for the whole run, the polling
+// reads follow their ring as it goes round, and only changes are announced.
 class TestBoardCallModel : public QObject
 {
     Q_OBJECT
@@ -21,39 +21,60 @@ private:
     }
 
 private slots:
-    void rows_followTheRingAsItWraps()
+    void rows_writesOutliveThePollingRing()
+    {
+        RecordingBoardSet boards;
+        BoardCallTrace trace; // the program's ring of polling reads
+        boards.api.setTrace(&trace);
+        BoardCallModel model(trace, boards.api.callers());
+        boards.api.SetPosSpeed(BoardFamily::RL, 0, 1, 100, 5000, 50, 50);
+        // Three minutes of the frame and two windows polling 8 axes every 10 ms.
+        for (int tick = 0; tick < 18000; ++tick) {
+            for (int axis = 0; axis < 8; ++axis) {
+                boards.api.GetCommandPos(BoardFamily::RL, 0, axis);
+                boards.api.GetActualPos(BoardFamily::RL, 0, axis);
+                boards.api.GetCardStatus(BoardFamily::RL, 0, axis);
+            }
+        }
+        for (int i = 0; i < 3; ++i)
+            boards.api.Inc_Move(BoardFamily::RL, 0, 1, i);
+        QVERIFY(model.refresh());
+        QCOMPARE(model.rowCount(), 4);
+        QCOMPARE(model.rowText(0).section('\t', 2, 2), QStringLiteral("SetPosSpeed"));
+        QCOMPARE(distances(model).mid(1), (QList<int>{0, 1, 2}));
+        QVERIFY(trace.begin() > 0); // the oldest reads are gone
+    }
+
+    void rows_withPollingStartWhereTheRingDoes()
     {
         RecordingBoardSet boards;
         BoardCallTrace trace(4);
         boards.api.setTrace(&trace);
         BoardCallModel model(trace, boards.api.callers());
+        BoardCallFilter everything;
+        everything.hidePolling = false;
+        model.setFilter(everything);
+        boards.api.Inc_Move(BoardFamily::RL, 0, 0, 7);
         for (int i = 0; i < 3; ++i)
-            boards.api.Inc_Move(BoardFamily::RL, 0, 0, i);
-        boards.api.GetCommandPos(BoardFamily::RL, 0, 0); // hidden polling read
+            boards.api.GetCommandPos(BoardFamily::RL, 0, i);
         QVERIFY(model.refresh());
-        QCOMPARE(distances(model), (QList<int>{0, 1, 2}));
+        QCOMPARE(model.rowCount(), 4);
 
-        // Two more moves push the two oldest moves out of the ring.
-        boards.api.Inc_Move(BoardFamily::RL, 0, 0, 3);
-        boards.api.Inc_Move(BoardFamily::RL, 0, 0, 4);
+        // Two more reads push the oldest read out, and the move before it leaves the list.
+        boards.api.GetCommandPos(BoardFamily::RL, 0, 3);
+        boards.api.GetCommandPos(BoardFamily::RL, 0, 4);
         QSignalSpy removed(&model, &QAbstractItemModel::rowsRemoved);
+        QSignalSpy reset(&model, &QAbstractItemModel::modelReset);
         QVERIFY(model.refresh());
         QCOMPARE(removed.count(), 1);
-        QCOMPARE(distances(model), (QList<int>{2, 3, 4}));
-        QCOMPARE(model.rowText(2).section('\t', 2),
-                 QStringLiteral("Inc_Move\t0\t0\tdistance=4\t0\tMain frame"));
-
-        // Nothing new: nothing announced. More calls than the ring holds between two
-        // refreshes: only the ring's calls remain.
-        QSignalSpy reset(&model, &QAbstractItemModel::modelReset);
-        QVERIFY(!model.refresh());
-        for (int i = 5; i < 12; ++i)
-            boards.api.Inc_Move(BoardFamily::RL, 0, 0, i);
-        QVERIFY(model.call(0) == nullptr); // gone before the refresh, shown as empty
-        QVERIFY(model.refresh());
-        QCOMPARE(distances(model), (QList<int>{8, 9, 10, 11}));
         QCOMPARE(reset.count(), 0);
+        QCOMPARE(model.rowCount(), 4);
+        QCOMPARE(model.rowText(0).section('\t', 2, 2), QStringLiteral("GetCommandPos"));
+        QVERIFY(!model.refresh()); // nothing new: nothing announced
 
+        // The move is still kept: hiding the reads shows it again.
+        model.setFilter(BoardCallFilter{});
+        QCOMPARE(distances(model), QList<int>{7});
         trace.clear();
         model.refresh();
         QCOMPARE(model.rowCount(), 0);
