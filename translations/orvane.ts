@@ -2706,6 +2706,13 @@ High Active : Normal Close</source>
     </message>
 </context>
 <context>
+    <name>MotionSequencer</name>
+    <message>
+        <source>%1(%2) axis %3: %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>MultiAxisForm</name>
     <message>
         <source>[msec]</source>

@@ -37,6 +37,9 @@ COV_MnMtnWnd::COV_MnMtnWnd(const ToolContext& context, QWidget* parent, Sequence
       m_actions(context, m_sequencer, *this),
       m_gantry(m_sequencer, context.board, [this] { m_sequencer.abortWith(tr(kGantryError)); })
 {
+    m_sequencer.setModelNames([&state = context.state](BoardFamily family, CardNo card) {
+        return QString::fromStdString(state.registry.modelName(family, card));
+    });
     connectControls();
 
     m_form.setAll->setChecked(true);

@@ -24,6 +24,9 @@ COV_SnMtnWnd::COV_SnMtnWnd(const ToolContext& context, QWidget* parent, Sequence
       m_sequencer(context.state.active, context.board, context.prompt, clockwork(), *this),
       m_actions(context, m_sequencer, *this)
 {
+    m_sequencer.setModelNames([&state = context.state](BoardFamily family, CardNo card) {
+        return QString::fromStdString(state.registry.modelName(family, card));
+    });
     auto* layout = new QHBoxLayout(this);
     auto* left = new QVBoxLayout;
     m_cardRow = new CardSelectorRow;

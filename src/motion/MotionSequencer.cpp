@@ -10,6 +10,8 @@
 #include "SequencerClockwork.h"
 #include "TickClock.h"
 
+#include <QCoreApplication>
+
 namespace {
 nrx_u16 countOf(const MotionAxes& axes)
 {
@@ -93,11 +95,13 @@ void MotionSequencer::absMove(const std::vector<std::int32_t>& positions)
         m_board.Abs_Move(m_target.family, m_target.card, m_target.axes.front(), positions.front());
 }
 
-std::int32_t MotionSequencer::firstErrorCode()
+std::int32_t MotionSequencer::firstErrorCode(AxisNo* where)
 {
     std::int32_t first = 0;
     for (AxisNo axis : m_target.axes) {
         const std::int32_t code = m_board.GetMotionErrCod(m_target.family, m_target.card, axis);
+        if (code < 0 && first == 0 && where != nullptr)
+            *where = axis;
         if (!multi())
             return code;
         if (code < 0 && first == 0)
@@ -280,9 +284,10 @@ void MotionSequencer::onMotionPoll()
     if (done(m_target) != 0 || !m_moving)
         return;
     m_clockwork.motionPoll().stop();
-    const std::int32_t code = firstErrorCode();
+    AxisNo axis = m_target.axes.empty() ? 0 : m_target.axes.front();
+    const std::int32_t code = firstErrorCode(&axis);
     if (code < 0) {
-        reportAbnormalEnd(code);
+        reportAbnormalEnd(code, axis);
         return;
     }
     if (m_homing && code == 0)
@@ -309,7 +314,7 @@ void MotionSequencer::rewriteSoftLimitsAfterHome()
     m_board.SetSlmt(m_target.family, m_target.card, axis, plus, minus, use);
 }
 
-void MotionSequencer::reportAbnormalEnd(std::int32_t code)
+void MotionSequencer::reportAbnormalEnd(std::int32_t code, AxisNo axis)
 {
     m_moving = false;
     m_absolutePhase = false;
@@ -326,7 +331,16 @@ void MotionSequencer::reportAbnormalEnd(std::int32_t code)
                                : QString();
     qCInfo(lcMotion).noquote() << "Motion stopped on" << axesText(m_target) << "with error code"
                                << code << (text.isEmpty() ? QStringLiteral("(no report)") : text);
-    if (!text.isEmpty())
+    if (text.isEmpty())
+        return;
+    // With several windows and cards at work, the report says where it happened.
+    if (m_modelNames)
+        m_prompt.report(QCoreApplication::translate("MotionSequencer", "%1(%2) axis %3: %4")
+                            .arg(m_modelNames(m_target.family, m_target.card))
+                            .arg(m_target.card)
+                            .arg(axis)
+                            .arg(text));
+    else
         m_prompt.report(text);
 }
 

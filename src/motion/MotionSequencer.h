@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <functional>
 #include <vector>
 
 class BoardApi;
@@ -52,6 +53,12 @@ public:
     // slowing stop on its axes and its sequence ends; the log says why.
     void endForClose();
 
+    // How a card is named in a stop report ("NRX-RL416V"); without it reports name no place.
+    void setModelNames(std::function<QString(BoardFamily, CardNo)> names)
+    {
+        m_modelNames = std::move(names);
+    }
+
     // Timer handlers.
     void onCycleClock();
     void onMotionPoll();
@@ -71,7 +78,8 @@ private:
     void stopAxes(const MotionAxes& axes, bool sudden);
     void incMove(const std::vector<std::int32_t>& distances);
     void absMove(const std::vector<std::int32_t>& positions);
-    std::int32_t firstErrorCode();
+    // The first abnormal stop code of the motion's axes, and the axis that has it.
+    std::int32_t firstErrorCode(AxisNo* axis = nullptr);
 
     void pressHome();
     void pressJog(MotionDirection direction);
@@ -85,7 +93,7 @@ private:
     void lock();
     void unlock();
     void finishSequence();
-    void reportAbnormalEnd(std::int32_t code);
+    void reportAbnormalEnd(std::int32_t code, AxisNo axis);
     void rewriteSoftLimitsAfterHome();
     void stop(bool sudden);
     void afterStop();
@@ -93,6 +101,7 @@ private:
     ActiveController& m_active;
     BoardApi& m_board;
     PromptService& m_prompt;
+    std::function<QString(BoardFamily, CardNo)> m_modelNames;
     SequencerClockwork& m_clockwork;
     MotionPanel& m_panel;
     MovingOwner m_owner;

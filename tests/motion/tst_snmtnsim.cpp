@@ -169,8 +169,10 @@ private slots:
         rig.window->handleUserMessage(UM_CONTROLLER_CHANGED, 0);
         QVERIFY(rig.runToEnd());
         QCOMPARE(rig.errorCode(), -620);
-        QCOMPARE(rig.prompt.messages(),
-                 QStringList{"Abnormally stopped by positive hardware limit"});
+        // The report names the card the move ran on, not the one active now.
+        QCOMPARE(
+            rig.prompt.messages(),
+            QStringList{"NRX-RL416V(0) axis 1: Abnormally stopped by positive hardware limit"});
     }
 };
 
