@@ -50,6 +50,7 @@ public:
     void sendToFrame(UserMessage message, int wParam = 0) override;
     bool mayChangeController() override;
     void showNote(const QString& text) override;
+    bool anyMotion() const override;
     // The 10 ms refresh of the motion-status pane and the status view, and the note of a board
     // call that was refused.
     void MonitorTick();
@@ -104,7 +105,6 @@ private:
     void saveLayout() const;
 
     // Whether any motion window has axes moving or a sequence running.
-    bool anyMotion() const;
     void fillCombos();
     void fillCardCombo(BoardFamily family, int selection);
     void updatePaneTitles();

@@ -169,7 +169,8 @@ bool COV_ImportPrmDlg::writeToBoards()
         return true;
     }
     // New limits or pulse settings under a moving axis could run it anywhere.
-    if (m_context.state.active.anyAxesMoving()) {
+    // Any window's motion, not only the two motion windows' flags.
+    if (m_context.state.active.anyAxesMoving() || m_context.frame.anyMotion()) {
         m_context.prompt.inform(tr("Axes are moving !\nCan not import parameters !"));
         return false;
     }
