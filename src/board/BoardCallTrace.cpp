@@ -11,31 +11,33 @@ BoardCallTrace::BoardCallTrace(std::size_t readCapacity)
     addBlock(0);
 }
 
-std::uint64_t BoardCallTrace::firstReadFrom(std::uint64_t number) const
+namespace {
+// The first index in [low, high) whose call is numbered `number` or later: numbers rise with
+// the index in both stores.
+template <typename At>
+std::uint64_t firstFrom(std::uint64_t low, std::uint64_t high, std::uint64_t number, At at)
 {
-    // Numbers rise with the index in both stores, so a binary search finds the place.
-    std::uint64_t low = readsHeldFrom(), high = m_readsEnd;
     while (low < high) {
         const std::uint64_t middle = low + (high - low) / 2;
-        if (readAt(middle).number < number)
+        if (at(middle).number < number)
             low = middle + 1;
         else
             high = middle;
     }
     return low;
 }
+} // namespace
+
+std::uint64_t BoardCallTrace::firstReadFrom(std::uint64_t number) const
+{
+    return firstFrom(readsHeldFrom(), m_readsEnd, number,
+                     [this](std::uint64_t i) -> const BoardCall& { return readAt(i); });
+}
 
 std::uint64_t BoardCallTrace::firstKeptFrom(std::uint64_t number) const
 {
-    std::uint64_t low = m_keptBegin, high = m_keptEnd;
-    while (low < high) {
-        const std::uint64_t middle = low + (high - low) / 2;
-        if (keptAt(middle).number < number)
-            low = middle + 1;
-        else
-            high = middle;
-    }
-    return low;
+    return firstFrom(m_keptBegin, m_keptEnd, number,
+                     [this](std::uint64_t i) -> const BoardCall& { return keptAt(i); });
 }
 
 const BoardCall* BoardCallTrace::find(std::uint64_t number) const
