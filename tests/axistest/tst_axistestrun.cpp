@@ -288,6 +288,17 @@ void TestAxisTestRun::home_jitterScattersTheZero()
     QVERIFY(figures.range <= 60);
     QVERIFY(figures.min >= -30 && figures.max <= 30);
 
+    // With a scale of 1000 pulses/mm the figures come in mm beside the pulses.
+    const AxisTestReport report(run, {}, QDateTime::currentDateTime(),
+                                AxisUnitScale("mm", 1000, 3));
+    const QJsonObject summary = report.summary();
+    QCOMPARE(summary["units"]["unit"].toString(), QString("mm"));
+    QCOMPARE(summary["figures"]["range"].toDouble(), figures.range);
+    QCOMPARE(summary["figures_units"]["range"].toDouble(), figures.range / 1000);
+    const QJsonObject first = summary["figures_units"]["runs"][0].toObject();
+    QCOMPARE(first["position"].toDouble(), run.homeRuns().front().actual / 1000.0);
+    QCOMPARE(first["time_ms"].toInteger(), run.homeRuns().front().durationMs);
+    QVERIFY(report.html().contains("<th>mm</th>"));
 }
 
 QTEST_MAIN(TestAxisTestRun)
