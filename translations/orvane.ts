@@ -242,10 +242,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Figures (pulses)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>At each target (pulses)</source>
         <translation type="unfinished"></translation>
     </message>
@@ -259,6 +255,14 @@
     </message>
     <message>
         <source>Could not write %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Figures</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At each target (%1)</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -3,9 +3,11 @@
 #include "AxisTestCsv.h"
 #include "AxisTestReport.h"
 #include "AxisTestRun.h"
+#include "AxisUnits.h"
 #include "CardRegistry.h"
 #include "HeadlessBoards.h"
 #include "LogFile.h"
+#include "ParameterCommandLine.h"
 #include "ParameterSet.h"
 
 #include <QApplication>
@@ -90,7 +92,9 @@ QString AxisTestCommandLine::usage()
         "Every test: --speed PPS (drive speed of its moves; default the axis's positioning\n"
         "profile), --servo-on (switch the servo on first; otherwise a servo that is off\n"
         "refuses the start), --out DIR (default a new dated folder here) for report.html,\n"
-        "samples.csv and summary.json. Ctrl+C stops the axes and writes a partial report.\n"
+        "samples.csv and summary.json, --units (the figures also in the axis's unit, from\n"
+        "the scales in ZelbrinOrvane.ini beside the program). Ctrl+C stops the axes and\n"
+        "writes a partial report.\n"
         "\n"
         "Exit codes: 0 passed, 1 failed (tolerance, fault or stopped), 2 bad input or a\n"
         "refused start.\n");
@@ -102,7 +106,8 @@ bool AxisTestCommandLine::isCommand(int argc, char** argv)
 }
 
 std::optional<AxisTestSettings> AxisTestCommandLine::parse(const QStringList& arguments,
-                                                           QString* folder, QString* error)
+                                                           QString* folder, QString* error,
+                                                           bool* units)
 {
     const auto fail = [error](const QString& text) {
         *error = text;
@@ -134,6 +139,8 @@ std::optional<AxisTestSettings> AxisTestCommandLine::parse(const QStringList& ar
             settings.servoOn = true;
         else if (a == QLatin1String("--keep-going"))
             settings.stopAtFault = false;
+        else if (a == QLatin1String("--units") && units != nullptr)
+            *units = true;
         else if (valued.contains(a) && i + 1 < arguments.size())
             options[a] = arguments[++i];
         else if (a.startsWith(QLatin1String("--")))
@@ -238,7 +245,8 @@ int AxisTestCommandLine::run(const QStringList& arguments)
 {
     QString folder;
     QString error;
-    const auto settings = parse(arguments, &folder, &error);
+    bool units = false;
+    const auto settings = parse(arguments, &folder, &error, &units);
     if (!settings) {
         m_err << "orvane test: " << error << "\n" << usage();
         m_err.flush();
@@ -260,6 +268,14 @@ int AxisTestCommandLine::run(const QStringList& arguments)
     const QDateTime started = QDateTime::currentDateTime();
     AxisTestFacts facts = AxisTestFacts::read(m_board, m_registry, settings->family, settings->card,
                                               settings->axes.front());
+    AxisUnitScale scale;
+    if (units) {
+        scale = AxisUnits::read(m_settingsFile)
+                    .scale(settings->family, settings->card, settings->axes.front());
+        if (!scale.isSet())
+            m_err << "orvane test: the axis has no unit scale in " << m_settingsFile
+                  << "; the figures are in pulses only" << Qt::endl;
+    }
     AxisTestRun run(m_board, *settings, csv);
     QElapsedTimer clock;
     clock.start();
@@ -299,7 +315,7 @@ int AxisTestCommandLine::run(const QStringList& arguments)
     if (terminal)
         m_out << "\n";
 
-    const AxisTestReport report(run, std::move(facts), started);
+    const AxisTestReport report(run, std::move(facts), started, scale);
     if (!report.write(folder, &error))
         m_err << "orvane test: " << error << Qt::endl;
     m_out << AxisTestRun::outcomeKey(run.outcome());
@@ -333,5 +349,6 @@ int AxisTestCommandLine::main(int argc, char** argv)
     if (!boards.load())
         return BadInput;
     AxisTestCommandLine command(boards.api(), boards.registry(), out, err);
+    command.setSettingsFile(ParameterCommandLine::settingsFilePath());
     return command.run(arguments);
 }

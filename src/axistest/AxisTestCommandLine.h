@@ -30,10 +30,13 @@ public:
     // The arguments after "test".
     int run(const QStringList& arguments);
 
-    // The settings the arguments ask for, the output folder in `folder`; nothing (with a
-    // message in `error`) for arguments that make no test.
+    // The settings the arguments ask for, the output folder in `folder` and whether the
+    // report gives the figures in user units too (`--units`); nothing (with a message in
+    // `error`) for arguments that make no test.
     static std::optional<AxisTestSettings> parse(const QStringList& arguments, QString* folder,
-                                                 QString* error);
+                                                 QString* error, bool* units = nullptr);
+    // The program's settings file, where `--units` finds the axes' unit scales.
+    void setSettingsFile(const QString& path) { m_settingsFile = path; }
 
     static bool isCommand(int argc, char** argv);
     // The whole run: loads the boards from the program's folder, tests, unloads. Call
@@ -48,4 +51,5 @@ private:
     const CardRegistry& m_registry;
     QTextStream& m_out;
     QTextStream& m_err;
+    QString m_settingsFile;
 };

@@ -13,6 +13,8 @@
 #include <QPainter>
 #include <QSaveFile>
 
+#include <cmath>
+
 namespace {
 QString escaped(const QString& text)
 {
@@ -22,6 +24,14 @@ QString escaped(const QString& text)
 QString number(double value)
 {
     return QString::number(value, 'f', 3);
+}
+
+// Figures that are no pulses: they read the same in any unit.
+bool countsOrTimes(const QString& key)
+{
+    static const QStringList keys = {
+        "run", "time_ms", "code", "cycles", "cycle_time_mean_ms", "cycle_time_max_ms"};
+    return keys.contains(key);
 }
 } // namespace
 
@@ -49,9 +59,32 @@ AxisTestFacts AxisTestFacts::read(BoardApi& board, const CardRegistry& registry,
     return facts;
 }
 
-AxisTestReport::AxisTestReport(const AxisTestRun& run, AxisTestFacts facts, QDateTime started)
-    : m_run(run), m_facts(std::move(facts)), m_started(std::move(started))
+AxisTestReport::AxisTestReport(const AxisTestRun& run, AxisTestFacts facts, QDateTime started,
+                               AxisUnitScale scale)
+    : m_run(run), m_facts(std::move(facts)), m_started(std::move(started)),
+      m_scale(std::move(scale))
 {}
+
+QJsonObject AxisTestReport::figuresInUnits(const QJsonObject& figures) const
+{
+    // Three decimals past the scale's keep a deviation of a fraction of a pulse readable.
+    const double rounding = std::pow(10.0, m_scale.decimals() + 3);
+    QJsonObject units;
+    for (auto it = figures.begin(); it != figures.end(); ++it) {
+        if (it.value().isArray()) {
+            QJsonArray rows;
+            for (const QJsonValue& row : it.value().toArray())
+                rows.append(figuresInUnits(row.toObject()));
+            units.insert(it.key(), rows);
+        } else if (it.value().isDouble() && !countsOrTimes(it.key())) {
+            units.insert(it.key(),
+                         std::round(m_scale.toUnits(it.value().toDouble()) * rounding) / rounding);
+        } else {
+            units.insert(it.key(), it.value());
+        }
+    }
+    return units;
+}
 
 QString AxisTestReport::kindKey(AxisTestKind kind)
 {
@@ -156,20 +189,28 @@ QJsonObject AxisTestReport::summary() const
     QJsonArray axes;
     for (const AxisNo axis : s.axes)
         axes.append(axis);
-    return {{"test", kindKey(s.kind)},
-            {"outcome", AxisTestRun::outcomeKey(m_run.outcome())},
-            {"fault", m_run.fault()},
-            {"started", m_started.toString(Qt::ISODate)},
-            {"duration_ms", qint64(m_run.elapsedMs())},
-            {"unit", "pulses"},
-            {"board", QJsonObject{{"family", familyShortName(s.family)},
-                                  {"card", s.card},
-                                  {"model", m_facts.model},
-                                  {"firmware", m_facts.firmware},
-                                  {"library", m_facts.library}}},
-            {"axes", axes},
-            {"settings", settingsObject()},
-            {"figures", figures()}};
+    const QJsonObject pulses = figures();
+    QJsonObject summary{{"test", kindKey(s.kind)},
+                        {"outcome", AxisTestRun::outcomeKey(m_run.outcome())},
+                        {"fault", m_run.fault()},
+                        {"started", m_started.toString(Qt::ISODate)},
+                        {"duration_ms", qint64(m_run.elapsedMs())},
+                        {"unit", "pulses"},
+                        {"board", QJsonObject{{"family", familyShortName(s.family)},
+                                              {"card", s.card},
+                                              {"model", m_facts.model},
+                                              {"firmware", m_facts.firmware},
+                                              {"library", m_facts.library}}},
+                        {"axes", axes},
+                        {"settings", settingsObject()},
+                        {"figures", pulses}};
+    if (m_scale.isSet()) {
+        summary.insert("units", QJsonObject{{"unit", m_scale.unit()},
+                                            {"pulses_per_unit", m_scale.pulsesPerUnit()},
+                                            {"decimals", m_scale.decimals()}});
+        summary.insert("figures_units", figuresInUnits(pulses));
+    }
+    return summary;
 }
 
 std::vector<std::pair<QString, QImage>> AxisTestReport::plots() const
@@ -227,30 +268,40 @@ QString AxisTestReport::html() const
     board.insert("duration_ms", summaryObject.value("duration_ms"));
     table(tr("Board and axis"), board);
     table(tr("Settings"), summaryObject.value("settings").toObject());
-    table(tr("Figures (pulses)"), summaryObject.value("figures").toObject());
 
-    if (s.kind == AxisTestKind::Positioning) {
-        out << "<h2>" << escaped(tr("At each target (pulses)")) << "</h2>\n<table><tr>";
-        for (const char* head :
-             {"target", "mean up", "mean down", "s up", "s down", "B", "R up", "R down", "R"})
-            out << "<th>" << head << "</th>";
+    // The figures in pulses and, with a scale, beside them in its unit.
+    const QString unit = escaped(m_scale.unit());
+    out << "<h2>" << escaped(tr("Figures")) << "</h2>\n<table><tr><th></th><th>pulses</th>";
+    if (m_scale.isSet())
+        out << "<th>" << unit << "</th>";
+    out << "</tr>\n";
+    const QJsonObject figuresObject = summaryObject.value("figures").toObject();
+    for (auto it = figuresObject.begin(); it != figuresObject.end(); ++it) {
+        if (!it.value().isDouble())
+            continue;
+        const double value = it.value().toDouble();
+        out << "<tr><th>" << escaped(it.key()) << "</th><td>" << number(value) << "</td>";
+        if (m_scale.isSet())
+            out << "<td>" << (countsOrTimes(it.key()) ? QString() : m_scale.format(value))
+                << "</td>";
         out << "</tr>\n";
-        const PositioningStatistics stats = m_run.positioning();
-        for (const auto& t : stats.atTargets()) {
-            out << "<tr>";
-            for (const double value : {t.position, t.meanUp, t.meanDown, t.sUp, t.sDown, t.reversal,
-                                       t.rUp, t.rDown, t.r})
-                out << "<td>" << number(value) << "</td>";
-            out << "</tr>\n";
-        }
-        out << "</table>\n";
     }
+    out << "</table>\n";
+
+    if (s.kind == AxisTestKind::Positioning)
+        writeTargets(out);
     if (s.kind == AxisTestKind::Home) {
         out << "<h2>" << escaped(tr("Searches")) << "</h2>\n<table><tr><th>run</th><th>"
-            << "position</th><th>time [ms]</th><th>code</th></tr>\n";
-        for (const AxisTestRecord& r : m_run.homeRuns())
-            out << "<tr><td>" << r.run << "</td><td>" << r.actual << "</td><td>" << r.durationMs
-                << "</td><td>" << r.code << "</td></tr>\n";
+            << "position</th>";
+        if (m_scale.isSet())
+            out << "<th>position [" << unit << "]</th>";
+        out << "<th>time [ms]</th><th>code</th></tr>\n";
+        for (const AxisTestRecord& r : m_run.homeRuns()) {
+            out << "<tr><td>" << r.run << "</td><td>" << r.actual << "</td>";
+            if (m_scale.isSet())
+                out << "<td>" << m_scale.format(r.actual) << "</td>";
+            out << "<td>" << r.durationMs << "</td><td>" << r.code << "</td></tr>\n";
+        }
         out << "</table>\n";
     }
 
@@ -269,6 +320,30 @@ QString AxisTestReport::html() const
     out << "</table>\n</body></html>\n";
     out.flush();
     return page;
+}
+
+void AxisTestReport::writeTargets(QTextStream& out) const
+{
+    const PositioningStatistics stats = m_run.positioning();
+    const auto table = [&](const QString& heading, auto&& shown) {
+        out << "<h2>" << escaped(heading) << "</h2>\n<table><tr>";
+        for (const char* head :
+             {"target", "mean up", "mean down", "s up", "s down", "B", "R up", "R down", "R"})
+            out << "<th>" << head << "</th>";
+        out << "</tr>\n";
+        for (const auto& t : stats.atTargets()) {
+            out << "<tr>";
+            for (const double value : {t.position, t.meanUp, t.meanDown, t.sUp, t.sDown, t.reversal,
+                                       t.rUp, t.rDown, t.r})
+                out << "<td>" << shown(value) << "</td>";
+            out << "</tr>\n";
+        }
+        out << "</table>\n";
+    };
+    table(tr("At each target (pulses)"), number);
+    if (m_scale.isSet())
+        table(tr("At each target (%1)").arg(m_scale.unit()),
+              [this](double pulses) { return m_scale.format(pulses); });
 }
 
 bool AxisTestReport::write(const QString& folder, QString* error) const

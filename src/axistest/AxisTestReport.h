@@ -1,12 +1,14 @@
 #pragma once
 
 #include "AxisTestRun.h"
+#include "AxisUnitScale.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QImage>
 #include <QJsonObject>
 #include <QString>
+#include <QTextStream>
 
 #include <utility>
 #include <vector>
@@ -28,13 +30,15 @@ struct AxisTestFacts
 };
 
 // The end of a test in the two forms it is handed on: report.html for a customer, with the
-// plots embedded, and summary.json for machines. Every figure is in pulses.
+// plots embedded, and summary.json for machines. Every figure is in pulses and, given the
+// axis's unit scale, in its unit as well.
 class AxisTestReport
 {
     Q_DECLARE_TR_FUNCTIONS(AxisTestReport)
 
 public:
-    AxisTestReport(const AxisTestRun& run, AxisTestFacts facts, QDateTime started);
+    AxisTestReport(const AxisTestRun& run, AxisTestFacts facts, QDateTime started,
+                   AxisUnitScale scale = {});
 
     QJsonObject summary() const;
     QString html() const;
@@ -50,8 +54,12 @@ public:
 private:
     QJsonObject figures() const;
     QJsonObject settingsObject() const;
+    // The figures' pulses in the scale's unit; counts, codes and times stay as they are.
+    QJsonObject figuresInUnits(const QJsonObject& figures) const;
+    void writeTargets(QTextStream& out) const;
 
     const AxisTestRun& m_run;
     AxisTestFacts m_facts;
     QDateTime m_started;
+    AxisUnitScale m_scale;
 };

@@ -214,11 +214,14 @@ void COV_AxisTestWnd::finish()
     setRunning(false);
     if (!m_run)
         return;
+    const AxisTestSettings& settings = m_run->settings();
+    // An axis with a unit scale gets its figures in that unit too, shown or not on screen.
     const AxisTestReport report(
         *m_run,
-        AxisTestFacts::read(m_context.board, m_context.state.registry, m_run->settings().family,
-                            m_run->settings().card, m_run->settings().axes.front()),
-        m_started);
+        AxisTestFacts::read(m_context.board, m_context.state.registry, settings.family,
+                            settings.card, settings.axes.front()),
+        m_started,
+        m_context.state.units.scale(settings.family, settings.card, settings.axes.front()));
     QString error;
     if (!report.write(m_folder, &error))
         m_context.prompt.inform(error);

@@ -118,14 +118,19 @@ int ParameterCommandLine::main(int argc, char** argv)
         return BadInput;
     ParameterCommandLine command(boards.api(), boards.registry(), out, err);
     command.setSimulated(boards.simulated());
+    command.setSettingsFile(settingsFilePath());
+    return command.run(arguments);
+}
+
+QString ParameterCommandLine::settingsFilePath()
+{
     // Where the window keeps its settings: beside the program, or in the user's data folder
     // when that is not writable (an installed copy).
     QString folder = QCoreApplication::applicationDirPath() + QLatin1Char('/');
     if (!QFileInfo(folder).isWritable())
         folder =
             QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + QLatin1Char('/');
-    command.setSettingsFile(folder + QStringLiteral("ZelbrinOrvane.ini"));
-    return command.run(arguments);
+    return folder + QStringLiteral("ZelbrinOrvane.ini");
 }
 
 void ParameterCommandLine::setSettingsFile(const QString& path)

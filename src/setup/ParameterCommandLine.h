@@ -36,6 +36,9 @@ public:
     // The program's settings file: its axis scales go into exports and diffs, and import
     // keeps a file's scales there.
     void setSettingsFile(const QString& path);
+    // Where the program keeps that file: beside it, or in the user's data folder when the
+    // program's folder is not writable.
+    static QString settingsFilePath();
 
     // True when the program was started as "orvane params ...".
     static bool isCommand(int argc, char** argv);

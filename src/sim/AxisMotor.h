@@ -1,6 +1,7 @@
 #pragma once
 
 #include "BoardSetup.h"
+#include "SeededScatter.h"
 #include "ServoModel.h"
 
 #include <cstdint>
@@ -8,11 +9,12 @@
 namespace nrxsim {
 
 // The motor and encoder behind one axis: it follows the pulses through the drive, may slip,
-// and stands still while a drive that needs its servo-on output has it off.
+// and stands still while a drive that needs its servo-on output has it off. The encoder reads
+// the load behind the mechanics: through their backlash, and scattered at rest.
 class AxisMotor
 {
 public:
-    AxisMotor(const BoardSetup::Axis& wiring, int64_t machine);
+    AxisMotor(const BoardSetup::Axis& wiring, int64_t machine, uint64_t seed);
 
     // The servo-on output changed, with the pulses having brought the axis to `machine`.
     void setServoOn(bool on, int64_t machine);
@@ -20,12 +22,12 @@ public:
     void step(int64_t machine, int64_t moved, bool pulsing);
 
     // Where the encoder is now, and where it comes to rest with the axis at `machine`.
-    int64_t encoder() const { return lost_ ? frozenEncoder_ : rawEncoder() - lostCounts_; }
+    int64_t encoder() const { return lost_ ? frozenEncoder_ : load(rawEncoder()) - lostCounts_; }
     int64_t resting(int64_t machine) const
     {
         if (lost_)
             return frozenEncoder_;
-        return (held() ? heldEncoder_ : machine + slipOffset_) - lostCounts_;
+        return load(held() ? heldEncoder_ : machine + slipOffset_) - lostCounts_;
     }
     // A lost encoder counts nothing until it is back; the motor still turns.
     void setEncoderLost(bool lost);
@@ -39,6 +41,8 @@ public:
 private:
     bool held() const { return needsServoOn_ && !servoOn_; }
     int64_t rawEncoder() const { return held() ? heldEncoder_ : model_.encoder(); }
+    // Where the load is with the motor at `motor`.
+    int64_t load(int64_t motor) const { return motor + play_ + noise_; }
 
     ServoModel model_;
     int64_t slipPerMille_ = 0;
@@ -50,6 +54,12 @@ private:
     bool lost_ = false;
     int64_t frozenEncoder_ = 0;
     int64_t lostCounts_ = 0; // what the encoder missed while it was lost
+    int64_t backlash_ = 0;
+    int64_t play_ = 0; // load minus motor, within the backlash
+    int64_t noiseBound_ = 0;
+    int64_t noise_ = 0; // where this move's rest scatters to
+    SeededScatter noiseScatter_;
+    bool pulsing_ = false;
 };
 
 } // namespace nrxsim

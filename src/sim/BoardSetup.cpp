@@ -95,10 +95,11 @@ constexpr const char* FamilyKeys[] = {"cards", "version", "loadresult"};
 constexpr const char* CardKeys[] = {"axes",           "io",      "firmware", "info", "emergency",
                                     "emergencylevel", "loopback"};
 constexpr const char* AxisKeys[] = {
-    "start",       "pluslimit",   "minuslimit",   "limitlevel",    "origin",         "originwidth",
-    "originlevel", "zperiod",     "zoffset",      "zlevel",        "alarm",          "alarmlevel",
-    "inposlevel",  "servolag",    "slip",         "needsservoon",  "servobandwidth", "servodamping",
-    "inposwindow", "inpossettle", "inpostimeout", "followinglimit"};
+    "start",        "pluslimit",      "minuslimit",   "limitlevel",    "origin",
+    "originwidth",  "originlevel",    "zperiod",      "zoffset",       "zlevel",
+    "alarm",        "alarmlevel",     "inposlevel",   "servolag",      "slip",
+    "needsservoon", "servobandwidth", "servodamping", "inposwindow",   "inpossettle",
+    "inpostimeout", "followinglimit", "backlash",     "positionnoise", "homejitter"};
 
 bool listed(const std::string& key, const char* const* begin, const char* const* end)
 {
@@ -276,6 +277,9 @@ BoardSetup BoardSetup::read(int familyIndex, const IniFile* file)
             k.read("InposSettle", ax.inposSettle, 0, 60000);
             k.read("InposTimeout", ax.inposTimeout, 1, 600000);
             k.read("FollowingLimit", ax.followingLimit, 0, far);
+            k.read("Backlash", ax.backlash, 0, far);
+            k.read("PositionNoise", ax.positionNoise, 0, far);
+            k.read("HomeJitter", ax.homeJitter, 0, far);
         }
         setup.cards.push_back(cd);
     }

@@ -43,15 +43,18 @@ public:
         Signal alarm;
         int alarmLevel = 0;
         int inposLevel = 0;
-        int servoLag = 2;        // ms the actual position trails the command while moving
-        int slip = 0;            // pulses the axis loses per 1000 commanded
-        int needsServoOn = 0;    // 1: the motor turns only while the servo-on output is on
-        int servoBandwidth = 0;  // Hz of a second-order position loop; 0: the plain lag
-        int servoDamping = 100;  // percent of critical damping of that loop
-        int inposWindow = 10;    // pulses of following error that count as in position
-        int inposSettle = 0;     // ms the error stays in the window before INP
-        int inposTimeout = 1000; // ms a move waits for INP (in-position use on), then -9999
-        int followingLimit = 0;  // pulses of following error that raise the alarm; 0: none
+        int servoLag = 2;          // ms the actual position trails the command while moving
+        int slip = 0;              // pulses the axis loses per 1000 commanded
+        int needsServoOn = 0;      // 1: the motor turns only while the servo-on output is on
+        int servoBandwidth = 0;    // Hz of a second-order position loop; 0: the plain lag
+        int servoDamping = 100;    // percent of critical damping of that loop
+        int inposWindow = 10;      // pulses of following error that count as in position
+        int inposSettle = 0;       // ms the error stays in the window before INP
+        int inposTimeout = 1000;   // ms a move waits for INP (in-position use on), then -9999
+        int followingLimit = 0;    // pulses of following error that raise the alarm; 0: none
+        int64_t backlash = 0;      // pulses lost between command and actual at each reversal
+        int64_t positionNoise = 0; // the actual position at rest scatters within +- this
+        int64_t homeJitter = 0;    // the origin switch trips within +- this many pulses
     };
 
     struct Card

@@ -45,6 +45,8 @@ public:
     // Puts a leg before the current one (to leave a sensor the axis sits on).
     void insert(const Leg& leg);
     bool searchesOrigin() const;
+    // The search's zero is where the origin switch tripped, not a Z mark or a limit.
+    bool endsOnOrigin() const { return mode_ == 0 || mode_ == 2; }
     // A limit ended the origin search: search back through the origin and start over.
     // False once this has happened before: the origin is not between the limits.
     bool reverse();

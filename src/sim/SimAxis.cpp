@@ -13,10 +13,10 @@ namespace {
 using Signal = HomeSearch::Signal;
 } // namespace
 
-SimAxis::SimAxis(const BoardSetup::Axis& wiring, bool rn)
-    : sensors_(wiring), rn_(rn), counters_(wiring.start), machine_(wiring.start),
-      exact_(static_cast<double>(wiring.start)), motor_(wiring, wiring.start),
-      settleTimeoutMs_(wiring.inposTimeout)
+SimAxis::SimAxis(const BoardSetup::Axis& wiring, bool rn, uint64_t seed)
+    : sensors_(wiring), rn_(rn), counters_(wiring.start), homeScatter_(seed * 2 + 1),
+      machine_(wiring.start), exact_(static_cast<double>(wiring.start)),
+      motor_(wiring, wiring.start, seed * 2), settleTimeoutMs_(wiring.inposTimeout)
 {}
 
 void SimAxis::setServoOn(bool on)
@@ -247,7 +247,11 @@ void SimAxis::startLeg()
 
 void SimAxis::completeHome()
 {
-    counters_.zeroAt(machine_, restingEncoder());
+    // A jittery origin switch: the board clears its counters where the switch tripped, off
+    // the place where the search ends, so the position read after a search scatters.
+    const int64_t trip =
+        homeSearch_.endsOnOrigin() ? homeScatter_.within(sensors_.wiring().homeJitter) : 0;
+    counters_.zeroAt(machine_ - trip, restingEncoder() - trip);
     homeOk_ = true;
     finish(StopCode::None, homeStopBits_);
 }

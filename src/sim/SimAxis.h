@@ -7,6 +7,7 @@
 #include "BoardSetup.h"
 #include "HomeSearch.h"
 #include "MotionProfile.h"
+#include "SeededScatter.h"
 #include "ServoLink.h"
 #include "SpeedProfile.h"
 
@@ -26,7 +27,8 @@ public:
         bool alarmLine = false; // the alarm line from the wiring (constant or an output)
     };
 
-    SimAxis(const BoardSetup::Axis& wiring, bool rn);
+    // `seed` makes the axis's simulated scatter repeat from run to run.
+    SimAxis(const BoardSetup::Axis& wiring, bool rn, uint64_t seed);
 
     const AxisParameters& parameters() const { return parameters_; }
     void setParameter(AxisParameters::Id id, int32_t value);
@@ -166,6 +168,7 @@ private:
     double unitSpeed_ = 0.0;
     uint16_t profileBits_ = 0;
     HomeSearch homeSearch_;
+    SeededScatter homeScatter_;
     uint16_t homeStopBits_ = 0;
 
     int64_t machine_ = 0;

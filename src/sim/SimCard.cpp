@@ -6,13 +6,17 @@
 
 namespace nrxsim {
 
-SimCard::SimCard(const BoardSetup::Card& setup, int familyIndex)
+SimCard::SimCard(const BoardSetup::Card& setup, int familyIndex, int cardIndex)
     : setup_(setup), familyIndex_(familyIndex)
 {
     setup_.axes = std::clamp(setup_.axes, 1, MaxAxes);
     setup_.io = std::clamp(setup_.io, 0, MaxIoPoints);
-    for (int a = 0; a < setup_.axes; ++a)
-        axes_.emplace_back(setup_.axis[static_cast<std::size_t>(a)], familyIndex == Family::RN);
+    for (int a = 0; a < setup_.axes; ++a) {
+        // Every axis scatters in its own way, and the same way at every LoadDevice.
+        const auto seed = static_cast<uint64_t>((familyIndex * MaxCards + cardIndex) * MaxAxes + a);
+        axes_.emplace_back(setup_.axis[static_cast<std::size_t>(a)], familyIndex == Family::RN,
+                           seed);
+    }
 }
 
 bool SimCard::hasPoint(int bit) const

@@ -15,7 +15,7 @@ namespace nrxsim {
 class SimCard
 {
 public:
-    SimCard(const BoardSetup::Card& setup, int familyIndex);
+    SimCard(const BoardSetup::Card& setup, int familyIndex, int cardIndex);
 
     const BoardSetup::Card& setup() const { return setup_; }
     int familyIndex() const { return familyIndex_; }

@@ -101,7 +101,7 @@ int32_t SimFamily::load()
     }
     bool damaged = false;
     for (int c = 0; c < static_cast<int>(setup_.cards.size()); ++c) {
-        cards_.emplace_back(setup_.cards[static_cast<std::size_t>(c)], familyIndex_);
+        cards_.emplace_back(setup_.cards[static_cast<std::size_t>(c)], familyIndex_, c);
         SimCard& card = cards_.back();
         card.onAbnormalStop = [this, c](int axis, int32_t code) {
             note(SimLog::Errors, "card " + std::to_string(c) + " axis " + std::to_string(axis) +

@@ -60,8 +60,13 @@ void TestAxisTestCommandLine::run_exitCodes()
     QTextStream toOut(&outText), toErr(&errText);
     const auto run = [&](SimBoardsRig& rig, const QString& arguments) {
         AxisTestCommandLine command(rig.api, rig.state.registry, toOut, toErr);
+        command.setSettingsFile(out.filePath("ZelbrinOrvane.ini"));
         return command.run(arguments.split(' '));
     };
+    QFile settings(out.filePath("ZelbrinOrvane.ini"));
+    QVERIFY(settings.open(QIODevice::WriteOnly));
+    settings.write("[Units.RL.0.1]\nUnit=mm\nPulsesPerUnit=1000\nDecimals=3\n");
+    settings.close();
     {
         SimBoardsRig rig;
         QVERIFY(rig.start());
@@ -74,12 +79,14 @@ void TestAxisTestCommandLine::run_exitCodes()
         // The command waits on the clock, so the boards run on theirs.
         rig.extras[0].SetManualClock(0);
         const QString folder = out.filePath("home");
-        QCOMPARE(run(rig, "home RL:0:1 --runs 2 --away 3000 --servo-on --out " + folder),
+        QCOMPARE(run(rig, "home RL:0:1 --runs 2 --away 3000 --servo-on --units --out " + folder),
                  int(AxisTestCommandLine::Passed));
         QFile summary(folder + "/summary.json");
         QVERIFY(summary.open(QIODevice::ReadOnly));
-        QCOMPARE(QJsonDocument::fromJson(summary.readAll())["outcome"].toString(),
-                 QString("passed"));
+        const QJsonDocument json = QJsonDocument::fromJson(summary.readAll());
+        QCOMPARE(json["outcome"].toString(), QString("passed"));
+        QCOMPARE(json["units"]["unit"].toString(), QString("mm")); // the scale of the file
+        QVERIFY(json["figures_units"]["range"].isDouble());
         QVERIFY(QFile::exists(folder + "/report.html"));
         QVERIFY(QFile::exists(folder + "/samples.csv"));
     }

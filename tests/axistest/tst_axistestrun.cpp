@@ -9,6 +9,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+struct Collected;
+
 // The three tests end to end on the simulated boards, their clock stepped by hand.
 class TestAxisTestRun : public QObject
 {
@@ -20,8 +22,13 @@ private slots:
     void runIn_severalAxesAndStop();
     void start_refusedWithReason();
     void refusedMove_endsTheTest();
+    void positioning_backlashIsTheReversal();
+    void positioning_noiseScattersRepeatably();
+    void home_jitterScattersTheZero();
 
 private:
+    // A positioning run over four targets, on boards described by `boards`.
+    static PositioningStatistics positioningOn(const QByteArray& boards, Collected& sink);
     // Steps the boards and the run 10 ms at a time until it ends or `limitMs` passes.
     static void runOut(SimBoardsRig& rig, AxisTestRun& run, std::int64_t limitMs = 600000)
     {
@@ -65,6 +72,7 @@ void TestAxisTestRun::home_searchesAndReports()
 
     QCOMPARE(run.outcome(), AxisTestRun::Outcome::Passed);
     QCOMPARE(run.homeRuns().size(), size_t(3));
+    QCOMPARE(run.homeFigures().range, 0.0); // an exact origin switch
     for (const AxisTestRecord& r : run.homeRuns()) {
         QCOMPARE(r.code, 0);
         QVERIFY(r.durationMs > 0);
@@ -123,7 +131,9 @@ void TestAxisTestRun::positioning_exactAxisHasNoDeviation()
         if (r.kind == AxisTestRecord::Kind::Measure)
             QCOMPARE(r.actual, r.target);
     }
-    QCOMPARE(run.positioning().axis().a, 0.0);
+    const PositioningStatistics::Axis figures = run.positioning().axis();
+    for (const double figure : {figures.a, figures.b, figures.e, figures.m, figures.r})
+        QCOMPARE(figure, 0.0);
     // The board's own profile is back once the test is over.
     nrx_i32 after = 0;
     rig.api.GetPosSpeed(BoardFamily::RL, 0, 0, &initial, &after, &accel, &decel);
@@ -200,6 +210,95 @@ void TestAxisTestRun::refusedMove_endsTheTest()
     runOut(rig, run);
     QCOMPARE(run.outcome(), AxisTestRun::Outcome::Faulted);
     QCOMPARE(run.fault(), QString("The board refused the move (result -1)."));
+}
+
+PositioningStatistics TestAxisTestRun::positioningOn(const QByteArray& boards, Collected& sink)
+{
+    SimBoardsRig rig;
+    if (!rig.start(true, boards))
+        return PositioningStatistics(std::vector<PositioningStatistics::Target>{});
+    AxisTestSettings settings;
+    settings.kind = AxisTestKind::Positioning;
+    settings.from = 0;
+    settings.to = 20000;
+    settings.targets = 4;
+    settings.runs = 3;
+    settings.overrun = 500;
+    settings.dwellMs = 20;
+    settings.speed = 40000;
+    settings.servoOn = true;
+    AxisTestRun run(rig.api, settings, sink);
+    runOut(rig, run);
+    if (run.outcome() != AxisTestRun::Outcome::Passed)
+        return PositioningStatistics(std::vector<PositioningStatistics::Target>{});
+    return run.positioning();
+}
+
+void TestAxisTestRun::positioning_backlashIsTheReversal()
+{
+    Collected sink;
+    const PositioningStatistics stats =
+        positioningOn("[RL]\n[RL.Card0.Axis0]\nBacklash=20\nPositionNoise=0\nHomeJitter=0\n", sink);
+    QCOMPARE(stats.atTargets().size(), size_t(4));
+    QVERIFY2(std::abs(stats.axis().b - 20) <= 1, qPrintable(QString::number(stats.axis().b)));
+    for (const auto& t : stats.atTargets())
+        QVERIFY(std::abs(t.reversal + 20) <= 1); // approached from below, the load lags
+    // Play alone repeats exactly.
+    QCOMPARE(stats.axis().rUp, 0.0);
+    QCOMPARE(stats.axis().rDown, 0.0);
+}
+
+void TestAxisTestRun::positioning_noiseScattersRepeatably()
+{
+    const QByteArray boards = "[RL]\n[Axes]\nPositionNoise=5\n";
+    Collected sink;
+    const PositioningStatistics stats = positioningOn(boards, sink);
+    QCOMPARE(stats.atTargets().size(), size_t(4));
+    for (const AxisTestRecord& r : sink.records) {
+        if (r.kind == AxisTestRecord::Kind::Measure)
+            QVERIFY(std::abs(r.value) <= 5);
+    }
+    // R is at most 2 s up + 2 s down + |B|; three values within +-5 have s of at most 5.8.
+    QVERIFY(stats.axis().r > 0);
+    QVERIFY2(stats.axis().r <= 4 * 5.8 + 10, qPrintable(QString::number(stats.axis().r)));
+    QVERIFY(stats.axis().b <= 10);
+    // Seeded: a second run on fresh boards measures the same.
+    Collected again;
+    QCOMPARE(positioningOn(boards, again).axis().r, stats.axis().r);
+}
+
+void TestAxisTestRun::home_jitterScattersTheZero()
+{
+    SimBoardsRig rig;
+    QVERIFY(rig.start(true, "[RL]\n[RL.Card0.Axis1]\nHomeJitter=30\n"));
+    Collected sink;
+    AxisTestSettings settings;
+    settings.kind = AxisTestKind::Home;
+    settings.axes = {1};
+    settings.runs = 8;
+    settings.away = 4000;
+    settings.tolerance = 60;
+    settings.servoOn = true;
+    AxisTestRun run(rig.api, settings, sink);
+    runOut(rig, run);
+    QCOMPARE(run.outcome(), AxisTestRun::Outcome::Passed);
+    QCOMPARE(run.homeRuns().size(), size_t(8));
+    const AxisTestRun::HomeFigures figures = run.homeFigures();
+    QVERIFY(figures.range > 0);
+    QVERIFY(figures.range <= 60);
+    QVERIFY(figures.min >= -30 && figures.max <= 30);
+
+    // With a scale of 1000 pulses/mm the figures come in mm beside the pulses.
+    const AxisTestReport report(run, {}, QDateTime::currentDateTime(),
+                                AxisUnitScale("mm", 1000, 3));
+    const QJsonObject summary = report.summary();
+    QCOMPARE(summary["units"]["unit"].toString(), QString("mm"));
+    QCOMPARE(summary["figures"]["range"].toDouble(), figures.range);
+    QCOMPARE(summary["figures_units"]["range"].toDouble(), figures.range / 1000);
+    const QJsonObject first = summary["figures_units"]["runs"][0].toObject();
+    QCOMPARE(first["position"].toDouble(), run.homeRuns().front().actual / 1000.0);
+    QCOMPARE(first["time_ms"].toInteger(), run.homeRuns().front().durationMs);
+    QVERIFY(report.html().contains("<th>mm</th>"));
 }
 
 QTEST_MAIN(TestAxisTestRun)

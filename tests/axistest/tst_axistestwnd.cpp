@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QJsonDocument>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -89,6 +90,7 @@ void TestAxisTestWnd::runIn_typedSettingsThenStopAll()
     rig.type("cycles", "50");
     rig.window->form()->setOutputFolder(rig.out.path());
     rig.sim.api.PutSvOn(BoardFamily::RL, 0, 0, 1);
+    rig.state.units.setScale(BoardFamily::RL, 0, 0, AxisUnitScale("mm", 1000, 3));
     rig.press("Start");
     QVERIFY(rig.window->run() && rig.window->run()->running());
     QVERIFY(rig.state.active.anyAxesMoving()); // the controller stays put meanwhile
@@ -104,7 +106,13 @@ void TestAxisTestWnd::runIn_typedSettingsThenStopAll()
     const QString folder = rig.window->reportFolder();
     QVERIFY(folder.startsWith(rig.out.path()));
     QVERIFY(QFile::exists(folder + "/report.html"));
-    QVERIFY(QFile::exists(folder + "/summary.json"));
+    QFile summary(folder + "/summary.json");
+    QVERIFY(summary.open(QIODevice::ReadOnly));
+    // The axis's scale comes along, though units are not shown on screen.
+    const QJsonDocument json = QJsonDocument::fromJson(summary.readAll());
+    QCOMPARE(json["units"]["unit"].toString(), QString("mm"));
+    QCOMPARE(json["figures_units"]["following_error_max"].toDouble(),
+             json["figures"]["following_error_max"].toDouble() / 1000);
 }
 
 void TestAxisTestWnd::start_refusesTypedNonsense()
