@@ -10,6 +10,7 @@
 #include "NumberList.h"
 #include "PromptService.h"
 #include "PromptTexts.h"
+#include "SnugScrollArea.h"
 
 #include <QComboBox>
 #include <QEvent>
@@ -25,14 +26,17 @@ COV_SnMtnWnd::COV_SnMtnWnd(const ToolContext& context, QWidget* parent, Sequence
       m_actions(context, m_sequencer, *this)
 {
     auto* layout = new QHBoxLayout(this);
-    auto* left = new QVBoxLayout;
+    auto* fields = new QWidget;
+    auto* left = new QVBoxLayout(fields);
+    left->setContentsMargins(0, 0, 0, 0);
     m_cardRow = new CardSelectorRow;
     m_axisCombo = new QComboBox;
     m_axisCombo->setObjectName(QStringLiteral("axisCombo"));
     m_cardRow->addSelector(tr("Axis No. : "), m_axisCombo);
     left->addWidget(m_cardRow);
     left->addWidget(createPageArea(), 1);
-    layout->addLayout(left, 1);
+    // The fields scroll on a small screen; the button column beside them does not.
+    layout->addWidget(new SnugScrollArea(fields), 1);
     m_buttons = new MotionButtonColumn(true);
     m_buttons->scope->setToolTip(tr("Record this axis' positions and speed"));
     layout->addWidget(m_buttons);
