@@ -18,6 +18,7 @@
 #include "ToolView.h"
 #include "ToolWindowHost.h"
 #include "ToolWindowKinds.h"
+#include "UserSettings.h"
 #include "UserUnitsActions.h"
 
 #include <QAction>
@@ -34,7 +35,6 @@
 #include <QMenuBar>
 #include <QPainter>
 #include <QPixmap>
-#include <QSettings>
 #include <QStandardPaths>
 #include <QStatusBar>
 #include <QToolBar>
@@ -42,7 +42,6 @@
 #include <cmath>
 
 namespace {
-const QString kLayoutOrganisation = QStringLiteral("Local AppWizard-Generated Applications");
 const QString kLayoutKey = QStringLiteral("CommandBars");
 const char* const kMovingRefusal =
     QT_TRANSLATE_NOOP("COV_MainFrame", "Axes are moving !\nCan not change active controller !");
@@ -362,18 +361,20 @@ void COV_MainFrame::applySkin()
 
 void COV_MainFrame::restoreLayout()
 {
-    const QSettings settings(kLayoutOrganisation, QStringLiteral("Orvane"));
+    const UserSettings settings;
     restoreState(settings.value(kLayoutKey).toByteArray());
     // The switch hides the pane at start whatever the saved layout says; shown, the pane
     // stays where the user left it, closed included.
     if (m_showStatusWindow == 0)
         m_statusDock->hide();
+    m_tools->restoreSession(settings, [this](ToolKind kind) { openTool(kind); });
 }
 
 void COV_MainFrame::saveLayout() const
 {
-    QSettings settings(kLayoutOrganisation, QStringLiteral("Orvane"));
+    UserSettings settings;
     settings.setValue(kLayoutKey, saveState());
+    m_tools->saveSession(settings);
 }
 
 void COV_MainFrame::closeEvent(QCloseEvent* event)
