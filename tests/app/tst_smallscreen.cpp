@@ -5,6 +5,7 @@
 #include "ToolView.h"
 #include "ToolWindowHost.h"
 #include "ToolWindowKinds.h"
+#include "UserSettings.h"
 
 #include <QDockWidget>
 #include <QMdiArea>
@@ -87,7 +88,11 @@ private:
     };
 
 private slots:
-    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
+    void initTestCase()
+    {
+        QStandardPaths::setTestModeEnabled(true);
+        UserSettings().clear(); // the panes as a first start shows them
+    }
 
     void everyKind_buttonsReachableAndStopsInSight_data()
     {
