@@ -61,10 +61,12 @@ MotionButtonColumn::MotionButtonColumn(bool withSetPrm, QWidget* parent) : QWidg
     // The stops stay in sight; below them the column scrolls when the window is short.
     auto* rest = new QWidget;
     auto* restLayout = new QVBoxLayout(rest);
+    m_rest = restLayout;
     restLayout->setContentsMargins(0, 0, 0, 0);
     restLayout->addWidget(servo);
     restLayout->addSpacing(12);
-    restLayout->addWidget(createMotionButtons());
+    m_motionRow = createMotionButtons();
+    restLayout->addWidget(m_motionRow);
     restLayout->addSpacing(12);
     for (QPushButton* button : {alarmReset, counterClear, setPrm, parameterSetup, scope}) {
         if (button != nullptr)
@@ -165,6 +167,11 @@ void MotionButtonColumn::showMotionCaptions(bool home, MotionType type, bool aut
     }
     plus->hide();
     minus->setText(home ? tr("Home") : tr("Auto Move"));
+}
+
+void MotionButtonColumn::addUnderMotionButtons(QWidget* widget)
+{
+    m_rest->insertWidget(m_rest->indexOf(m_motionRow) + 1, widget);
 }
 
 void MotionButtonColumn::showServo(bool on)
