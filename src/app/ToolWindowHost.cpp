@@ -12,6 +12,8 @@
 #include <QSettings>
 #include <QStyle>
 
+#include <algorithm>
+
 ToolWindowHost::ToolWindowHost(QMdiArea& area, const ToolWindowFactory& factory,
                                const ToolContext& context, QObject* parent)
     : QObject(parent), m_area(area), m_factory(factory), m_context(context)
@@ -120,7 +122,15 @@ bool ToolWindowHost::open(ToolKind kind)
         view->restoreSetup(kept->second);
 
     window->resize(initialSize(*window, *view));
-    window->move(m_cascade.placeNew(m_area.viewport()->size()));
+    // The cascade's step, but never past the workspace's edge: the window's last buttons stay
+    // in sight.
+    const QSize room = m_area.viewport()->size();
+    QPoint place = m_cascade.placeNew(room);
+    if (m_area.isVisible()) {
+        place.setX(std::max(0, std::min(place.x(), room.width() - window->width())));
+        place.setY(std::max(0, std::min(place.y(), room.height() - window->height())));
+    }
+    window->move(place);
     window->show();
     m_area.setActiveSubWindow(window);
     return true;

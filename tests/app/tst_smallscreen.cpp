@@ -107,6 +107,9 @@ private slots:
         QVERIFY(rig.start());
         QVERIFY(!rig.frame->tree()->parentWidget()->isHidden() &&
                 !rig.frame->statusDock()->isHidden() && !rig.frame->motionDock()->isHidden());
+        // Two windows before it, so that the cascade steps it down and right.
+        rig.frame->openTool(kind == ToolSystemIo ? ToolDigitalIo : ToolSystemIo);
+        rig.frame->openTool(kind == ToolBoardCalls ? ToolAxisStatus : ToolBoardCalls);
         rig.frame->openTool(ToolKind(kind));
         QMdiSubWindow* window = rig.frame->toolWindows().window(ToolKind(kind));
         QVERIFY(window);
