@@ -11,6 +11,7 @@
 #include <QScrollArea>
 #include <QSettings>
 #include <QStyle>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -282,6 +283,15 @@ void ToolWindowHost::restoreSession(const QSettings& settings,
         const QRect geometry = place.value(QStringLiteral("geometry")).toRect();
         if (geometry.isValid())
             window->setGeometry(geometry);
+        // Once the frame shows, a window saved on a larger screen comes back inside this one.
+        QTimer::singleShot(0, window, [this, window] {
+            if (!m_area.isVisible() || window->isMaximized() || window->isMinimized())
+                return;
+            const QSize room = m_area.viewport()->size();
+            window->resize(window->size().boundedTo(room));
+            window->move(std::clamp(window->x(), 0, room.width() - window->width()),
+                         std::clamp(window->y(), 0, room.height() - window->height()));
+        });
         if (place.value(QStringLiteral("maximized")).toBool())
             window->showMaximized();
         else if (place.value(QStringLiteral("minimized")).toBool())

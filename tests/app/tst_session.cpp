@@ -83,6 +83,7 @@ private slots:
             scope->findChild<QCheckBox*>("repeat")->setChecked(true);
             frame->toolWindows().window(ToolScope)->setGeometry(scopePlace);
             frame->openTool(ToolSingleAxis);
+            frame->toolWindows().window(ToolSingleAxis)->setGeometry(900, 500, 700, 600);
             frame->openTool(ToolDigitalIo);
             // Closed before the exit: not reopened.
             QVERIFY(frame->toolWindows().window(ToolDigitalIo)->close());
@@ -97,6 +98,11 @@ private slots:
         QVERIFY(tools.window(ToolScope) && tools.window(ToolSingleAxis));
         QVERIFY(!tools.window(ToolDigitalIo));
         QCOMPARE(tools.window(ToolScope)->geometry(), scopePlace);
+        // A place past the workspace's edge (a larger screen's) comes back inside it.
+        QTest::qWait(1);
+        QCOMPARE(tools.window(ToolScope)->geometry(), scopePlace);
+        const QRect room(QPoint(), again->findChild<QMdiArea*>()->viewport()->size());
+        QVERIFY(room.contains(tools.window(ToolSingleAxis)->geometry()));
         // The window opened last is on top again.
         QCOMPARE(again->findChild<QMdiArea*>()->subWindowList(QMdiArea::StackingOrder).last(),
                  tools.window(ToolSingleAxis));
