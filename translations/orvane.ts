@@ -2,6 +2,37 @@
 <!DOCTYPE TS>
 <TS version="2.1">
 <context>
+    <name>AxisMotionReadout</name>
+    <message>
+        <source>Command position of this axis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Actual (encoder) position of this axis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Command speed: minus while the axis moves in the minus direction</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cmd</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Act</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Spd</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 pps</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>AxisTestForm</name>
     <message>
         <source>Home Repeatability</source>
@@ -1381,6 +1412,18 @@ Can not change active controller !</source>
     </message>
     <message>
         <source>Stop All: %1 axes stopped; the board refused to stop %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Axis Status</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Motion Status</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Toolbar</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2855,6 +2898,13 @@ High Active : Normal Close</source>
     </message>
     <message>
         <source>3 : Level 3(All Functions)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PaneViewMenu</name>
+    <message>
+        <source>&amp;View</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -11,12 +11,14 @@
 #include "MenuMnemonics.h"
 #include "OrvaneLog.h"
 #include "OrvaneSettings.h"
+#include "PaneViewMenu.h"
 #include "PollInterval.h"
 #include "PromptService.h"
 #include "StopAllKey.h"
 #include "ToolView.h"
 #include "ToolWindowHost.h"
 #include "ToolWindowKinds.h"
+#include "UserSettings.h"
 #include "UserUnitsActions.h"
 
 #include <QAction>
@@ -33,7 +35,6 @@
 #include <QMenuBar>
 #include <QPainter>
 #include <QPixmap>
-#include <QSettings>
 #include <QStandardPaths>
 #include <QStatusBar>
 #include <QToolBar>
@@ -41,7 +42,6 @@
 #include <cmath>
 
 namespace {
-const QString kLayoutOrganisation = QStringLiteral("Local AppWizard-Generated Applications");
 const QString kLayoutKey = QStringLiteral("CommandBars");
 const char* const kMovingRefusal =
     QT_TRANSLATE_NOOP("COV_MainFrame", "Axes are moving !\nCan not change active controller !");
@@ -290,8 +290,7 @@ QDockWidget* COV_MainFrame::createDock(const QString& objectName, const QString&
 {
     auto* dock = new QDockWidget(title, this);
     dock->setObjectName(objectName);
-    dock->setFeatures(QDockWidget::NoDockWidgetFeatures);
-    dock->setAllowedAreas(area);
+    PaneViewMenu::freePane(*dock);
     content->setParent(dock);
     dock->setWidget(content);
     addDockWidget(area, dock);
@@ -321,6 +320,15 @@ void COV_MainFrame::createDocks()
     // The bottom pane runs under the side panes' full height only between them.
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+    // A small screen gives the tool windows room by closing or floating the bars.
+    QMenu* view =
+        PaneViewMenu::create({{m_treeDock, tr("Workspace")},
+                              {m_statusDock, tr("Axis Status")},
+                              {m_motionDock, tr("Motion Status")},
+                              {findChild<QToolBar*>(QStringLiteral("Main")), tr("Toolbar")}},
+                             this);
+    MenuMnemonics::apply(*view);
+    menuBar()->insertMenu(menuBar()->actions().at(menuBar()->actions().size() - 2), view);
 }
 
 void COV_MainFrame::readSettings()
@@ -353,16 +361,20 @@ void COV_MainFrame::applySkin()
 
 void COV_MainFrame::restoreLayout()
 {
-    const QSettings settings(kLayoutOrganisation, QStringLiteral("Orvane"));
+    const UserSettings settings;
     restoreState(settings.value(kLayoutKey).toByteArray());
-    // The pane's switch takes effect at start only, whatever the saved layout says.
-    m_statusDock->setVisible(m_showStatusWindow != 0);
+    // The switch hides the pane at start whatever the saved layout says; shown, the pane
+    // stays where the user left it, closed included.
+    if (m_showStatusWindow == 0)
+        m_statusDock->hide();
+    m_tools->restoreSession(settings, [this](ToolKind kind) { openTool(kind); });
 }
 
 void COV_MainFrame::saveLayout() const
 {
-    QSettings settings(kLayoutOrganisation, QStringLiteral("Orvane"));
+    UserSettings settings;
     settings.setValue(kLayoutKey, saveState());
+    m_tools->saveSession(settings);
 }
 
 void COV_MainFrame::closeEvent(QCloseEvent* event)

@@ -9,7 +9,11 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QScrollArea>
+#include <QSettings>
 #include <QStyle>
+#include <QTimer>
+
+#include <algorithm>
 
 ToolWindowHost::ToolWindowHost(QMdiArea& area, const ToolWindowFactory& factory,
                                const ToolContext& context, QObject* parent)
@@ -115,9 +119,19 @@ bool ToolWindowHost::open(ToolKind kind)
     m_area.addSubWindow(window);
     entry = Slot{window, view, false};
     ++m_created;
+    if (const auto kept = m_setups.find(kind); kept != m_setups.end())
+        view->restoreSetup(kept->second);
 
     window->resize(initialSize(*window, *view));
-    window->move(m_cascade.placeNew(m_area.viewport()->size()));
+    // The cascade's step, but never past the workspace's edge: the window's last buttons stay
+    // in sight.
+    const QSize room = m_area.viewport()->size();
+    QPoint place = m_cascade.placeNew(room);
+    if (m_area.isVisible()) {
+        place.setX(std::max(0, std::min(place.x(), room.width() - window->width())));
+        place.setY(std::max(0, std::min(place.y(), room.height() - window->height())));
+    }
+    window->move(place);
     window->show();
     m_area.setActiveSubWindow(window);
     return true;
@@ -142,6 +156,11 @@ QSize ToolWindowHost::initialSize(const QMdiSubWindow& window, const QWidget& vi
 
 void ToolWindowHost::forget(Slot& entry)
 {
+    if (entry.view) {
+        const QVariantMap setup = entry.view->setup();
+        if (!setup.isEmpty())
+            m_setups[entry.view->kind()] = setup;
+    }
     if (entry.window)
         entry.window->removeEventFilter(this);
     entry = Slot{};
@@ -212,5 +231,70 @@ void ToolWindowHost::destroyAll()
         QMdiSubWindow* window = entry.window;
         forget(entry);
         delete window;
+    }
+}
+
+namespace {
+const QString kOpenWindows = QStringLiteral("ToolWindows/Open");
+const QString kSetups = QStringLiteral("ToolWindows/Setup/");
+} // namespace
+
+void ToolWindowHost::saveSession(QSettings& settings)
+{
+    QVariantList open;
+    // Bottom to top, so that the window on top comes back on top.
+    for (QMdiSubWindow* window : m_area.subWindowList(QMdiArea::StackingOrder)) {
+        const Slot* entry = slotOf(window);
+        if (entry == nullptr || !entry->view)
+            continue;
+        const QVariantMap setup = entry->view->setup();
+        if (!setup.isEmpty())
+            m_setups[entry->view->kind()] = setup;
+        open << QVariantMap{{QStringLiteral("kind"), int(entry->view->kind())},
+                            {QStringLiteral("geometry"), window->geometry()},
+                            {QStringLiteral("maximized"), window->isMaximized()},
+                            {QStringLiteral("minimized"), window->isMinimized()}};
+    }
+    settings.setValue(kOpenWindows, open);
+    for (const auto& [kind, setup] : m_setups)
+        settings.setValue(kSetups + QString::number(kind), setup);
+}
+
+void ToolWindowHost::restoreSession(const QSettings& settings,
+                                    const std::function<void(ToolKind)>& open)
+{
+    for (const ToolWindowKind& entry : toolWindowKinds()) {
+        const QVariantMap setup = settings.value(kSetups + QString::number(entry.kind)).toMap();
+        if (!setup.isEmpty())
+            m_setups[entry.kind] = setup;
+    }
+    for (const QVariant& item : settings.value(kOpenWindows).toList()) {
+        const QVariantMap place = item.toMap();
+        const ToolWindowKind* entry =
+            findToolWindowKind(place.value(QStringLiteral("kind"), -1).toInt());
+        // The simulator's window has nothing to show on real boards.
+        if (entry == nullptr ||
+            (entry->simulatedOnly && !m_context.board.simulator().anySimulated()))
+            continue;
+        open(entry->kind);
+        QMdiSubWindow* window = this->window(entry->kind);
+        if (window == nullptr)
+            continue;
+        const QRect geometry = place.value(QStringLiteral("geometry")).toRect();
+        if (geometry.isValid())
+            window->setGeometry(geometry);
+        // Once the frame shows, a window saved on a larger screen comes back inside this one.
+        QTimer::singleShot(0, window, [this, window] {
+            if (!m_area.isVisible() || window->isMaximized() || window->isMinimized())
+                return;
+            const QSize room = m_area.viewport()->size();
+            window->resize(window->size().boundedTo(room));
+            window->move(std::clamp(window->x(), 0, room.width() - window->width()),
+                         std::clamp(window->y(), 0, room.height() - window->height()));
+        });
+        if (place.value(QStringLiteral("maximized")).toBool())
+            window->showMaximized();
+        else if (place.value(QStringLiteral("minimized")).toBool())
+            window->showMinimized();
     }
 }

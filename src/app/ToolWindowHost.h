@@ -7,7 +7,10 @@
 #include <QObject>
 #include <QPointer>
 
+#include <QVariantMap>
+
 #include <array>
+#include <functional>
 #include <map>
 #include <memory>
 #include <vector>
@@ -15,6 +18,7 @@
 class BoardApi;
 class QMdiArea;
 class QMdiSubWindow;
+class QSettings;
 class ToolView;
 class ToolWindowFactory;
 
@@ -45,6 +49,13 @@ public:
     // Closes every window at once, without asking (the frame is going away).
     void destroyAll();
 
+    // Which windows are open, where, and each kind's setup (ToolView::setup()), for the next
+    // run; a window's setup is kept from its close too.
+    void saveSession(QSettings& settings);
+    // Takes over the kinds' setups and opens the windows `settings` lists through `open` (the
+    // frame's way of opening), stacked and placed as they were.
+    void restoreSession(const QSettings& settings, const std::function<void(ToolKind)>& open);
+
     int createdCount() const { return m_created; }
     const CascadePlacement& cascade() const { return m_cascade; }
 
@@ -74,6 +85,7 @@ private:
     // kept for the host's life: a closed view may still stop its axes as it goes
     std::map<ToolKind, std::unique_ptr<BoardApi>> m_boards;
     CascadePlacement m_cascade;
+    std::map<ToolKind, QVariantMap> m_setups; // kept from closed windows for the next open
     int m_created = 0;
     const QObject* m_closing = nullptr; // the window whose close event is being decided
 };

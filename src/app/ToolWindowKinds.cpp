@@ -17,6 +17,7 @@
 #include "COV_SysDbgWnd.h"
 #include "COV_SysIoWnd.h"
 #include "COV_SysRstDlg.h"
+#include "FileDialogPlace.h"
 
 #include <QCoreApplication>
 #include <QFileDialog>
@@ -93,16 +94,18 @@ void registerToolWindows(ToolWindowFactory& factory)
     factory.registerCommand(FrameCommand::ActualSpeedCalculator, dialogOf<COV_ActSpdCalDlg>());
     factory.registerCommand(FrameCommand::ExportParameters, dialogOf<COV_ExportPrmDlg>());
     factory.registerCommand(FrameCommand::CompareParameters, dialogOf<COV_ComparePrmDlg>());
-    factory.registerCommand(FrameCommand::ImportParameters, [](const ToolContext& context,
-                                                               QWidget* parent) {
-        const QString path = QFileDialog::getOpenFileName(
-            parent, QCoreApplication::translate("ToolWindowKinds", "Import Parameters"), QString(),
-            QCoreApplication::translate("ToolWindowKinds",
-                                        "Parameter files (*.ini *.txt);;All files (*)"));
-        if (path.isEmpty())
-            return;
-        COV_ImportPrmDlg dialog(context, parent);
-        dialog.load(path);
-        dialog.exec();
-    });
+    factory.registerCommand(
+        FrameCommand::ImportParameters, [](const ToolContext& context, QWidget* parent) {
+            const QString path = QFileDialog::getOpenFileName(
+                parent, QCoreApplication::translate("ToolWindowKinds", "Import Parameters"),
+                FileDialogPlace::start(QStringLiteral("ImportParameters")),
+                QCoreApplication::translate("ToolWindowKinds",
+                                            "Parameter files (*.ini *.txt);;All files (*)"));
+            FileDialogPlace::remember(QStringLiteral("ImportParameters"), path);
+            if (path.isEmpty())
+                return;
+            COV_ImportPrmDlg dialog(context, parent);
+            dialog.load(path);
+            dialog.exec();
+        });
 }

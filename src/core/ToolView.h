@@ -2,6 +2,7 @@
 
 #include "UserMessage.h"
 
+#include <QVariantMap>
 #include <QWidget>
 
 class QTimer;
@@ -33,6 +34,10 @@ public:
     // The program is about to exit: a window holding unwritten values asks about them (Yes
     // writes, No drops); false (Cancel) keeps the program running.
     virtual bool settleBeforeExit() { return true; }
+    // What the user set up in the window that a restart brings back (the scope's channels,
+    // trigger and time base); empty for a window with nothing to keep.
+    virtual QVariantMap setup() const { return {}; }
+    virtual void restoreSetup(const QVariantMap&) {}
     // The window's own periodic poll, if it has one: benchmarks and tests fire it by hand.
     virtual QTimer* pollTimer() { return nullptr; }
 

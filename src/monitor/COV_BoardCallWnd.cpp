@@ -3,6 +3,7 @@
 #include "BoardApi.h"
 #include "BoardCallModel.h"
 #include "BoardCallText.h"
+#include "FileDialogPlace.h"
 #include "PollInterval.h"
 #include "PromptService.h"
 
@@ -143,8 +144,13 @@ QWidget* COV_BoardCallWnd::createActions()
     auto* exportButton = new QPushButton(tr("Export CSV..."), box);
     exportButton->setToolTip(tr("Save the rows shown to a CSV file"));
     connect(exportButton, &QPushButton::clicked, this, [this] {
+        const QString dialog = QStringLiteral("BoardCallsCsv");
         const QString path = QFileDialog::getSaveFileName(
-            this, tr("Export CSV"), QStringLiteral("BoardCalls.csv"), tr("CSV files (*.csv)"));
+            this, tr("Export CSV"),
+            FileDialogPlace::start(dialog, FileDialogPlace::datedName(QStringLiteral("BoardCalls"),
+                                                                      QStringLiteral("csv"))),
+            tr("CSV files (*.csv)"));
+        FileDialogPlace::remember(dialog, path);
         if (!path.isEmpty() && !exportCsv(path))
             m_context.prompt.inform(tr("Can not write %1 !").arg(path));
     });

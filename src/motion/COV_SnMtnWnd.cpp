@@ -1,6 +1,7 @@
 #include "COV_SnMtnWnd.h"
 
 #include "AppState.h"
+#include "AxisMotionReadout.h"
 #include "BoardApi.h"
 #include "COV_SnMtnHomeWnd.h"
 #include "COV_SnMtnPtpWnd.h"
@@ -8,8 +9,10 @@
 #include "FrameRelay.h"
 #include "MotionButtonColumn.h"
 #include "NumberList.h"
+#include "PollInterval.h"
 #include "PromptService.h"
 #include "PromptTexts.h"
+#include "SnugScrollArea.h"
 
 #include <QComboBox>
 #include <QEvent>
@@ -28,16 +31,21 @@ COV_SnMtnWnd::COV_SnMtnWnd(const ToolContext& context, QWidget* parent, Sequence
         return QString::fromStdString(state.registry.modelName(family, card));
     });
     auto* layout = new QHBoxLayout(this);
-    auto* left = new QVBoxLayout;
+    auto* fields = new QWidget;
+    auto* left = new QVBoxLayout(fields);
+    left->setContentsMargins(0, 0, 0, 0);
     m_cardRow = new CardSelectorRow;
     m_axisCombo = new QComboBox;
     m_axisCombo->setObjectName(QStringLiteral("axisCombo"));
     m_cardRow->addSelector(tr("Axis No. : "), m_axisCombo);
     left->addWidget(m_cardRow);
     left->addWidget(createPageArea(), 1);
-    layout->addLayout(left, 1);
+    // The fields scroll on a small screen; the button column beside them does not.
+    layout->addWidget(new SnugScrollArea(fields), 1);
     m_buttons = new MotionButtonColumn(true);
     m_buttons->scope->setToolTip(tr("Record this axis' positions and speed"));
+    m_readout = new AxisMotionReadout;
+    m_buttons->addUnderMotionButtons(m_readout);
     layout->addWidget(m_buttons);
     connectControls();
 
@@ -45,10 +53,14 @@ COV_SnMtnWnd::COV_SnMtnWnd(const ToolContext& context, QWidget* parent, Sequence
     layoutMotionButtons();
     m_axis = static_cast<AxisNo>(m_context.state.active.axis);
     reload();
+    m_poll.setInterval(kPollIntervalMs);
+    connect(&m_poll, &QTimer::timeout, this, [this] { showAxis(); });
+    m_poll.start();
 }
 
 COV_SnMtnWnd::~COV_SnMtnWnd()
 {
+    m_poll.stop();
     m_buttons->disconnectActions();
     m_sequencer.endForClose();
     m_context.state.active.axis = 0;
@@ -109,11 +121,23 @@ void COV_SnMtnWnd::reload()
 
 void COV_SnMtnWnd::loadPages()
 {
+    m_readout->forget();
+    showAxis();
     m_sequencer.setCardAxis(m_card, m_axis);
     m_homePage->setCardAxis(m_card, m_axis);
     m_homePage->load();
     m_ptpPage->setCardAxis(m_card, m_axis);
     m_ptpPage->load();
+}
+
+void COV_SnMtnWnd::showAxis()
+{
+    const BoardFamily family = m_context.state.active.family;
+    BoardApi& board = m_context.board;
+    m_readout->show({board.GetCommandPos(family, m_card, m_axis),
+                     board.GetActualPos(family, m_card, m_axis),
+                     board.GetCommandSpeed(family, m_card, m_axis)},
+                    m_context.state.units.shownScale(family, m_card, m_axis));
 }
 
 void COV_SnMtnWnd::updateServoCaption()

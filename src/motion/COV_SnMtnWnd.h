@@ -7,6 +7,9 @@
 #include "SingleAxisPanel.h"
 #include "SingleAxisSequencer.h"
 
+#include <QTimer>
+
+class AxisMotionReadout;
 class CardSelectorRow;
 class COV_SnMtnHomeWnd;
 class COV_SnMtnPtpWnd;
@@ -30,6 +33,7 @@ public:
 
     ToolKind kind() const override { return ToolSingleAxis; }
     void handleUserMessage(UserMessage message, int wParam) override;
+    QTimer* pollTimer() override { return &m_poll; }
 
     SingleAxisSequencer& sequencer() { return m_sequencer; }
 
@@ -48,6 +52,8 @@ private:
     void updateServoCaption();
     void layoutMotionButtons();
     void promptForVisiblePage(BoardFamily family);
+    // The 10 ms poll: the axis' positions and speed beside the jog buttons.
+    void showAxis();
 
     void onTabChanged(int index);
     void onCardActivated(int index);
@@ -86,4 +92,6 @@ private:
     COV_SnMtnHomeWnd* m_homePage = nullptr;
     COV_SnMtnPtpWnd* m_ptpPage = nullptr;
     MotionButtonColumn* m_buttons = nullptr;
+    AxisMotionReadout* m_readout = nullptr;
+    QTimer m_poll;
 };

@@ -4,6 +4,7 @@
 #include "JogReleaseGuard.h"
 #include "MotionButtonActions.h"
 #include "NamedButton.h"
+#include "SnugScrollArea.h"
 #include "ToolView.h"
 
 #include <QCoreApplication>
@@ -55,17 +56,25 @@ MotionButtonColumn::MotionButtonColumn(bool withSetPrm, QWidget* parent) : QWidg
         setPrm->setToolTip(tr("Write the parameters shown to the board"));
     eStop->setMinimumHeight(40);
     sStop->setMinimumHeight(40);
-    for (QPushButton* button : {eStop, sStop, servo})
-        layout->addWidget(button);
-    layout->addSpacing(12);
-    layout->addWidget(createMotionButtons());
-    layout->addSpacing(12);
+    layout->addWidget(eStop);
+    layout->addWidget(sStop);
+    // The stops stay in sight; below them the column scrolls when the window is short.
+    auto* rest = new QWidget;
+    auto* restLayout = new QVBoxLayout(rest);
+    m_rest = restLayout;
+    restLayout->setContentsMargins(0, 0, 0, 0);
+    restLayout->addWidget(servo);
+    restLayout->addSpacing(12);
+    m_motionRow = createMotionButtons();
+    restLayout->addWidget(m_motionRow);
+    restLayout->addSpacing(12);
     for (QPushButton* button : {alarmReset, counterClear, setPrm, parameterSetup, scope}) {
         if (button != nullptr)
-            layout->addWidget(button);
+            restLayout->addWidget(button);
     }
-    layout->addStretch();
-    layout->addWidget(close);
+    restLayout->addStretch();
+    restLayout->addWidget(close);
+    layout->addWidget(new SnugScrollArea(rest, true), 1);
     keepWidth();
 }
 
@@ -158,6 +167,11 @@ void MotionButtonColumn::showMotionCaptions(bool home, MotionType type, bool aut
     }
     plus->hide();
     minus->setText(home ? tr("Home") : tr("Auto Move"));
+}
+
+void MotionButtonColumn::addUnderMotionButtons(QWidget* widget)
+{
+    m_rest->insertWidget(m_rest->indexOf(m_motionRow) + 1, widget);
 }
 
 void MotionButtonColumn::showServo(bool on)

@@ -8,6 +8,7 @@ class FrameRelay;
 class JogReleaseGuard;
 class MotionButtonActions;
 class QPushButton;
+class QVBoxLayout;
 class ToolView;
 
 // The button column of both motion windows: the stops and the servo on top, "-" and "+" in
@@ -34,6 +35,8 @@ public:
     // automatic absolute repeat.
     void showMotionCaptions(bool home, MotionType type, bool autoMove);
     void showServo(bool on);
+    // A widget right under "-" and "+" (the single-axis window's own axis).
+    void addUnderMotionButtons(QWidget* widget);
 
     QPushButton* eStop = nullptr;
     QPushButton* sStop = nullptr;
@@ -54,6 +57,8 @@ private:
     QWidget* createMotionButtons();
     void keepWidth();
 
+    QVBoxLayout* m_rest = nullptr; // the part under the stops, which scrolls
+    QWidget* m_motionRow = nullptr;
     MotionButtonActions* m_actions = nullptr;
     JogReleaseGuard* m_jogGuard = nullptr;
 };

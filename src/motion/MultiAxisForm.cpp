@@ -4,6 +4,7 @@
 #include "MotionButtonColumn.h"
 #include "NamedButton.h"
 #include "PageFieldGrid.h"
+#include "SnugScrollArea.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -54,17 +55,22 @@ MultiAxisForm::MultiAxisForm(QWidget* window)
 {
     // Three narrow columns, so the window fits beside the docked panes on a small screen.
     auto* layout = new QHBoxLayout(window);
+    // The fields scroll on a small screen; the button column beside them does not.
+    auto* fields = new QWidget;
+    auto* columns = new QHBoxLayout(fields);
+    columns->setContentsMargins(0, 0, 0, 0);
     auto* left = new QVBoxLayout;
     left->addWidget(createAxisColumn());
     left->addWidget(createCounterGroup());
     left->addWidget(createGantryGroup());
     left->addStretch();
-    layout->addLayout(left);
+    columns->addLayout(left);
     auto* middle = new QVBoxLayout;
     middle->addWidget(createProfileGroup());
     middle->addWidget(createRepeatGroup());
     middle->addStretch();
-    layout->addLayout(middle);
+    columns->addLayout(middle);
+    layout->addWidget(new SnugScrollArea(fields), 1);
     layout->addWidget(createButtonColumn());
 }
 

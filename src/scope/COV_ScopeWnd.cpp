@@ -1,6 +1,7 @@
 #include "COV_ScopeWnd.h"
 
 #include "AppState.h"
+#include "FileDialogPlace.h"
 #include "NamedButton.h"
 #include "PlotNavigator.h"
 #include "PlotTicks.h"
@@ -10,6 +11,7 @@
 #include "ScopeChannelTable.h"
 #include "ScopeCsv.h"
 #include "ScopeReadout.h"
+#include "ScopeSetup.h"
 #include "ScopeUnits.h"
 
 #include <QCheckBox>
@@ -195,23 +197,49 @@ void COV_ScopeWnd::connectControls()
     connect(m_channels, &ScopeChannelTable::scalesChanged, this, [this] { refreshPlot(); });
     connect(m_trigger, &QComboBox::currentIndexChanged, this, [this] { updateControls(); });
     connect(m_exportCsv, &QPushButton::clicked, this, [this] {
-        const QString path = QFileDialog::getSaveFileName(this, tr("Export CSV"), QString(),
-                                                          tr("CSV files (*.csv)"));
+        const QString path = askFile(QStringLiteral("ScopeCsv"), tr("Export CSV"),
+                                     tr("CSV files (*.csv)"), QStringLiteral("csv"));
         if (!path.isEmpty())
             exportCsv(path);
     });
     connect(m_openCsv, &QPushButton::clicked, this, [this] {
         const QString path =
-            QFileDialog::getOpenFileName(this, tr("Open CSV"), QString(), tr("CSV files (*.csv)"));
+            askFile(QStringLiteral("ScopeCsv"), tr("Open CSV"), tr("CSV files (*.csv)"), QString());
         if (!path.isEmpty())
             openCsv(path);
     });
     connect(m_savePng, &QPushButton::clicked, this, [this] {
-        const QString path = QFileDialog::getSaveFileName(this, tr("Save PNG"), QString(),
-                                                          tr("PNG pictures (*.png)"));
+        const QString path = askFile(QStringLiteral("ScopePng"), tr("Save PNG"),
+                                     tr("PNG pictures (*.png)"), QStringLiteral("png"));
         if (!path.isEmpty())
             savePng(path);
     });
+}
+
+QString COV_ScopeWnd::askFile(const QString& dialog, const QString& title, const QString& filter,
+                              const QString& saveSuffix)
+{
+    QString path;
+    if (saveSuffix.isEmpty()) {
+        path = QFileDialog::getOpenFileName(this, title, FileDialogPlace::start(dialog), filter);
+    } else {
+        // Named after the channels shown: "RL0.1CommandSpeed_RL0.1FollowingError_<date>".
+        QStringList channels;
+        for (const ScopeRecording::Column& column : m_shown.columns)
+            channels << column.name;
+        for (int i = 0; channels.isEmpty() && i < ScopeRecorder::kChannels; ++i) {
+            if (m_channels->channel(i).enabled)
+                channels << m_channels->channel(i).name();
+        }
+        channels.replaceInStrings(QStringLiteral(" "), QString());
+        const QString stem =
+            channels.isEmpty() ? QStringLiteral("Scope") : channels.join(QLatin1Char('_'));
+        path = QFileDialog::getSaveFileName(
+            this, title,
+            FileDialogPlace::start(dialog, FileDialogPlace::datedName(stem, saveSuffix)), filter);
+    }
+    FileDialogPlace::remember(dialog, path);
+    return path;
 }
 
 void COV_ScopeWnd::handleUserMessage(UserMessage, int)
@@ -219,10 +247,45 @@ void COV_ScopeWnd::handleUserMessage(UserMessage, int)
     // Each channel names its own axis, so a change of the active controller changes nothing.
 }
 
+QVariantMap COV_ScopeWnd::setup() const
+{
+    ScopeSetup::Channels channels;
+    for (int i = 0; i < ScopeRecorder::kChannels; ++i)
+        channels[size_t(i)] = m_channels->channel(i);
+    return ScopeSetup::toMap(channels, shownSettings());
+}
+
+void COV_ScopeWnd::restoreSetup(const QVariantMap& setup)
+{
+    ScopeSetup::Channels channels;
+    for (int i = 0; i < ScopeRecorder::kChannels; ++i)
+        channels[size_t(i)] = m_channels->channel(i);
+    ScopeRecorder::Settings settings = shownSettings();
+    ScopeSetup::fromMap(setup, channels, settings);
+    for (int i = 0; i < ScopeRecorder::kChannels; ++i)
+        m_channels->setChannel(i, channels[size_t(i)]);
+    for (auto [combo, value] :
+         {std::pair{m_period, settings.periodMs}, std::pair{m_length, settings.lengthMs}}) {
+        if (const int index = combo->findData(value); index >= 0)
+            combo->setCurrentIndex(index);
+    }
+    m_trigger->setCurrentIndex(settings.trigger == ScopeRecorder::Trigger::AxisStarts ? 1 : 0);
+    m_triggerChannel->setCurrentIndex(settings.triggerChannel);
+    m_repeat->setChecked(settings.repeat);
+    applySettings();
+    updateControls();
+    refreshPlot();
+}
+
 void COV_ScopeWnd::applySettings()
 {
     for (int i = 0; i < ScopeRecorder::kChannels; ++i)
         m_recorder.setChannel(i, m_channels->channel(i));
+    m_recorder.setSettings(shownSettings());
+}
+
+ScopeRecorder::Settings COV_ScopeWnd::shownSettings() const
+{
     ScopeRecorder::Settings settings;
     settings.periodMs = m_period->currentData().toInt();
     settings.lengthMs = m_length->currentData().toInt();
@@ -230,7 +293,7 @@ void COV_ScopeWnd::applySettings()
                                                       : ScopeRecorder::Trigger::FreeRun;
     settings.triggerChannel = m_triggerChannel->currentIndex();
     settings.repeat = m_repeat->isChecked();
-    m_recorder.setSettings(settings);
+    return settings;
 }
 
 void COV_ScopeWnd::updateControls()

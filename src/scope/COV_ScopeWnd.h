@@ -40,6 +40,9 @@ public:
     ToolKind kind() const override { return ToolScope; }
     void handleUserMessage(UserMessage message, int wParam) override;
     QSize sizeHint() const override;
+    // The channels, the time base and the trigger, kept between runs.
+    QVariantMap setup() const override;
+    void restoreSetup(const QVariantMap& setup) override;
 
     void setClock(Clock clock) { m_clock = std::move(clock); }
     ScopeRecorder& recorder() { return m_recorder; }
@@ -68,12 +71,18 @@ private:
     QWidget* createFileButtons();
     void connectControls();
     void applySettings();
+    // The time base and trigger the controls show.
+    ScopeRecorder::Settings shownSettings() const;
     void updateControls();
     void predictSpeeds();
     void updateSeries();
     void updateXRange();
     void drawOverlay(QPainter& painter, const PlotWidget& plot) const;
     void onCursorsChanged();
+    // A file from the dialog kept under `dialog`: an open dialog without `saveSuffix`, a save
+    // dialog suggesting a name after the channels and the date with it.
+    QString askFile(const QString& dialog, const QString& title, const QString& filter,
+                    const QString& saveSuffix);
     double now() const { return m_clock(); }
 
     ToolContext m_context;

@@ -2,6 +2,7 @@
 
 #include "AppState.h"
 #include "DialogFlags.h"
+#include "FileDialogPlace.h"
 #include "OrvaneLog.h"
 #include "ParameterSourceBox.h"
 #include "ParameterText.h"
@@ -16,6 +17,10 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+namespace {
+const QString kDialog = QStringLiteral("ExportParameters");
+} // namespace
 
 COV_ExportPrmDlg::COV_ExportPrmDlg(const ToolContext& context, QWidget* parent)
     : QDialog(parent, kDialogFlags), m_context(context)
@@ -45,9 +50,12 @@ COV_ExportPrmDlg::COV_ExportPrmDlg(const ToolContext& context, QWidget* parent)
     layout->addWidget(buttons);
 
     connect(browse, &QPushButton::clicked, this, [this] {
-        const QString path =
-            QFileDialog::getSaveFileName(this, tr("Export Parameters"), m_file->text(),
-                                         tr("Parameter files (*.ini);;All files (*)"));
+        const QString path = QFileDialog::getSaveFileName(
+            this, tr("Export Parameters"),
+            m_file->text().isEmpty() ? FileDialogPlace::start(kDialog, suggestedName())
+                                     : m_file->text(),
+            tr("Parameter files (*.ini);;All files (*)"));
+        FileDialogPlace::remember(kDialog, path);
         if (!path.isEmpty())
             m_file->setText(path);
     });
@@ -56,6 +64,17 @@ COV_ExportPrmDlg::COV_ExportPrmDlg(const ToolContext& context, QWidget* parent)
             accept();
     });
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+}
+
+QString COV_ExportPrmDlg::suggestedName() const
+{
+    const ParameterScope scope = m_source->scope();
+    if (!scope.family || scope.card < 0)
+        return FileDialogPlace::datedName(QStringLiteral("Orvane_AllCards"), QStringLiteral("ini"));
+    const QString model =
+        QString::fromStdString(m_context.state.registry.modelName(*scope.family, scope.card));
+    return FileDialogPlace::datedName(QStringLiteral("%1_Card%2").arg(model).arg(scope.card),
+                                      QStringLiteral("ini"));
 }
 
 void COV_ExportPrmDlg::setFilePath(const QString& path)

@@ -20,6 +20,9 @@ public:
     bool exportFile();
 
 private:
+    // The model, card and date of what is exported ("NRX-RL416V_Card0_2026-11-24.ini").
+    QString suggestedName() const;
+
     const ToolContext& m_context;
     ParameterSourceBox* m_source = nullptr;
     QLineEdit* m_file = nullptr;

@@ -2,6 +2,7 @@
 
 #include "AppState.h"
 #include "DialogFlags.h"
+#include "FileDialogPlace.h"
 #include "FrameRelay.h"
 #include "OrvaneLog.h"
 #include "ParameterComparison.h"
@@ -66,9 +67,12 @@ COV_ImportPrmDlg::COV_ImportPrmDlg(const ToolContext& context, QWidget* parent)
     layout->addWidget(buttons);
 
     connect(browse, &QPushButton::clicked, this, [this] {
-        const QString path =
-            QFileDialog::getOpenFileName(this, tr("Import Parameters"), m_file->text(),
-                                         tr("Parameter files (*.ini *.txt);;All files (*)"));
+        const QString path = QFileDialog::getOpenFileName(
+            this, tr("Import Parameters"),
+            m_file->text().isEmpty() ? FileDialogPlace::start(QStringLiteral("ImportParameters"))
+                                     : m_file->text(),
+            tr("Parameter files (*.ini *.txt);;All files (*)"));
+        FileDialogPlace::remember(QStringLiteral("ImportParameters"), path);
         if (!path.isEmpty())
             load(path);
     });

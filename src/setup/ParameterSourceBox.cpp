@@ -1,6 +1,7 @@
 #include "ParameterSourceBox.h"
 
 #include "CardRegistry.h"
+#include "FileDialogPlace.h"
 
 #include <QComboBox>
 #include <QFileDialog>
@@ -62,9 +63,12 @@ ParameterSourceBox::ParameterSourceBox(const QString& title, const QList<Kind>& 
     connect(m_family, &QComboBox::currentIndexChanged, this, [this] { fillCards(); });
     connect(m_card, &QComboBox::currentIndexChanged, this, [this] { fillAxes(); });
     connect(m_browse, &QPushButton::clicked, this, [this] {
-        const QString path =
-            QFileDialog::getOpenFileName(this, tr("Parameter File"), m_file->text(),
-                                         tr("Parameter files (*.ini *.txt);;All files (*)"));
+        const QString path = QFileDialog::getOpenFileName(
+            this, tr("Parameter File"),
+            m_file->text().isEmpty() ? FileDialogPlace::start(QStringLiteral("CompareParameters"))
+                                     : m_file->text(),
+            tr("Parameter files (*.ini *.txt);;All files (*)"));
+        FileDialogPlace::remember(QStringLiteral("CompareParameters"), path);
         if (!path.isEmpty())
             m_file->setText(path);
     });

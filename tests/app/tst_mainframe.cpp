@@ -8,6 +8,7 @@
 #include "TextFile.h"
 #include "ToolView.h"
 #include "ToolWindowHost.h"
+#include "UserSettings.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -129,6 +130,8 @@ private:
 
 private slots:
     void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
+    // Every case starts as a first start would: no windows kept from an earlier exit.
+    void init() { UserSettings().clear(); }
 
     void tree_rmAndRnOnlyMakesRmCardZeroActive()
     {

@@ -148,9 +148,9 @@ private slots:
 
     void menus_allMarked()
     {
-        const QStringList contexts{QStringLiteral("COV_MainFrame"),
-                                   QStringLiteral("ToolWindowKinds"),
-                                   QStringLiteral("UserUnitsActions")};
+        const QStringList contexts{
+            QStringLiteral("COV_MainFrame"), QStringLiteral("ToolWindowKinds"),
+            QStringLiteral("UserUnitsActions"), QStringLiteral("PaneViewMenu")};
         QStringList unmarked;
         QList<QMenu*> menus;
         for (QAction* action : m_frame->menuBar()->actions())

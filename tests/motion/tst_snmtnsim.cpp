@@ -1,8 +1,11 @@
 #include "COV_SnMtnPtpWnd.h"
+#include "PaintCounter.h"
 #include "SimBoardsRig.h"
 #include "ToolWindowRig.h"
 
+#include <QLabel>
 #include <QTest>
+#include <QTimer>
 
 // The single-axis window on the simulated RL board, with the board's clock and the window's
 // timers moving together one millisecond at a time.
@@ -38,6 +41,65 @@ private:
     };
 
 private slots:
+    void ownAxis_positionsAndSignedSpeedBesideTheJogButtons_noRepaintAtRest()
+    {
+        Rig rig;
+        QVERIFY(rig.start());
+        rig.pointToPoint(MotionType::Jog);
+        rig.window->show();
+        const auto poll = [&] {
+            QMetaObject::invokeMethod(rig.window->pollTimer(), "timeout", Qt::DirectConnection);
+        };
+        QLabel* command = rig.find<QLabel>("commandReadout");
+        QLabel* actual = rig.find<QLabel>("actualReadout");
+        QLabel* speed = rig.find<QLabel>("speedReadout");
+        QVERIFY(rig.placeOf("commandReadout").top() > rig.placeOf("minusButton").bottom());
+        QCOMPARE(rig.window->pollTimer()->interval(), 10);
+
+        for (const char* jog : {"minusButton", "plusButton"}) {
+            QTest::mousePress(rig.button(jog), Qt::LeftButton);
+            rig.run(100);
+            poll();
+            rig.run(10);
+            poll();
+            const bool minus = jog == QByteArray("minusButton");
+            QVERIFY2(speed->text().startsWith(minus ? QStringLiteral("\u25C0 -")
+                                                    : QStringLiteral("\u25B6 ")),
+                     qPrintable(speed->text()));
+            QCOMPARE(command->text(), QString::number(rig.commandPosition()));
+            QCOMPARE(actual->text(), QString::number(rig.api.GetActualPos(BoardFamily::RL, 0, 1)));
+            QTest::mouseRelease(rig.button(jog), Qt::LeftButton);
+            QVERIFY(rig.runToEnd());
+            rig.run(200);
+            poll();
+            QCOMPARE(speed->text(), QStringLiteral("0 pps"));
+        }
+
+        rig.state.units.setScale(BoardFamily::RL, 0, 1, AxisUnitScale("mm", 1000.0, 3));
+        rig.state.units.setShown(true);
+        poll();
+        QCOMPARE(command->text(), QStringLiteral("%1\n%2 mm")
+                                      .arg(rig.commandPosition())
+                                      .arg(rig.commandPosition() / 1000.0, 0, 'f', 3));
+
+        // At rest the labels are left alone.
+        PaintCounter paints;
+        for (QLabel* label : {command, actual, speed})
+            label->installEventFilter(&paints);
+        for (int n = 0; n < 3; ++n) {
+            poll();
+            QApplication::processEvents();
+        }
+        const QString before = command->text() + actual->text() + speed->text();
+        paints.paints = 0;
+        for (int n = 0; n < 100; ++n) {
+            poll();
+            QApplication::processEvents();
+        }
+        QCOMPARE(command->text() + actual->text() + speed->text(), before);
+        QCOMPARE(paints.paints, 0);
+    }
+
     void relativeRepeat_threeStepsOfOneThousandWithTheSelectorsLocked()
     {
         Rig rig;
