@@ -1064,6 +1064,10 @@ Orvane stays open; exit again to retry, or answer No to leave the values unsaved
         <source>The parameters of %1 card(s) were exported to %2.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Exported %1 to %2</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>COV_FilterSetWnd</name>
@@ -1214,6 +1218,10 @@ Can not import parameters !</source>
     <message>
         <source>The boards refused %1 write(s); these values were not written:
 %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wrote the parameters of %1 to %2 (not saved yet)</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1411,6 +1419,10 @@ Can not change active controller !</source>
         <source> Position 2</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Wrote the motion parameters of %1 axis %2 to the board (not saved yet)</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>COV_MtnPrmWnd</name>
@@ -1549,6 +1561,10 @@ Can not change active controller !</source>
         <source>%1 axis parameter set to default value?</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Wrote &quot;%1&quot; of %2 axis %3 to the board (not saved yet)</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>COV_SavePrmDlg</name>
@@ -1591,6 +1607,14 @@ Can not change active controller !</source>
     </message>
     <message>
         <source>%1(%2): SaveFile returned %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved %1 to its parameter file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved %1 to their parameter files</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1780,6 +1804,14 @@ Can not change active controller !</source>
     </message>
     <message>
         <source>Can not write %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved the record to %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved the plot to %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2084,6 +2116,18 @@ Can not change active controller !</source>
     </message>
     <message>
         <source>Single Axis Motion - %1(%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wrote the %1 parameters of %2 axis %3 to the board (not saved yet)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>home</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>motion</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2489,6 +2533,10 @@ High Active : Normal Close</source>
     </message>
     <message>
         <source>Firmware Ver. : </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Parameters written to the board but not saved to its parameter file</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

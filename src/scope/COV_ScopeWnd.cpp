@@ -1,6 +1,7 @@
 #include "COV_ScopeWnd.h"
 
 #include "AppState.h"
+#include "FrameRelay.h"
 #include "NamedButton.h"
 #include "PlotNavigator.h"
 #include "PlotTicks.h"
@@ -14,6 +15,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -430,8 +432,10 @@ void COV_ScopeWnd::drawOverlay(QPainter& painter, const PlotWidget& plot) const
 bool COV_ScopeWnd::exportCsv(const QString& path)
 {
     QString error;
-    if (ScopeCsv::write(m_shown, path, &error))
+    if (ScopeCsv::write(m_shown, path, &error)) {
+        m_context.frame.showNote(tr("Saved the record to %1").arg(QDir::toNativeSeparators(path)));
         return true;
+    }
     m_context.prompt.inform(tr("Can not write %1:\n%2").arg(path, error));
     return false;
 }
@@ -455,8 +459,10 @@ bool COV_ScopeWnd::openCsv(const QString& path)
 
 bool COV_ScopeWnd::savePng(const QString& path)
 {
-    if (m_plot->grab().save(path, "PNG"))
+    if (m_plot->grab().save(path, "PNG")) {
+        m_context.frame.showNote(tr("Saved the plot to %1").arg(QDir::toNativeSeparators(path)));
         return true;
+    }
     m_context.prompt.inform(tr("Can not write %1.").arg(path));
     return false;
 }

@@ -105,6 +105,11 @@ QWidget* COV_PrmSuWnd::createButtonColumn()
         qCInfo(lcParams) << "Set Prm" << familyShortName(m_context.state.active.family) << "card"
                          << m_card << "axis" << m_axis << "page" << m_page;
         m_context.frame.sendToFrame(UM_PARAM_CHANGED, m_card);
+        m_context.frame.showNote(
+            tr("Wrote \"%1\" of %2 axis %3 to the board (not saved yet)")
+                .arg(m_tabBar->tabText(m_page).remove(QLatin1Char('&')))
+                .arg(m_context.state.cardName(m_context.state.active.family, m_card))
+                .arg(m_axis));
     });
     connect(copy, &QPushButton::clicked, this, [this] { onCopyClicked(); });
     connect(reset, &QPushButton::clicked, this, [this] { onDefaultClicked(); });

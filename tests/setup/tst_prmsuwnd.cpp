@@ -124,6 +124,8 @@ private slots:
         rig.find<QCheckBox>("softLimitUse")->click();
         rig.find<QLineEdit>("softLimitPlus")->setText("500");
         rig.click("setPrmButton");
+        QCOMPARE(rig.frame.notes, QStringList{"Wrote \"Motion Parameter\" of NRX-RL416V(0) axis 2 "
+                                              "to the board (not saved yet)"});
         rig.api.Inc_Move(BoardFamily::RL, 0, 2, 2000);
         rig.advance(BoardFamily::RL, 5000);
         QCOMPARE(rig.api.Done(BoardFamily::RL, 0, 2), 0);
