@@ -1649,26 +1649,6 @@ Can not change active controller !</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Free Run records at once; Axis Starts waits for the trigger channel&apos;s axis to start moving and keeps 10 % before</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Free Run</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Axis Starts</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Channel whose axis triggers</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Ch %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Repeat</source>
         <translation type="unfinished"></translation>
     </message>
@@ -3452,6 +3432,72 @@ High Active : Normal Close</source>
     </message>
     <message>
         <source>Time [ms]</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ScopeScales</name>
+    <message>
+        <source>Speed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Following Error</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ScopeTriggerControls</name>
+    <message>
+        <source>Free Run records at once; Axis Starts waits for the trigger channel&apos;s axis to start moving, Level for the trigger channel to cross the level; both keep 10 % before the trigger</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Free Run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Axis Starts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Channel that triggers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ch %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which way the channel crosses the level</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rising</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Falling</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Either</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The level, in the trigger channel&apos;s unit as plotted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Trigger</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

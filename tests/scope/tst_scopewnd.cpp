@@ -78,6 +78,12 @@ private slots:
         QCOMPARE(shown.times.front(), -200.0);
         QCOMPARE(shown.columns.size(), size_t(3));
         QVERIFY(!PredictedSpeedProfile::forRecording(shown, 0).isEmpty());
+        // Speed on the left; following error and position each on a scale of their own.
+        const auto& right = rig.window->plot().rightAxes();
+        QCOMPARE(right.size(), size_t(2));
+        QCOMPARE(right[0].title, QStringLiteral("Following Error [pulse]"));
+        QCOMPARE(right[1].title, QStringLiteral("Position [pulse]"));
+        QVERIFY(right[1].high >= 9000.0);
 
         // Cursors on the cruise and after the stop: drive speed, then standstill on target.
         const PredictedSpeedProfile::Move move = PredictedSpeedProfile::forDistance(
