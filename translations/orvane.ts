@@ -1565,6 +1565,10 @@ Can not change active controller !</source>
         <source>Wrote &quot;%1&quot; of %2 axis %3 to the board (not saved yet)</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>%1, axis %2, &quot;%3&quot;:</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>COV_SavePrmDlg</name>

@@ -146,7 +146,7 @@ bool COV_PrmSuWnd::leaveCheck(BoardFamily family)
     ParameterSetupPage* page = m_pages[std::size_t(m_page)];
     if (!page->IsChanged(family))
         return false;
-    if (!m_context.prompt.askYesNo(PromptTexts::parametersChanged()))
+    if (!m_context.prompt.askYesNo(leaveQuestion(family)))
         return true;
     page->Apply(family);
     // The frame marks the active family's card; after a controller change the written card
@@ -156,6 +156,16 @@ bool COV_PrmSuWnd::leaveCheck(BoardFamily family)
     else
         m_context.state.registry.setParametersChanged(family, m_card, true);
     return false;
+}
+
+QString COV_PrmSuWnd::leaveQuestion(BoardFamily family) const
+{
+    // Which card, axis and page the edits are on, above the question as it always reads.
+    return tr("%1, axis %2, \"%3\":")
+               .arg(m_context.state.cardName(family, m_card))
+               .arg(m_axis)
+               .arg(m_tabBar->tabText(m_page).remove(QLatin1Char('&'))) +
+           QLatin1Char('\n') + PromptTexts::parametersChanged();
 }
 
 void COV_PrmSuWnd::onTabChanged(int index)
@@ -266,7 +276,7 @@ bool COV_PrmSuWnd::settleBeforeExit()
     ParameterSetupPage* page = m_pages[std::size_t(m_page)];
     if (!page->IsChanged(family))
         return true;
-    switch (m_context.prompt.askYesNoCancel(PromptTexts::parametersChanged())) {
+    switch (m_context.prompt.askYesNoCancel(leaveQuestion(family))) {
     case PromptAnswer::Cancel:
         return false;
     case PromptAnswer::Yes:

@@ -39,6 +39,8 @@ private:
     void handPagesAxis();
     // Asks about unwritten edits of the shown page; true when the answer was No.
     bool leaveCheck(BoardFamily family);
+    // The leave-check question, naming the card, axis and page of the edits.
+    QString leaveQuestion(BoardFamily family) const;
     void openCopyDialog();
 
     void onTabChanged(int index);
