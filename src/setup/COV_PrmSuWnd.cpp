@@ -105,11 +105,7 @@ QWidget* COV_PrmSuWnd::createButtonColumn()
         qCInfo(lcParams) << "Set Prm" << familyShortName(m_context.state.active.family) << "card"
                          << m_card << "axis" << m_axis << "page" << m_page;
         m_context.frame.sendToFrame(UM_PARAM_CHANGED, m_card);
-        m_context.frame.showNote(
-            tr("Wrote \"%1\" of %2 axis %3 to the board (not saved yet)")
-                .arg(m_tabBar->tabText(m_page).remove(QLatin1Char('&')))
-                .arg(m_context.state.cardName(m_context.state.active.family, m_card))
-                .arg(m_axis));
+        noteWritten(m_context.state.active.family);
     });
     connect(copy, &QPushButton::clicked, this, [this] { onCopyClicked(); });
     connect(reset, &QPushButton::clicked, this, [this] { onDefaultClicked(); });
@@ -149,6 +145,7 @@ bool COV_PrmSuWnd::leaveCheck(BoardFamily family)
     if (!m_context.prompt.askYesNo(leaveQuestion(family)))
         return true;
     page->Apply(family);
+    noteWritten(family);
     // The frame marks the active family's card; after a controller change the written card
     // is the previous family's, so it is marked here.
     if (family == m_context.state.active.family)
@@ -156,6 +153,14 @@ bool COV_PrmSuWnd::leaveCheck(BoardFamily family)
     else
         m_context.state.registry.setParametersChanged(family, m_card, true);
     return false;
+}
+
+void COV_PrmSuWnd::noteWritten(BoardFamily family)
+{
+    m_context.frame.showNote(tr("Wrote \"%1\" of %2 axis %3 to the board (not saved yet)")
+                                 .arg(m_tabBar->tabText(m_page).remove(QLatin1Char('&')))
+                                 .arg(m_context.state.cardName(family, m_card))
+                                 .arg(m_axis));
 }
 
 QString COV_PrmSuWnd::leaveQuestion(BoardFamily family) const
@@ -281,6 +286,7 @@ bool COV_PrmSuWnd::settleBeforeExit()
         return false;
     case PromptAnswer::Yes:
         page->Apply(family);
+        noteWritten(family);
         m_context.frame.sendToFrame(UM_PARAM_CHANGED, m_card);
         return true;
     default:

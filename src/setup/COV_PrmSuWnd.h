@@ -41,6 +41,8 @@ private:
     bool leaveCheck(BoardFamily family);
     // The leave-check question, naming the card, axis and page of the edits.
     QString leaveQuestion(BoardFamily family) const;
+    // The status bar's word after a write of the shown page.
+    void noteWritten(BoardFamily family);
     void openCopyDialog();
 
     void onTabChanged(int index);

@@ -181,6 +181,7 @@ private slots:
         // Written or dropped, the field is no longer marked; kept, it still is.
         const bool kept = !yes && (way == "copy" || way == "import" || way == "close");
         QCOMPARE(rig.list("LimitLevel")->font().bold(), kept);
+        QCOMPARE(rig.frame.notes.size(), yes ? 1 : 0);
         // After a controller change the written card is the previous family's.
         const bool controller = way == "controller";
         QCOMPARE(rig.paramChangedSent(0), yes && !controller);
