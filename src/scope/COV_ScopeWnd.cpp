@@ -188,6 +188,11 @@ void COV_ScopeWnd::connectControls()
     connect(m_channels, &ScopeChannelTable::scalesChanged, this, [this] { refreshPlot(); });
     connect(m_trigger, &ScopeTriggerControls::modeChanged, this, [this] { updateControls(); });
     connect(m_trigger, &ScopeTriggerControls::levelChanged, this, [this] { m_plot->update(); });
+    connect(m_navigator, &PlotNavigator::levelDragged, this, [this](double level) {
+        const int column = triggerColumn();
+        if (column >= 0)
+            m_trigger->setLevel(level, std::max(0, m_shown.columns[size_t(column)].decimals));
+    });
     connect(m_exportCsv, &QPushButton::clicked, this, [this] {
         const QString path = QFileDialog::getSaveFileName(this, tr("Export CSV"), QString(),
                                                           tr("CSV files (*.csv)"));
@@ -443,8 +448,12 @@ void COV_ScopeWnd::drawOverlay(QPainter& painter, const PlotWidget& plot) const
         painter.setPen(pen);
         painter.drawPolyline(line);
     }
-    // The trigger level across the plot, in its channel's scale.
-    if (const int column = triggerColumn(); column >= 0) {
+    // The trigger level across the plot, in its channel's scale; while the trigger can still
+    // change, a drag moves it.
+    const int column = triggerColumn();
+    const bool settable = m_recorder.state() == ScopeRecorder::State::Stopped;
+    m_navigator->setLevelLine(settable ? column : -1, m_trigger->level());
+    if (column >= 0) {
         const double y = plot.yToPixel(column, m_trigger->level());
         QPen pen(ScopeChannelTable::colour(m_shown.columns[size_t(column)].channel), 1.0);
         pen.setStyle(Qt::DashDotLine);
