@@ -125,7 +125,9 @@ private slots:
         rig.choose("EncoderDirection", 1);
         rig.find<QCheckBox>("softLimitUse")->click();
         rig.find<QLineEdit>("softLimitPlus")->setText("500");
+        QVERIFY(rig.find<QLineEdit>("softLimitPlus")->font().bold());
         rig.click("setPrmButton");
+        QVERIFY(!rig.find<QLineEdit>("softLimitPlus")->font().bold());
         QCOMPARE(rig.frame.notes, QStringList{"Wrote \"Motion Parameter\" of NRX-RL416V(0) axis 2 "
                                               "to the board (not saved yet)"});
         rig.api.Inc_Move(BoardFamily::RL, 0, 2, 2000);
