@@ -1099,6 +1099,10 @@ Orvane stays open; exit again to retry, or answer No to leave the values unsaved
         <source>The parameters of %1 card(s) were exported to %2.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Exported %1 to %2</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>COV_FilterSetWnd</name>
@@ -1249,6 +1253,10 @@ Can not import parameters !</source>
     <message>
         <source>The boards refused %1 write(s); these values were not written:
 %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wrote the parameters of %1 to %2 (not saved yet)</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1458,6 +1466,10 @@ Can not change active controller !</source>
         <source> Position 2</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Wrote the motion parameters of %1 axis %2 to the board (not saved yet)</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>COV_MtnPrmWnd</name>
@@ -1596,6 +1608,14 @@ Can not change active controller !</source>
         <source>%1 axis parameter set to default value?</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Wrote &quot;%1&quot; of %2 axis %3 to the board (not saved yet)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, axis %2, &quot;%3&quot;:</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>COV_SavePrmDlg</name>
@@ -1640,6 +1660,14 @@ Can not change active controller !</source>
         <source>%1(%2): SaveFile returned %3</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Saved %1 to its parameter file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved %1 to their parameter files</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>COV_ScopeWnd</name>
@@ -1669,26 +1697,6 @@ Can not change active controller !</source>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Free Run records at once; Axis Starts waits for the trigger channel&apos;s axis to start moving and keeps 10 % before</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Free Run</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Axis Starts</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Channel whose axis triggers</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Ch %1</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1827,6 +1835,14 @@ Can not change active controller !</source>
     </message>
     <message>
         <source>Can not write %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved the record to %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved the plot to %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2131,6 +2147,18 @@ Can not change active controller !</source>
     </message>
     <message>
         <source>Single Axis Motion - %1(%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wrote the %1 parameters of %2 axis %3 to the board (not saved yet)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>home</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>motion</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2536,6 +2564,10 @@ High Active : Normal Close</source>
     </message>
     <message>
         <source>Firmware Ver. : </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Parameters written to the board but not saved to its parameter file</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -3465,6 +3497,72 @@ High Active : Normal Close</source>
     </message>
     <message>
         <source>Time [ms]</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ScopeScales</name>
+    <message>
+        <source>Speed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Following Error</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ScopeTriggerControls</name>
+    <message>
+        <source>Free Run records at once; Axis Starts waits for the trigger channel&apos;s axis to start moving, Level for the trigger channel to cross the level; both keep 10 % before the trigger</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Free Run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Axis Starts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Channel that triggers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ch %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which way the channel crosses the level</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rising</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Falling</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Either</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The level, in the trigger channel&apos;s unit as plotted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Trigger</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

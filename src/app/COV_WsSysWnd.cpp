@@ -45,10 +45,42 @@ COV_WsSysWnd::COV_WsSysWnd(AppState& state, BoardStartup& startup, FrameRelay& f
     setHeaderHidden(true);
     setColumnCount(1);
     connect(this, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
-        m_selectedLabel = item ? item->text(0).toStdString() : std::string();
+        m_selectedLabel = item ? plainLabel(item) : std::string();
     });
     connect(this, &QTreeWidget::itemDoubleClicked, this,
             [this](QTreeWidgetItem* item) { activateItem(item); });
+    m_state.registry.setChangedListener(
+        [this](BoardFamily family, int card, bool) { showChangedMark(family, card); });
+}
+
+COV_WsSysWnd::~COV_WsSysWnd()
+{
+    m_state.registry.setChangedListener({});
+}
+
+void COV_WsSysWnd::showChangedMark(BoardFamily family, int card)
+{
+    QTreeWidgetItem* item = cardItem(family, card);
+    if (item == nullptr)
+        return;
+    // An asterisk after the label, as editors mark a document with unsaved changes.
+    const std::string& label = m_cardLabels[at(family)][at(card)];
+    const bool changed = m_state.registry.parametersChanged(family, card);
+    item->setText(0, QString::fromStdString(changed ? label + "*" : label));
+    item->setToolTip(0, changed ? tr("Parameters written to the board but not saved to its "
+                                     "parameter file")
+                                : QString());
+}
+
+std::string COV_WsSysWnd::plainLabel(const QTreeWidgetItem* item) const
+{
+    for (BoardFamily family : kAllFamilies) {
+        for (int card = 0; card < kMaxCards; ++card) {
+            if (m_cards[at(family)][at(card)] == item)
+                return m_cardLabels[at(family)][at(card)];
+        }
+    }
+    return item->text(0).toStdString();
 }
 
 QIcon COV_WsSysWnd::imageIcon(Image image)
@@ -135,6 +167,7 @@ void COV_WsSysWnd::build()
             m_cardLabels[at(family)][at(card)] = label;
             QTreeWidgetItem* cardNode = addItem(m_families[at(family)], label, CardImage);
             m_cards[at(family)][at(card)] = cardNode;
+            showChangedMark(family, card);
             addItem(cardNode,
                     tr("Axis : ").toStdString() + std::to_string(registry.axisCount(family, card)),
                     AxisImage);
@@ -219,7 +252,7 @@ bool COV_WsSysWnd::isCardLabel(const std::string& label) const
 
 QMenu* COV_WsSysWnd::createContextMenu(QTreeWidgetItem* item)
 {
-    if (item == nullptr || !isCardLabel(item->text(0).toStdString()))
+    if (item == nullptr || !isCardLabel(plainLabel(item)))
         return nullptr;
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);

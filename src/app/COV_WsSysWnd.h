@@ -36,6 +36,7 @@ public:
 
     COV_WsSysWnd(AppState& state, BoardStartup& startup, FrameRelay& frame,
                  QWidget* parent = nullptr);
+    ~COV_WsSysWnd() override;
 
     // UM_TREE_BUILD, UM_SELECT_BOARD (wParam family, lParam card), UM_CONTROLLER_CHANGED (the
     // last selected card label), UM_SELECT_CARD and UM_CARD_CHANGED (wParam card).
@@ -65,6 +66,9 @@ private:
     void selectByNumbers(BoardFamily family, int card);
     void markActive(bool bold);
     bool isCardLabel(const std::string& label) const;
+    // A card's label without its unsaved-changes mark; other items' text as it is.
+    std::string plainLabel(const QTreeWidgetItem* item) const;
+    void showChangedMark(BoardFamily family, int card);
     static QIcon imageIcon(Image image);
 
     AppState& m_state;

@@ -93,8 +93,14 @@ bool CardRegistry::parametersChanged(BoardFamily family, int card) const
 
 void CardRegistry::setParametersChanged(BoardFamily family, int card, bool changed)
 {
-    if (validCard(family, card))
-        m_changed[idx(family)][static_cast<std::size_t>(card)] = changed;
+    if (!validCard(family, card))
+        return;
+    bool& mark = m_changed[idx(family)][static_cast<std::size_t>(card)];
+    if (mark == changed)
+        return;
+    mark = changed;
+    if (m_changedListener)
+        m_changedListener(family, card, changed);
 }
 
 std::int32_t CardRegistry::testValue(BoardFamily family, int card, int axis, TestValue which) const

@@ -4,7 +4,9 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <string>
+#include <utility>
 
 // What the registry knows of one family's boards.
 struct FamilyCardTable
@@ -57,6 +59,10 @@ public:
 
     bool parametersChanged(BoardFamily family, int card) const;
     void setParametersChanged(BoardFamily family, int card, bool changed);
+    // Called when a card's mark flips (not when it is set again), so a view can show the mark
+    // without polling; an empty function stops the calls.
+    using ChangedListener = std::function<void(BoardFamily family, int card, bool changed)>;
+    void setChangedListener(ChangedListener listener) { m_changedListener = std::move(listener); }
 
     std::int32_t testValue(BoardFamily family, int card, int axis, TestValue which) const;
     void setTestValue(BoardFamily family, int card, int axis, TestValue which, std::int32_t value);
@@ -71,4 +77,5 @@ private:
     std::array<std::array<bool, kMaxCards>, kFamilyCount> m_changed{};
     std::array<std::array<std::array<TestValues, kMaxAxes>, kMaxCards>, kFamilyCount>
         m_testValues{};
+    ChangedListener m_changedListener;
 };

@@ -67,6 +67,18 @@ void PlotNavigator::zoomAbout(double pixel, double factor)
     emit viewChanged();
 }
 
+void PlotNavigator::setLevelLine(int series, double value)
+{
+    m_levelSeries = series;
+    m_level = value;
+}
+
+bool PlotNavigator::nearLevel(int pixelRow) const
+{
+    return m_levelSeries >= 0 &&
+           std::abs(m_plot->yToPixel(m_levelSeries, m_level) - pixelRow) <= kGrip;
+}
+
 bool PlotNavigator::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched != m_plot)
@@ -94,7 +106,9 @@ bool PlotNavigator::eventFilter(QObject* watched, QEvent* event)
             m_band->show();
         } else if (mouse->button() == Qt::LeftButton) {
             m_dragCursor = cursorNear(m_pressed.x());
-            m_drag = m_dragCursor >= 0 ? Drag::Cursor : Drag::Pan;
+            m_drag = m_dragCursor >= 0          ? Drag::Cursor
+                     : nearLevel(m_pressed.y()) ? Drag::Level
+                                                : Drag::Pan;
             m_panLow = m_plot->xLow();
             m_panHigh = m_plot->xHigh();
         }
@@ -105,8 +119,20 @@ bool PlotNavigator::eventFilter(QObject* watched, QEvent* event)
         const QPoint at = mouse->position().toPoint();
         switch (m_drag) {
         case Drag::None:
-            m_plot->setCursor(cursorNear(at.x()) >= 0 ? Qt::SplitHCursor : Qt::CrossCursor);
+            m_plot->setCursor(cursorNear(at.x()) >= 0 ? Qt::SplitHCursor
+                              : nearLevel(at.y())     ? Qt::SplitVCursor
+                                                      : Qt::CrossCursor);
             break;
+        case Drag::Level: {
+            // The series' scale is linear: two of its rows give the value of any other.
+            const double zero = m_plot->yToPixel(m_levelSeries, 0.0);
+            const double one = m_plot->yToPixel(m_levelSeries, 1.0);
+            if (one != zero) {
+                m_level = (at.y() - zero) / (one - zero);
+                emit levelDragged(m_level);
+            }
+            break;
+        }
         case Drag::Cursor:
             setCursor(m_dragCursor, m_plot->pixelToX(at.x()));
             break;

@@ -22,12 +22,17 @@ public:
     double cursor(int index) const { return m_cursors[static_cast<size_t>(index & 1)]; }
     void setCursor(int index, double x);
     void paintCursors(QPainter& painter, const PlotWidget& plot) const;
+    // A horizontal line at value on series' scale that a drag moves (a trigger level); a
+    // series below 0 takes it away.
+    void setLevelLine(int series, double value);
 
 signals:
     // The user zoomed or panned: the shown time no longer follows the data.
     void viewChanged();
     void fitRequested();
     void cursorsChanged();
+    // The user dragged the level line to value.
+    void levelDragged(double value);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -38,8 +43,10 @@ private:
         None,
         Pan,
         Band,
-        Cursor
+        Cursor,
+        Level
     };
+    bool nearLevel(int pixelRow) const;
     int cursorNear(int pixel) const;
     void zoomAbout(double pixel, double factor);
 
@@ -48,6 +55,8 @@ private:
     std::array<double, 2> m_cursors{0.0, 0.0};
     Drag m_drag = Drag::None;
     int m_dragCursor = 0;
+    int m_levelSeries = -1;
+    double m_level = 0.0;
     QPoint m_pressed;
     double m_panLow = 0.0, m_panHigh = 1.0;
 };

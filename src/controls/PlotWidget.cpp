@@ -123,6 +123,18 @@ void PlotWidget::setSeriesYRange(int index, double low, double high)
     update();
 }
 
+void PlotWidget::setRightAxes(std::vector<ValueAxis> axes)
+{
+    m_rightAxes = std::move(axes);
+    update();
+}
+
+void PlotWidget::setLegendAbove(bool above)
+{
+    m_legendAbove = above;
+    update();
+}
+
 void PlotWidget::setYRange(double low, double high)
 {
     if (high == low)
@@ -199,7 +211,12 @@ void PlotWidget::layoutArea(const QRect& target, const QFontMetrics& metrics) co
 {
     // The fitted ranges are settled here because the tick count depends on the size.
     const int line = metrics.height();
-    const int top = line / 2 + kGap;
+    int top = line / 2 + kGap;
+    if (m_legendAbove) {
+        const std::vector<QRectF> legend = legendRows(metrics, target);
+        if (!legend.empty())
+            top = static_cast<int>(std::ceil(legend.back().bottom())) - target.top() + kGap * 2;
+    }
     const int bottom = line + kGap + (m_xTitle.isEmpty() ? 0 : line + kGap);
     const int plotHeight = std::max(1, target.height() - top - bottom);
     if (m_fitX) {
@@ -238,8 +255,12 @@ void PlotWidget::layoutArea(const QRect& target, const QFontMetrics& metrics) co
     for (const double value : yTicks.values())
         labelWidth = std::max(labelWidth, metrics.horizontalAdvance(yTicks.label(value)));
     const int left = labelWidth + kGap * 2 + (m_yTitle.isEmpty() ? 0 : line + kGap);
-    // Room on the right for half of the last time label.
-    const int right = metrics.horizontalAdvance(QStringLiteral("00000")) / 2 + kGap;
+    // Room on the right for half of the last time label, or for the value scales there.
+    int right = metrics.horizontalAdvance(QStringLiteral("00000")) / 2 + kGap;
+    int scales = 0;
+    for (const ValueAxis& axis : m_rightAxes)
+        scales += rightAxisWidth(axis, metrics, plotHeight);
+    right = std::max(right, scales + kGap);
     m_area = QRectF(target.left() + left, target.top() + top,
                     std::max(1, target.width() - left - right), plotHeight);
 }
@@ -261,7 +282,8 @@ void PlotWidget::paintPlot(QPainter& painter, const QRect& target) const
     if (m_overlay)
         m_overlay(painter, *this);
     painter.setClipRect(target);
-    drawLegend(painter, metrics);
+    drawRightAxes(painter, metrics);
+    drawLegend(painter, metrics, target);
     painter.restore();
 }
 
@@ -387,8 +409,97 @@ void PlotWidget::drawSeries(QPainter& painter, const Series& series) const
     painter.drawPolyline(m_line);
 }
 
-void PlotWidget::drawLegend(QPainter& painter, const QFontMetrics& metrics) const
+int PlotWidget::rightAxisWidth(const ValueAxis& axis, const QFontMetrics& metrics,
+                               int plotHeight) const
 {
+    const PlotTicks ticks = PlotTicks::forRange(axis.low, axis.high, plotHeight / kPixelsPerYTick);
+    int labelWidth = 0;
+    for (const double value : ticks.values())
+        labelWidth = std::max(labelWidth, metrics.horizontalAdvance(ticks.label(value)));
+    return kGap * 3 + labelWidth + (axis.title.isEmpty() ? 0 : metrics.height() + kGap);
+}
+
+void PlotWidget::drawRightAxes(QPainter& painter, const QFontMetrics& metrics) const
+{
+    const int line = metrics.height();
+    const auto plotHeight = static_cast<int>(m_area.height());
+    double x = m_area.right();
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    for (const ValueAxis& axis : m_rightAxes) {
+        if (!(axis.high > axis.low))
+            continue;
+        const int width = rightAxisWidth(axis, metrics, plotHeight);
+        painter.setPen(kFrameColour);
+        painter.drawLine(QPointF(x, m_area.top()), QPointF(x, m_area.bottom()));
+        const PlotTicks ticks =
+            PlotTicks::forRange(axis.low, axis.high, plotHeight / kPixelsPerYTick);
+        for (const double value : ticks.values()) {
+            if (value < axis.low || value > axis.high)
+                continue;
+            const double y = std::round(m_area.bottom() - (value - axis.low) * m_area.height() /
+                                                              (axis.high - axis.low));
+            painter.setPen(kFrameColour);
+            painter.drawLine(QPointF(x, y), QPointF(x + kGap, y));
+            painter.setPen(palette().color(QPalette::Text));
+            painter.drawText(QRectF(x + kGap * 2, y - line / 2.0, width, line),
+                             Qt::AlignLeft | Qt::AlignVCenter, ticks.label(value));
+        }
+        if (!axis.title.isEmpty()) {
+            painter.save();
+            painter.translate(x + width - kGap, m_area.center().y());
+            painter.rotate(90);
+            painter.drawText(
+                QRectF(-m_area.height() / 2, 0, m_area.height(), line),
+                Qt::AlignHCenter | Qt::AlignTop,
+                metrics.elidedText(axis.title, Qt::ElideRight, static_cast<int>(m_area.height())));
+            painter.restore();
+        }
+        x += width;
+    }
+}
+
+std::vector<QRectF> PlotWidget::legendRows(const QFontMetrics& metrics, const QRect& target) const
+{
+    std::vector<QRectF> boxes;
+    const int line = metrics.height();
+    const double left = target.left() + kGap;
+    const double right = target.right() - kGap;
+    double x = left;
+    double y = target.top() + kGap;
+    for (const Series& series : m_series) {
+        if (!series.visible || series.name.isEmpty())
+            continue;
+        const double width = line + kGap * 4 + metrics.horizontalAdvance(series.name);
+        if (x > left && x + width > right) {
+            x = left;
+            y += line;
+        }
+        boxes.emplace_back(x, y, width, line);
+        x += width;
+    }
+    return boxes;
+}
+
+void PlotWidget::drawLegend(QPainter& painter, const QFontMetrics& metrics,
+                            const QRect& target) const
+{
+    if (m_legendAbove) {
+        const std::vector<QRectF> boxes = legendRows(metrics, target);
+        const int swatch = metrics.height();
+        size_t next = 0;
+        for (const Series& series : m_series) {
+            if (!series.visible || series.name.isEmpty() || next >= boxes.size())
+                continue;
+            const QRectF& box = boxes[next++];
+            painter.setPen(QPen(series.colour, 2.0));
+            const double middle = box.center().y();
+            painter.drawLine(QPointF(box.left(), middle), QPointF(box.left() + swatch, middle));
+            painter.setPen(palette().color(QPalette::Text));
+            painter.drawText(box.adjusted(swatch + kGap, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
+                             series.name);
+        }
+        return;
+    }
     int width = 0;
     int rows = 0;
     for (const Series& series : m_series) {

@@ -36,6 +36,20 @@ public:
     // A series on its own value range (not labelled), instead of the shared left axis.
     void setSeriesYRange(int index, double low, double high);
 
+    // Labelled value scales right of the plot, the first next to it; a series drawn against
+    // one is given the same range with setSeriesYRange.
+    struct ValueAxis
+    {
+        double low = 0.0;
+        double high = 1.0;
+        QString title;
+    };
+    void setRightAxes(std::vector<ValueAxis> axes);
+    const std::vector<ValueAxis>& rightAxes() const { return m_rightAxes; }
+    // The legend in rows above the plot instead of over its top right corner, so it never
+    // covers a trace.
+    void setLegendAbove(bool above);
+
     // Shared value axis: fixed, or fitted to the series on it (rounded to whole ticks).
     void setYRange(double low, double high);
     void fitY();
@@ -89,7 +103,11 @@ private:
     void layoutArea(const QRect& target, const QFontMetrics& metrics) const;
     void drawGrid(QPainter& painter, const QFontMetrics& metrics, const QRect& target) const;
     void drawSeries(QPainter& painter, const Series& series) const;
-    void drawLegend(QPainter& painter, const QFontMetrics& metrics) const;
+    void drawLegend(QPainter& painter, const QFontMetrics& metrics, const QRect& target) const;
+    void drawRightAxes(QPainter& painter, const QFontMetrics& metrics) const;
+    int rightAxisWidth(const ValueAxis& axis, const QFontMetrics& metrics, int plotHeight) const;
+    // Each named series' place in a legend above the plot, in rows that fit the width.
+    std::vector<QRectF> legendRows(const QFontMetrics& metrics, const QRect& target) const;
 
     std::vector<Series> m_series;
     bool m_fitX = true;
@@ -99,6 +117,8 @@ private:
     mutable double m_yLow = 0.0, m_yHigh = 1.0;
     QString m_xTitle;
     QString m_yTitle;
+    std::vector<ValueAxis> m_rightAxes;
+    bool m_legendAbove = false;
     Overlay m_overlay;
     mutable QRectF m_area;
     mutable QPolygonF m_line; // reused between paints

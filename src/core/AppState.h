@@ -25,4 +25,11 @@ struct AppState
     {
         return QString::fromStdString(registry.modelName(active.family, card));
     }
+    // A card as titles and notes name it: "NRX-RL416V(0)".
+    QString cardName(BoardFamily family, int card) const
+    {
+        return QStringLiteral("%1(%2)")
+            .arg(QString::fromStdString(registry.modelName(family, card)))
+            .arg(card);
+    }
 };

@@ -21,6 +21,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QSignalBlocker>
+#include <QStringList>
 
 namespace {
 constexpr const char* kNotChecked = QT_TRANSLATE_NOOP(
@@ -222,6 +223,13 @@ void COV_MnMtnWnd::setParametersOn(const MotionAxes& checked, MotionType type)
     }
     writeProfiles(written, type);
     m_context.frame.sendToFrame(UM_PARAM_CHANGED, checked.card);
+    QStringList axes;
+    for (AxisNo axis : written.axes)
+        axes << QString::number(axis);
+    m_context.frame.showNote(
+        tr("Wrote the motion parameters of %1 axis %2 to the board (not saved yet)")
+            .arg(m_context.state.cardName(checked.family, checked.card),
+                 axes.join(QStringLiteral(", "))));
 }
 
 void COV_MnMtnWnd::applyPositions()

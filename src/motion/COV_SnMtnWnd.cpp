@@ -165,6 +165,11 @@ void COV_SnMtnWnd::promptForVisiblePage(BoardFamily family)
     else
         m_ptpPage->setParameters(family);
     m_context.frame.sendToFrame(UM_PARAM_CHANGED, m_card);
+    m_context.frame.showNote(
+        tr("Wrote the %1 parameters of %2 axis %3 to the board (not saved yet)")
+            .arg(m_currentTab == MotionTab::Home ? tr("home") : tr("motion"))
+            .arg(m_context.state.cardName(family, m_card))
+            .arg(m_axis));
 }
 
 void COV_SnMtnWnd::onTabChanged(int index)

@@ -2,6 +2,7 @@
 
 #include "AppState.h"
 #include "FileDialogPlace.h"
+#include "FrameRelay.h"
 #include "NamedButton.h"
 #include "PlotNavigator.h"
 #include "PlotTicks.h"
@@ -11,11 +12,14 @@
 #include "ScopeChannelTable.h"
 #include "ScopeCsv.h"
 #include "ScopeReadout.h"
+#include "ScopeScales.h"
 #include "ScopeSetup.h"
+#include "ScopeTriggerControls.h"
 #include "ScopeUnits.h"
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -45,16 +49,6 @@ QComboBox* makeCombo(const char* name, const QString& tip)
     return combo;
 }
 
-// Rounded limits around a column's values, for a channel scaled on its own.
-std::pair<double, double> fittedRange(const std::vector<double>& values)
-{
-    if (values.empty())
-        return {0.0, 1.0};
-    const auto [low, high] = std::minmax_element(values.begin(), values.end());
-    const PlotTicks ticks = PlotTicks::forRange(*low, *high, 5);
-    return {ticks.roundedLow(), ticks.roundedHigh()};
-}
-
 } // namespace
 
 COV_ScopeWnd::COV_ScopeWnd(const ToolContext& context, QWidget* parent)
@@ -67,6 +61,7 @@ COV_ScopeWnd::COV_ScopeWnd(const ToolContext& context, QWidget* parent)
 
     m_channels = new ScopeChannelTable(context.state.registry);
     m_plot = new PlotWidget;
+    m_plot->setLegendAbove(true);
     m_plot->setObjectName(QStringLiteral("scopePlot"));
     m_plot->setAxisTitles(tr("Time [ms]"), QString());
     m_plot->setToolTip(tr("Wheel: zoom; drag: pan; right or Shift drag: zoom to a "
@@ -121,8 +116,13 @@ QSize COV_ScopeWnd::sizeHint() const
 QWidget* COV_ScopeWnd::createSettingsRow()
 {
     auto* row = new QWidget;
-    auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
+    auto* rows = new QVBoxLayout(row);
+    rows->setContentsMargins(0, 0, 0, 0);
+    auto* layout = new QHBoxLayout;
+    // The trigger has a line of its own, so the window stays narrow enough for small screens.
+    auto* triggerLine = new QHBoxLayout;
+    rows->addLayout(layout);
+    rows->addLayout(triggerLine);
     m_period = makeCombo("period", tr("Time between two samples"));
     for (const int ms : kPeriods)
         m_period->addItem(tr("%1 ms").arg(ms), ms);
@@ -131,13 +131,7 @@ QWidget* COV_ScopeWnd::createSettingsRow()
     for (const int seconds : kLengthsS)
         m_length->addItem(tr("%1 s").arg(seconds), seconds * 1000);
     m_length->setCurrentIndex(kDefaultLength);
-    m_trigger = makeCombo("trigger", tr("Free Run records at once; Axis Starts "
-                                        "waits for the trigger channel's axis "
-                                        "to start moving and keeps 10 % before"));
-    m_trigger->addItems({tr("Free Run"), tr("Axis Starts")});
-    m_triggerChannel = makeCombo("triggerChannel", tr("Channel whose axis triggers"));
-    for (int i = 1; i <= ScopeRecorder::kChannels; ++i)
-        m_triggerChannel->addItem(tr("Ch %1").arg(i));
+    m_trigger = new ScopeTriggerControls;
     m_repeat = new QCheckBox(tr("Repeat"));
     m_repeat->setObjectName(QStringLiteral("repeat"));
     m_repeat->setToolTip(tr("Re-arm after each capture instead of one single shot"));
@@ -151,14 +145,13 @@ QWidget* COV_ScopeWnd::createSettingsRow()
     layout->addWidget(m_period);
     layout->addWidget(new QLabel(tr("Length")));
     layout->addWidget(m_length);
-    layout->addWidget(new QLabel(tr("Trigger")));
-    layout->addWidget(m_trigger);
-    layout->addWidget(m_triggerChannel);
-    layout->addWidget(m_repeat);
     layout->addWidget(m_run);
     layout->addWidget(m_stop);
     layout->addWidget(m_clear);
     layout->addStretch(1);
+    triggerLine->addWidget(m_trigger);
+    triggerLine->addWidget(m_repeat);
+    triggerLine->addStretch(1);
     return row;
 }
 
@@ -195,7 +188,13 @@ void COV_ScopeWnd::connectControls()
     connect(m_navigator, &PlotNavigator::cursorsChanged, this, [this] { onCursorsChanged(); });
     connect(m_channels, &ScopeChannelTable::channelsChanged, this, [this] { applySettings(); });
     connect(m_channels, &ScopeChannelTable::scalesChanged, this, [this] { refreshPlot(); });
-    connect(m_trigger, &QComboBox::currentIndexChanged, this, [this] { updateControls(); });
+    connect(m_trigger, &ScopeTriggerControls::modeChanged, this, [this] { updateControls(); });
+    connect(m_trigger, &ScopeTriggerControls::levelChanged, this, [this] { m_plot->update(); });
+    connect(m_navigator, &PlotNavigator::levelDragged, this, [this](double level) {
+        const int column = triggerColumn();
+        if (column >= 0)
+            m_trigger->setLevel(level, std::max(0, m_shown.columns[size_t(column)].decimals));
+    });
     connect(m_exportCsv, &QPushButton::clicked, this, [this] {
         const QString path = askFile(QStringLiteral("ScopeCsv"), tr("Export CSV"),
                                      tr("CSV files (*.csv)"), QStringLiteral("csv"));
@@ -269,8 +268,12 @@ void COV_ScopeWnd::restoreSetup(const QVariantMap& setup)
         if (const int index = combo->findData(value); index >= 0)
             combo->setCurrentIndex(index);
     }
-    m_trigger->setCurrentIndex(settings.trigger == ScopeRecorder::Trigger::AxisStarts ? 1 : 0);
-    m_triggerChannel->setCurrentIndex(settings.triggerChannel);
+    m_trigger->setTrigger(settings.trigger, settings.triggerChannel, settings.edge);
+    // The setup keeps the level in pulses; the field shows it as the channel is plotted.
+    const int column = triggerColumn();
+    m_trigger->setLevel(settings.level /
+                            pulsesPerShownUnit(m_channels->channel(settings.triggerChannel)),
+                        column >= 0 ? std::max(0, m_shown.columns[size_t(column)].decimals) : 3);
     m_repeat->setChecked(settings.repeat);
     applySettings();
     updateControls();
@@ -289,9 +292,12 @@ ScopeRecorder::Settings COV_ScopeWnd::shownSettings() const
     ScopeRecorder::Settings settings;
     settings.periodMs = m_period->currentData().toInt();
     settings.lengthMs = m_length->currentData().toInt();
-    settings.trigger = m_trigger->currentIndex() == 1 ? ScopeRecorder::Trigger::AxisStarts
-                                                      : ScopeRecorder::Trigger::FreeRun;
-    settings.triggerChannel = m_triggerChannel->currentIndex();
+    settings.trigger = m_trigger->mode();
+    settings.triggerChannel = m_trigger->channel();
+    settings.edge = m_trigger->edge();
+    // The level is typed as the channel is plotted; the recorder compares pulses.
+    settings.level =
+        m_trigger->level() * pulsesPerShownUnit(m_channels->channel(m_trigger->channel()));
     settings.repeat = m_repeat->isChecked();
     return settings;
 }
@@ -301,11 +307,10 @@ void COV_ScopeWnd::updateControls()
     const bool running = m_recorder.state() != ScopeRecorder::State::Stopped;
     // What is read and how cannot change under a running record.
     for (QWidget* widget :
-         std::initializer_list<QWidget*>{m_channels, m_period, m_length, m_trigger,
-                                         m_triggerChannel, m_repeat, m_run, m_openCsv})
+         std::initializer_list<QWidget*>{m_channels, m_period, m_length, m_run, m_openCsv})
         widget->setEnabled(!running);
-    m_triggerChannel->setEnabled(!running && m_trigger->currentIndex() == 1);
-    m_repeat->setEnabled(!running && m_trigger->currentIndex() == 1);
+    m_trigger->setRunning(running);
+    m_repeat->setEnabled(!running && m_trigger->mode() != ScopeRecorder::Trigger::FreeRun);
     m_stop->setEnabled(running);
     QString status = tr("Stopped");
     if (m_recorder.state() == ScopeRecorder::State::Armed)
@@ -402,39 +407,62 @@ void COV_ScopeWnd::predictSpeeds()
 void COV_ScopeWnd::updateSeries()
 {
     m_plot->clearSeries();
-    QString leftTitle;
-    for (size_t c = 0; c < m_shown.columns.size(); ++c) {
-        const ScopeRecording::Column& column = m_shown.columns[c];
-        const int index = static_cast<int>(c);
-        const int channel = column.channel >= 0 ? column.channel : index;
-        QVector<QPointF> points;
-        points.reserve(static_cast<int>(column.values.size()));
-        for (size_t i = 0; i < column.values.size(); ++i)
-            points.append(QPointF(m_shown.times[i], column.values[i]));
+    std::vector<ScopeScales::FixedRange> fixed;
+    for (const ScopeRecording::Column& column : m_shown.columns) {
         const ScopeChannelTable::Scale scale =
             column.channel >= 0 ? m_channels->scale(column.channel) : ScopeChannelTable::Scale{};
-        QString name = QStringLiteral("%1 [%2]").arg(column.name, column.unit);
-        if (c == 0) {
-            // The first column owns the labelled axis.
-            leftTitle = name;
-            if (scale.automatic)
-                m_plot->fitY();
-            else
-                m_plot->setYRange(scale.low, scale.high);
-        } else {
-            const auto [low, high] =
-                scale.automatic ? fittedRange(column.values) : std::pair{scale.low, scale.high};
-            m_plot->setSeriesYRange(index, low, high);
-            name += QStringLiteral("  %1 .. %2").arg(low).arg(high);
+        fixed.push_back(scale.automatic ? ScopeScales::FixedRange{}
+                                        : std::pair{scale.low, scale.high});
+    }
+    // One scale per kind and unit: the first on the left, the others on the right.
+    const std::vector<ScopeScales::Scale> scales = ScopeScales::group(m_shown, fixed);
+    std::vector<PlotWidget::ValueAxis> rightAxes;
+    for (size_t s = 0; s < scales.size(); ++s) {
+        const ScopeScales::Scale& scale = scales[s];
+        if (s == 0 && scale.automatic)
+            m_plot->fitY();
+        else if (s == 0)
+            m_plot->setYRange(scale.low, scale.high);
+        else
+            rightAxes.push_back({scale.low, scale.high, scale.title});
+        for (const int index : scale.columns) {
+            const ScopeRecording::Column& column = m_shown.columns[static_cast<size_t>(index)];
+            const int channel = column.channel >= 0 ? column.channel : index;
+            QVector<QPointF> points;
+            points.reserve(static_cast<int>(column.values.size()));
+            for (size_t i = 0; i < column.values.size(); ++i)
+                points.append(QPointF(m_shown.times[i], column.values[i]));
+            if (s > 0)
+                m_plot->setSeriesYRange(index, scale.low, scale.high);
+            m_plot->setSeries(index, std::move(points), ScopeChannelTable::colour(channel),
+                              QStringLiteral("%1 [%2]").arg(column.name, column.unit));
         }
-        m_plot->setSeries(index, std::move(points), ScopeChannelTable::colour(channel), name);
     }
     if (std::any_of(m_predicted.begin(), m_predicted.end(),
                     [](const QVector<QPointF>& curve) { return !curve.isEmpty(); }))
         // A series without points only names the overlay in the legend.
         m_plot->setSeries(static_cast<int>(m_shown.columns.size()), {}, kPredictedColour,
                           tr("Predicted by the speed calculator"));
-    m_plot->setAxisTitles(tr("Time [ms]"), leftTitle);
+    m_plot->setRightAxes(std::move(rightAxes));
+    m_plot->setAxisTitles(tr("Time [ms]"), scales.empty() ? QString() : scales.front().title);
+}
+
+double COV_ScopeWnd::pulsesPerShownUnit(const ScopeChannel& channel) const
+{
+    const AxisUnitScale scale =
+        m_context.state.units.shownScale(channel.family, channel.card, channel.axis);
+    return scale.isSet() ? scale.pulsesPerUnit() : 1.0;
+}
+
+int COV_ScopeWnd::triggerColumn() const
+{
+    if (m_trigger->mode() != ScopeRecorder::Trigger::Level)
+        return -1;
+    for (size_t c = 0; c < m_shown.columns.size(); ++c) {
+        if (m_shown.columns[c].channel == m_trigger->channel())
+            return static_cast<int>(c);
+    }
+    return -1;
 }
 
 void COV_ScopeWnd::updateXRange()
@@ -487,14 +515,30 @@ void COV_ScopeWnd::drawOverlay(QPainter& painter, const PlotWidget& plot) const
         painter.setPen(pen);
         painter.drawPolyline(line);
     }
+    // The trigger level across the plot, in its channel's scale; while the trigger can still
+    // change, a drag moves it.
+    const int column = triggerColumn();
+    const bool settable = m_recorder.state() == ScopeRecorder::State::Stopped;
+    m_navigator->setLevelLine(settable ? column : -1, m_trigger->level());
+    if (column >= 0) {
+        const double y = plot.yToPixel(column, m_trigger->level());
+        QPen pen(ScopeChannelTable::colour(m_shown.columns[size_t(column)].channel), 1.0);
+        pen.setStyle(Qt::DashDotLine);
+        pen.setCosmetic(true);
+        painter.setPen(pen);
+        painter.drawLine(QPointF(plot.plotArea().left(), y), QPointF(plot.plotArea().right(), y));
+        painter.drawText(QPointF(plot.plotArea().left() + 4, y - 3), tr("Trigger"));
+    }
     m_navigator->paintCursors(painter, plot);
 }
 
 bool COV_ScopeWnd::exportCsv(const QString& path)
 {
     QString error;
-    if (ScopeCsv::write(m_shown, path, &error))
+    if (ScopeCsv::write(m_shown, path, &error)) {
+        m_context.frame.showNote(tr("Saved the record to %1").arg(QDir::toNativeSeparators(path)));
         return true;
+    }
     m_context.prompt.inform(tr("Can not write %1:\n%2").arg(path, error));
     return false;
 }
@@ -518,8 +562,10 @@ bool COV_ScopeWnd::openCsv(const QString& path)
 
 bool COV_ScopeWnd::savePng(const QString& path)
 {
-    if (m_plot->grab().save(path, "PNG"))
+    if (m_plot->grab().save(path, "PNG")) {
+        m_context.frame.showNote(tr("Saved the plot to %1").arg(QDir::toNativeSeparators(path)));
         return true;
+    }
     m_context.prompt.inform(tr("Can not write %1.").arg(path));
     return false;
 }

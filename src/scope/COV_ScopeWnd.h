@@ -21,6 +21,7 @@ class QPushButton;
 class QTimer;
 class ScopeChannelTable;
 class ScopeReadout;
+class ScopeTriggerControls;
 
 // The scope tool window: records up to four axis signals at 1 to 10 ms on a precise timer,
 // with a trigger on an axis starting to move, cursors, zoom, the predicted speed profile over
@@ -84,6 +85,10 @@ private:
     QString askFile(const QString& dialog, const QString& title, const QString& filter,
                     const QString& saveSuffix);
     double now() const { return m_clock(); }
+    // Pulses in one unit of the channel as it is plotted: 1 while it is plotted in pulses.
+    double pulsesPerShownUnit(const ScopeChannel& channel) const;
+    // The shown column of the trigger channel, or -1.
+    int triggerColumn() const;
 
     ToolContext m_context;
     ScopeRecorder m_recorder;
@@ -101,8 +106,7 @@ private:
     ScopeChannelTable* m_channels = nullptr;
     QComboBox* m_period = nullptr;
     QComboBox* m_length = nullptr;
-    QComboBox* m_trigger = nullptr;
-    QComboBox* m_triggerChannel = nullptr;
+    ScopeTriggerControls* m_trigger = nullptr;
     QCheckBox* m_repeat = nullptr;
     QPushButton* m_run = nullptr;
     QPushButton* m_stop = nullptr;

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -55,6 +56,7 @@ void ScopeRecorder::arm()
     m_ring.clear();
     m_triggered = false;
     m_sawStandstill = false;
+    m_hasPrevious = false;
     m_state = State::Armed;
 }
 
@@ -104,6 +106,47 @@ bool ScopeRecorder::triggerAxisMoving(const ScopeRing::Frame& frame)
                                    static_cast<AxisNo>(source.axis)) != 0;
 }
 
+bool ScopeRecorder::levelCrossed(const ScopeRing::Frame& frame)
+{
+    const int index = std::clamp(m_running.triggerChannel, 0, kChannels - 1);
+    const ScopeChannel& source = m_recorded[static_cast<size_t>(index)];
+    // A channel that is not recorded is still read for the trigger.
+    const double value =
+        source.enabled ? frame.values[static_cast<size_t>(index)] : readSignal(source);
+    const double level = m_running.level;
+    const bool had = std::exchange(m_hasPrevious, true);
+    const double previous = std::exchange(m_previous, value);
+    if (!had)
+        return false;
+    // Reaching the level counts, so a signal that stops on it still triggers once.
+    const bool rising = previous < level && value >= level;
+    const bool falling = previous > level && value <= level;
+    switch (m_running.edge) {
+    case Edge::Rising:
+        return rising;
+    case Edge::Falling:
+        return falling;
+    case Edge::Either:
+        return rising || falling;
+    }
+    return false;
+}
+
+void ScopeRecorder::trigger(double nowMs)
+{
+    m_triggered = true;
+    m_triggerMs = nowMs;
+    m_state = State::Recording;
+    // The settings in effect at the trigger, for the predicted profile.
+    for (size_t c = 0; c < m_recorded.size(); ++c) {
+        const ScopeChannel& channel = m_recorded[c];
+        if (channel.enabled && channel.signal == ScopeChannel::CommandSpeed)
+            m_speedSettings[c] = PredictedSpeedProfile::readSettings(
+                m_board, channel.family, static_cast<CardNo>(channel.card),
+                static_cast<AxisNo>(channel.axis));
+    }
+}
+
 void ScopeRecorder::sample(double nowMs)
 {
     if (m_state == State::Stopped)
@@ -117,21 +160,15 @@ void ScopeRecorder::sample(double nowMs)
     m_ring.push(frame);
     ++m_revision;
     const double length = m_running.lengthMs;
+    if (m_state == State::Armed && m_running.trigger == Trigger::Level) {
+        if (levelCrossed(frame))
+            trigger(nowMs);
+        return;
+    }
     if (m_state == State::Armed) {
         const bool moving = triggerAxisMoving(frame);
-        if (moving && m_sawStandstill) {
-            m_triggered = true;
-            m_triggerMs = nowMs;
-            m_state = State::Recording;
-            // The settings in effect when the move started, for the predicted profile.
-            for (size_t c = 0; c < m_recorded.size(); ++c) {
-                const ScopeChannel& channel = m_recorded[c];
-                if (channel.enabled && channel.signal == ScopeChannel::CommandSpeed)
-                    m_speedSettings[c] = PredictedSpeedProfile::readSettings(
-                        m_board, channel.family, static_cast<CardNo>(channel.card),
-                        static_cast<AxisNo>(channel.axis));
-            }
-        }
+        if (moving && m_sawStandstill)
+            trigger(nowMs);
         m_sawStandstill = m_sawStandstill || !moving;
         return;
     }

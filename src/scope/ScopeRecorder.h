@@ -11,7 +11,8 @@
 class BoardApi;
 
 // The scope's acquisition without a window: reads the enabled channels from the boards at each
-// sample, keeps them in a ring, waits for the trigger axis to start moving, and hands out
+// sample, keeps them in a ring, waits for the trigger axis to start moving or the trigger
+// channel to cross a level, and hands out
 // what is to be shown. The caller owns the clock and calls sample() once per period.
 class ScopeRecorder
 {
@@ -22,12 +23,19 @@ public:
     enum class Trigger
     {
         FreeRun,
-        AxisStarts
+        AxisStarts,
+        Level // the trigger channel's value crosses the level in the chosen direction
+    };
+    enum class Edge
+    {
+        Rising,
+        Falling,
+        Either
     };
     enum class State
     {
         Stopped,
-        Armed,    // waiting for the trigger axis to start
+        Armed,    // waiting for the trigger axis to start or the level to be crossed
         Recording // free run, or after the trigger until the window is full
     };
     struct Settings
@@ -36,6 +44,8 @@ public:
         int lengthMs = 10000;
         Trigger trigger = Trigger::FreeRun;
         int triggerChannel = 0;
+        Edge edge = Edge::Rising;
+        double level = 0.0; // in the channel's pulses (pps for a speed)
         bool repeat = false;
     };
 
@@ -67,6 +77,8 @@ public:
 private:
     void arm();
     bool triggerAxisMoving(const ScopeRing::Frame& frame);
+    bool levelCrossed(const ScopeRing::Frame& frame);
+    void trigger(double nowMs);
     double readSignal(const ScopeChannel& channel) const;
     void finishCapture();
 
@@ -81,6 +93,8 @@ private:
     double m_triggerMs = 0.0;
     bool m_triggered = false;
     bool m_sawStandstill = false;
+    bool m_hasPrevious = false; // a level trigger's last value, for the crossing
+    double m_previous = 0.0;
     std::array<ActualSpeedCalculator::Request, kChannels> m_speedSettings{};
     ScopeRecording m_capture;
     bool m_hasCapture = false;

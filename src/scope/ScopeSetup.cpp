@@ -17,6 +17,8 @@ QVariantMap ScopeSetup::toMap(const Channels& channels, const ScopeRecorder::Set
             {QStringLiteral("lengthMs"), settings.lengthMs},
             {QStringLiteral("trigger"), int(settings.trigger)},
             {QStringLiteral("triggerChannel"), settings.triggerChannel},
+            {QStringLiteral("edge"), int(settings.edge)},
+            {QStringLiteral("level"), settings.level},
             {QStringLiteral("repeat"), settings.repeat}};
 }
 
@@ -41,9 +43,13 @@ void ScopeSetup::fromMap(const QVariantMap& map, Channels& channels,
     settings.periodMs = map.value(QStringLiteral("periodMs"), settings.periodMs).toInt();
     settings.lengthMs = map.value(QStringLiteral("lengthMs"), settings.lengthMs).toInt();
     const int trigger = map.value(QStringLiteral("trigger"), int(settings.trigger)).toInt();
-    if (trigger == int(ScopeRecorder::Trigger::FreeRun) ||
-        trigger == int(ScopeRecorder::Trigger::AxisStarts))
+    if (trigger >= int(ScopeRecorder::Trigger::FreeRun) &&
+        trigger <= int(ScopeRecorder::Trigger::Level))
         settings.trigger = ScopeRecorder::Trigger(trigger);
+    const int edge = map.value(QStringLiteral("edge"), int(settings.edge)).toInt();
+    if (edge >= int(ScopeRecorder::Edge::Rising) && edge <= int(ScopeRecorder::Edge::Either))
+        settings.edge = ScopeRecorder::Edge(edge);
+    settings.level = map.value(QStringLiteral("level"), settings.level).toDouble();
     const int channel = map.value(QStringLiteral("triggerChannel"), 0).toInt();
     if (channel >= 0 && channel < ScopeRecorder::kChannels)
         settings.triggerChannel = channel;

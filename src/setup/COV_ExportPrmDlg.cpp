@@ -3,6 +3,7 @@
 #include "AppState.h"
 #include "DialogFlags.h"
 #include "FileDialogPlace.h"
+#include "FrameRelay.h"
 #include "OrvaneLog.h"
 #include "ParameterSourceBox.h"
 #include "ParameterText.h"
@@ -102,5 +103,9 @@ bool COV_ExportPrmDlg::exportFile()
     }
     m_context.prompt.notify(
         tr("The parameters of %1 card(s) were exported to %2.").arg(set.cards.size()).arg(path));
+    QStringList cards;
+    for (const auto& card : set.cards)
+        cards << m_context.state.cardName(card.family, card.card);
+    m_context.frame.showNote(tr("Exported %1 to %2").arg(cards.join(QStringLiteral(", ")), path));
     return true;
 }

@@ -71,7 +71,7 @@ QString COV_FilterSetWnd::externalCaption(BoardFamily family, AxisNo axis)
     return axis == 0 ? tr("Enable\n(with SYNC)") : tr("Enable\n");
 }
 
-void COV_FilterSetWnd::Load(BoardFamily family)
+void COV_FilterSetWnd::loadShown(BoardFamily family)
 {
     m_stopRow->setVisible(family == BoardFamily::RN);
     const PageParameters board = boardValues(family);

@@ -14,7 +14,7 @@ class COV_FilterSetWnd : public ParameterSetupPage
 public:
     explicit COV_FilterSetWnd(BoardApi& board, QWidget* parent = nullptr);
 
-    void Load(BoardFamily family) override;
+    void loadShown(BoardFamily family) override;
 
     // On axis 0 the sensor filter also covers the card's EMG input and, on RN, the external
     // filter the SYNC input.

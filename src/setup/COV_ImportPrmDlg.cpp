@@ -14,6 +14,7 @@
 
 #include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -187,7 +188,9 @@ bool COV_ImportPrmDlg::writeToBoards()
     const auto touched = m_import->apply();
     qCInfo(lcParams).noquote() << "Import of" << m_import->changes().size() << "change(s) from"
                                << m_file->text() << "written to" << touched.size() << "card(s)";
+    QStringList cards;
     for (const auto& [family, card] : touched) {
+        cards << state.cardName(family, card);
         // The frame marks the active family's cards; the others are marked here the same way.
         if (family == state.active.family)
             m_context.frame.sendToFrame(UM_PARAM_CHANGED, card);
@@ -198,6 +201,9 @@ bool COV_ImportPrmDlg::writeToBoards()
         writeUnits();
     for (ToolKind kind : {ToolParameter, ToolSingleAxis, ToolMultiAxis, ToolDigitalIo})
         m_context.frame.sendToFrame(UM_VIEW_COMMAND, kind);
+    m_context.frame.showNote(
+        tr("Wrote the parameters of %1 to %2 (not saved yet)")
+            .arg(QFileInfo(m_file->text()).fileName(), cards.join(QStringLiteral(", "))));
     if (!m_import->refused().isEmpty())
         m_context.prompt.inform(tr("The boards refused %1 write(s); these values were not "
                                    "written:\n%2")

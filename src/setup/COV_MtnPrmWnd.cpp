@@ -130,7 +130,7 @@ QWidget* COV_MtnPrmWnd::createLimitGroup(const QString& title, const Names& name
     return box;
 }
 
-void COV_MtnPrmWnd::Load(BoardFamily family)
+void COV_MtnPrmWnd::loadShown(BoardFamily family)
 {
     m_family = family;
     const PageParameters board = boardValues(family);

@@ -18,7 +18,7 @@ class COV_MtnPrmWnd : public ParameterSetupPage
 public:
     COV_MtnPrmWnd(BoardApi& board, PromptService& prompt, QWidget* parent = nullptr);
 
-    void Load(BoardFamily family) override;
+    void loadShown(BoardFamily family) override;
 
 protected:
     PageParameters shown(BoardFamily family) override;

@@ -105,6 +105,7 @@ QWidget* COV_PrmSuWnd::createButtonColumn()
         qCInfo(lcParams) << "Set Prm" << familyShortName(m_context.state.active.family) << "card"
                          << m_card << "axis" << m_axis << "page" << m_page;
         m_context.frame.sendToFrame(UM_PARAM_CHANGED, m_card);
+        noteWritten(m_context.state.active.family);
     });
     connect(copy, &QPushButton::clicked, this, [this] { onCopyClicked(); });
     connect(reset, &QPushButton::clicked, this, [this] { onDefaultClicked(); });
@@ -141,9 +142,10 @@ bool COV_PrmSuWnd::leaveCheck(BoardFamily family)
     ParameterSetupPage* page = m_pages[std::size_t(m_page)];
     if (!page->IsChanged(family))
         return false;
-    if (!m_context.prompt.askYesNo(PromptTexts::parametersChanged()))
+    if (!m_context.prompt.askYesNo(leaveQuestion(family)))
         return true;
     page->Apply(family);
+    noteWritten(family);
     // The frame marks the active family's card; after a controller change the written card
     // is the previous family's, so it is marked here.
     if (family == m_context.state.active.family)
@@ -151,6 +153,24 @@ bool COV_PrmSuWnd::leaveCheck(BoardFamily family)
     else
         m_context.state.registry.setParametersChanged(family, m_card, true);
     return false;
+}
+
+void COV_PrmSuWnd::noteWritten(BoardFamily family)
+{
+    m_context.frame.showNote(tr("Wrote \"%1\" of %2 axis %3 to the board (not saved yet)")
+                                 .arg(m_tabBar->tabText(m_page).remove(QLatin1Char('&')))
+                                 .arg(m_context.state.cardName(family, m_card))
+                                 .arg(m_axis));
+}
+
+QString COV_PrmSuWnd::leaveQuestion(BoardFamily family) const
+{
+    // Which card, axis and page the edits are on, above the question as it always reads.
+    return tr("%1, axis %2, \"%3\":")
+               .arg(m_context.state.cardName(family, m_card))
+               .arg(m_axis)
+               .arg(m_tabBar->tabText(m_page).remove(QLatin1Char('&'))) +
+           QLatin1Char('\n') + PromptTexts::parametersChanged();
 }
 
 void COV_PrmSuWnd::onTabChanged(int index)
@@ -261,11 +281,12 @@ bool COV_PrmSuWnd::settleBeforeExit()
     ParameterSetupPage* page = m_pages[std::size_t(m_page)];
     if (!page->IsChanged(family))
         return true;
-    switch (m_context.prompt.askYesNoCancel(PromptTexts::parametersChanged())) {
+    switch (m_context.prompt.askYesNoCancel(leaveQuestion(family))) {
     case PromptAnswer::Cancel:
         return false;
     case PromptAnswer::Yes:
         page->Apply(family);
+        noteWritten(family);
         m_context.frame.sendToFrame(UM_PARAM_CHANGED, m_card);
         return true;
     default:

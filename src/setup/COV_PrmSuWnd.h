@@ -39,6 +39,10 @@ private:
     void handPagesAxis();
     // Asks about unwritten edits of the shown page; true when the answer was No.
     bool leaveCheck(BoardFamily family);
+    // The leave-check question, naming the card, axis and page of the edits.
+    QString leaveQuestion(BoardFamily family) const;
+    // The status bar's word after a write of the shown page.
+    void noteWritten(BoardFamily family);
     void openCopyDialog();
 
     void onTabChanged(int index);

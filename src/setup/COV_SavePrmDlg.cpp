@@ -4,6 +4,7 @@
 #include "BoardApi.h"
 #include "CardTypeSelector.h"
 #include "DialogFlags.h"
+#include "FrameRelay.h"
 #include "OrvaneLog.h"
 #include "PromptService.h"
 
@@ -47,23 +48,33 @@ COV_SavePrmDlg::COV_SavePrmDlg(const ToolContext& context, QWidget* parent)
 void COV_SavePrmDlg::save()
 {
     QStringList refused;
+    QStringList saved;
     if (!m_allCards->isChecked()) {
-        saveCard(m_selector->family(), m_selector->card(), refused);
+        if (saveCard(m_selector->family(), m_selector->card(), refused))
+            saved << m_context.state.cardName(m_selector->family(), m_selector->card());
     } else {
         if (!m_context.prompt.askYesNo(
                 tr("Are you sure you want to save the parameter files of all the cards?")))
             return;
         for (BoardFamily family : kAllFamilies) {
-            for (int card = 0; card < m_context.state.registry.cardCount(family); ++card)
-                saveCard(family, card, refused);
+            for (int card = 0; card < m_context.state.registry.cardCount(family); ++card) {
+                if (saveCard(family, card, refused))
+                    saved << m_context.state.cardName(family, card);
+            }
         }
     }
+    // The board names no file, so the note says whose file was written.
+    if (!saved.isEmpty())
+        m_context.frame.showNote(
+            (saved.size() == 1 ? tr("Saved %1 to its parameter file")
+                               : tr("Saved %1 to their parameter files"))
+                .arg(saved.join(QStringLiteral(", "))));
     if (!refused.isEmpty())
         m_context.prompt.inform(
             tr("The parameter file was not saved:\n%1").arg(refused.join(QLatin1Char('\n'))));
 }
 
-void COV_SavePrmDlg::saveCard(BoardFamily family, int card, QStringList& refused)
+bool COV_SavePrmDlg::saveCard(BoardFamily family, int card, QStringList& refused)
 {
     const nrx_i32 result = m_context.board.SaveFile(family, static_cast<CardNo>(card));
     qCInfo(lcParams) << "Save Parameter" << familyShortName(family) << "card" << card << "returned"
@@ -75,7 +86,8 @@ void COV_SavePrmDlg::saveCard(BoardFamily family, int card, QStringList& refused
                            QString::fromStdString(m_context.state.registry.modelName(family, card)))
                        .arg(card)
                        .arg(result);
-        return;
+        return false;
     }
     m_context.state.registry.setParametersChanged(family, card, false);
+    return true;
 }

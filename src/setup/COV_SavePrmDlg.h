@@ -23,7 +23,7 @@ public:
     QCheckBox* allCardsBox() const { return m_allCards; }
 
 private:
-    void saveCard(BoardFamily family, int card, QStringList& refused);
+    bool saveCard(BoardFamily family, int card, QStringList& refused);
 
     ToolContext m_context;
     CardTypeSelector* m_selector = nullptr;

@@ -64,7 +64,7 @@ COV_SysIOSetWnd::COV_SysIOSetWnd(BoardApi& board, QWidget* parent)
     });
 }
 
-void COV_SysIOSetWnd::Load(BoardFamily family)
+void COV_SysIOSetWnd::loadShown(BoardFamily family)
 {
     const PageParameters board = boardValues(family);
     const int homeMode = m_board.GetHomeMode(family, m_card, m_axis);

@@ -13,7 +13,7 @@ class COV_SysIOSetWnd : public ParameterSetupPage
 public:
     explicit COV_SysIOSetWnd(BoardApi& board, QWidget* parent = nullptr);
 
-    void Load(BoardFamily family) override;
+    void loadShown(BoardFamily family) override;
 
     // Set when the axis's home mode searches a limit instead of the origin sensor.
     void setHomeUsesLimit(bool uses) { m_homeUsesLimit = uses; }

@@ -47,14 +47,21 @@ void PageParameters::set(std::string_view name, std::int32_t value)
 
 const ParameterInfo* PageParameters::firstDifference(const PageParameters& other) const
 {
+    const std::vector<const ParameterInfo*> all = differences(other);
+    return all.empty() ? nullptr : all.front();
+}
+
+std::vector<const ParameterInfo*> PageParameters::differences(const PageParameters& other) const
+{
+    std::vector<const ParameterInfo*> found;
     for (std::size_t i = 0; i < m_calls.size() && i < other.m_calls.size(); ++i) {
         const auto carried = ParameterCatalog::carriedBy(m_calls[i].first);
         const CallValues& mine = m_calls[i].second;
         const CallValues& theirs = other.m_calls[i].second;
         for (std::size_t s = 0; s < mine.size() && s < theirs.size(); ++s) {
             if (carried[s]->shown && mine[s] != theirs[s])
-                return carried[s];
+                found.push_back(carried[s]);
         }
     }
-    return nullptr;
+    return found;
 }

@@ -25,6 +25,8 @@ public:
 
     // The first parameter the page shows whose value differs from other's; null when none.
     const ParameterInfo* firstDifference(const PageParameters& other) const;
+    // Every such parameter, in the page's order.
+    std::vector<const ParameterInfo*> differences(const PageParameters& other) const;
 
 private:
     std::int32_t* slot(std::string_view name);

@@ -3,7 +3,10 @@
 #include "BoardFamily.h"
 #include "PageParameters.h"
 
+#include <QStringList>
 #include <QWidget>
+
+#include <optional>
 
 class BoardApi;
 class QComboBox;
@@ -29,14 +32,19 @@ public:
     }
 
     // Reads every parameter of the page from the board and shows it, dropping edits.
-    virtual void Load(BoardFamily family) = 0;
+    void Load(BoardFamily family);
     // Whether what the page shows differs from what the board holds.
     bool IsChanged(BoardFamily family);
     // Writes what the page shows to the board.
     void Apply(BoardFamily family);
+    // The names of the parameters whose controls show an unwritten edit, in bold.
+    QStringList markedEdits() const { return m_marked; }
 
 protected:
-    // The page's parameters as the board holds them for the current card and axis.
+    // What Load does for the page's own controls.
+    virtual void loadShown(BoardFamily family) = 0;
+    // The page's parameters as the board holds them for the current card and axis; kept as
+    // the values edits are marked against.
     PageParameters boardValues(BoardFamily family) const;
     // The page's parameters as its controls show them.
     virtual PageParameters shown(BoardFamily family) = 0;
@@ -52,5 +60,14 @@ protected:
     int m_axisCount = 0;
 
 private:
+    // Bolds the controls whose values differ from the board's as last read or written, so the
+    // user sees what a leave-check is about; a control is found by its parameter's name.
+    void markEdits();
+    void watchEdits();
+
     ParameterPage m_page;
+    mutable std::optional<PageParameters> m_onBoard;
+    mutable BoardFamily m_boardFamily = BoardFamily::RL;
+    QStringList m_marked;
+    bool m_watching = false;
 };

@@ -46,6 +46,7 @@ QList<QRegularExpression> knownTexts()
     QStringList texts{
         kIncorrect,
         "Parameters are changed. Do you want to set parameter?",
+        "%1, axis %2, \"%3\":\nParameters are changed. Do you want to set parameter?",
         "Selected axis in not checked !\n Please check selected axis !",
         "Please Select at least 2 axes !",
         "Gantry Limit Error !",

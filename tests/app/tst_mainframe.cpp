@@ -276,6 +276,30 @@ private slots:
         QVERIFY(rig.view(ToolSingleAxis));
     }
 
+    void tree_marksUnsavedCardsUntilSaved()
+    {
+        Rig rig(1, -1, -1);
+        QVERIFY(rig.create());
+        QTreeWidgetItem* card = rig.tree()->cardItem(BoardFamily::RL, 1);
+        rig.frame->sendToFrame(UM_PARAM_CHANGED, 1); // what every Set Prm sends
+        QCOMPARE(card->text(0), QStringLiteral("1 : NRX-RL416V*"));
+        QCOMPARE(rig.tree()->cardItem(BoardFamily::RL, 0)->text(0),
+                 QStringLiteral("0 : NRX-RL416V"));
+        // A marked card is still a card: its menu is there and choosing it works.
+        std::unique_ptr<QMenu> menu(rig.tree()->createContextMenu(card));
+        QVERIFY(menu);
+        rig.tree()->setCurrentItem(card);
+        rig.tree()->handleUserMessage(UM_CONTROLLER_CHANGED);
+        QCOMPARE(rig.state.active.card, 1);
+        // Save Parameter clears the flag; a rebuilt tree keeps a mark that is still due.
+        rig.state.registry.setParametersChanged(BoardFamily::RL, 1, false);
+        QCOMPARE(card->text(0), QStringLiteral("1 : NRX-RL416V"));
+        rig.state.registry.setParametersChanged(BoardFamily::RL, 0, true);
+        rig.tree()->handleUserMessage(UM_TREE_BUILD);
+        QCOMPARE(rig.tree()->cardItem(BoardFamily::RL, 0)->text(0),
+                 QStringLiteral("0 : NRX-RL416V*"));
+    }
+
     void relay_orderAndRecipients()
     {
         Rig rig(1, -1, -1);

@@ -11,6 +11,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDate>
+#include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QStandardPaths>
@@ -78,8 +79,10 @@ private slots:
             QVERIFY(scope->channels().setChannel(2, channel));
             scope->findChild<QComboBox*>("period")->setCurrentIndex(2);
             scope->findChild<QComboBox*>("length")->setCurrentIndex(4);
-            scope->findChild<QComboBox*>("trigger")->setCurrentIndex(1);
+            scope->findChild<QComboBox*>("trigger")->setCurrentIndex(2); // Level
             scope->findChild<QComboBox*>("triggerChannel")->setCurrentIndex(2);
+            scope->findChild<QComboBox*>("triggerEdge")->setCurrentIndex(1);
+            scope->findChild<QLineEdit*>("triggerLevel")->setText("1500");
             scope->findChild<QCheckBox*>("repeat")->setChecked(true);
             frame->toolWindows().window(ToolScope)->setGeometry(scopePlace);
             frame->openTool(ToolSingleAxis);
@@ -115,8 +118,10 @@ private slots:
         const ScopeRecorder::Settings settings = scope->recorder().settings();
         QCOMPARE(settings.periodMs, 5);
         QCOMPARE(settings.lengthMs, 30000);
-        QCOMPARE(settings.trigger, ScopeRecorder::Trigger::AxisStarts);
+        QCOMPARE(settings.trigger, ScopeRecorder::Trigger::Level);
         QCOMPARE(settings.triggerChannel, 2);
+        QCOMPARE(settings.edge, ScopeRecorder::Edge::Falling);
+        QCOMPARE(settings.level, 1500.0);
         QVERIFY(settings.repeat);
 
         // Closed and opened again in the same run, the scope keeps its setup too.

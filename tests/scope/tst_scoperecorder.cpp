@@ -196,6 +196,55 @@ private slots:
         QCOMPARE(record.times.back(), 360.0);
         QCOMPARE(record.columns[1].values.back(), 5000.0);
     }
+
+    void trigger_levelFiresAtTheCrossingWithinOneSample_data()
+    {
+        using Edge = ScopeRecorder::Edge;
+        QTest::addColumn<int>("edge");
+        QTest::addColumn<int>("move"); // pulses from 3000, started at 1500 ms
+        QTest::addColumn<bool>("fires");
+        QTest::newRow("rising, up") << int(Edge::Rising) << 2000 << true;
+        QTest::newRow("rising, down") << int(Edge::Rising) << -2000 << false;
+        QTest::newRow("falling, down") << int(Edge::Falling) << -2000 << true;
+        QTest::newRow("either, down") << int(Edge::Either) << -2000 << true;
+    }
+    void trigger_levelFiresAtTheCrossingWithinOneSample()
+    {
+        QFETCH(int, edge);
+        QFETCH(int, move);
+        QFETCH(bool, fires);
+        ScopeSimRig rig;
+        QVERIFY(rig.start());
+        rig.setSpeeds(20000, 1000, 50, 50, 0);
+        rig.api.Inc_Move(ScopeSimRig::Rl, 0, ScopeSimRig::Axis, 3000);
+        rig.advance(1000);
+        ScopeRecorder recorder(rig.api);
+        configure(recorder, 5, 400, ScopeRecorder::Trigger::Level);
+        ScopeRecorder::Settings settings = recorder.settings();
+        settings.triggerChannel = 1; // the command position
+        settings.edge = static_cast<ScopeRecorder::Edge>(edge);
+        // Halfway, and on no sample.
+        const double level = 3000 + move / 2 + 3;
+        settings.level = level;
+        recorder.setSettings(settings);
+        recorder.run(rig.nowMs);
+        runFor(rig, recorder, 1000, [&](int ms) {
+            if (ms == 1500)
+                rig.api.Inc_Move(ScopeSimRig::Rl, 0, ScopeSimRig::Axis, move);
+        });
+        QCOMPARE(recorder.state(),
+                 fires ? ScopeRecorder::State::Stopped : ScopeRecorder::State::Armed);
+        if (!fires)
+            return;
+        // The sample at 0 is the first past the level; the one before has not reached it.
+        const ScopeRecording record = recorder.recording();
+        QCOMPARE(record.times.front(), -40.0);
+        const auto at = static_cast<size_t>(record.indexAt(0.0));
+        const std::vector<double>& position = record.columns[1].values;
+        const double sign = move > 0 ? 1.0 : -1.0;
+        QVERIFY2(sign * (position[at] - level) >= 0.0 && sign * (position[at - 1] - level) < 0.0,
+                 qPrintable(QStringLiteral("%1 %2").arg(position[at - 1]).arg(position[at])));
+    }
 };
 
 QTEST_MAIN(TestScopeRecorder)

@@ -14,6 +14,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
 #include <QWheelEvent>
@@ -78,6 +79,26 @@ private slots:
         QCOMPARE(shown.times.front(), -200.0);
         QCOMPARE(shown.columns.size(), size_t(3));
         QVERIFY(!PredictedSpeedProfile::forRecording(shown, 0).isEmpty());
+        // Speed on the left; following error and position each on a scale of their own.
+        const auto& right = rig.window->plot().rightAxes();
+        QCOMPARE(right.size(), size_t(2));
+        QCOMPARE(right[0].title, QStringLiteral("Following Error [pulse]"));
+        QCOMPARE(right[1].title, QStringLiteral("Position [pulse]"));
+        QVERIFY(right[1].high >= 9000.0);
+        // A level trigger on the position draws its line on the position scale; a drag moves it.
+        rig.find<QComboBox>("trigger")->setCurrentIndex(2);
+        rig.find<QComboBox>("triggerChannel")->setCurrentIndex(2);
+        rig.window->show();
+        rig.window->grab();
+        PlotWidget& plot = rig.window->plot();
+        const int x = qRound(plot.plotArea().center().x());
+        const QPoint from(x, qRound(plot.yToPixel(2, 0.0)));
+        const QPoint to(x, qRound(plot.yToPixel(2, 4500.0)));
+        QTest::mousePress(&plot, Qt::LeftButton, {}, from);
+        QTest::mouseMove(&plot, to);
+        QTest::mouseRelease(&plot, Qt::LeftButton, {}, to);
+        const QString level = rig.find<QLineEdit>("triggerLevel")->text();
+        QVERIFY2(qAbs(level.toDouble() - 4500.0) < 100.0, qPrintable(level));
 
         // Cursors on the cruise and after the stop: drive speed, then standstill on target.
         const PredictedSpeedProfile::Move move = PredictedSpeedProfile::forDistance(

@@ -15,7 +15,9 @@
 
 namespace {
 const QString kChanged = QStringLiteral("Parameters are changed. Do you want to set parameter?");
-}
+// The question names where the edits are, above its own words.
+const QString kChangedHere = QStringLiteral("NRX-RL416V(0), axis 0, \"System IO\":\n") + kChanged;
+} // namespace
 
 // The parameter setup window on the simulated boards: edits reach the board and survive a
 // power cycle, and every way out of an edited page asks first.
@@ -123,7 +125,11 @@ private slots:
         rig.choose("EncoderDirection", 1);
         rig.find<QCheckBox>("softLimitUse")->click();
         rig.find<QLineEdit>("softLimitPlus")->setText("500");
+        QVERIFY(rig.find<QLineEdit>("softLimitPlus")->font().bold());
         rig.click("setPrmButton");
+        QVERIFY(!rig.find<QLineEdit>("softLimitPlus")->font().bold());
+        QCOMPARE(rig.frame.notes, QStringList{"Wrote \"Motion Parameter\" of NRX-RL416V(0) axis 2 "
+                                              "to the board (not saved yet)"});
         rig.api.Inc_Move(BoardFamily::RL, 0, 2, 2000);
         rig.advance(BoardFamily::RL, 5000);
         QCOMPARE(rig.api.Done(BoardFamily::RL, 0, 2), 0);
@@ -150,6 +156,8 @@ private slots:
         QVERIFY(rig.start());
         rig.open();
         rig.choose("LimitLevel", 1);
+        QVERIFY(rig.list("LimitLevel")->font().bold());
+        QVERIFY(!rig.list("AlarmLevel")->font().bold());
         rig.prompt.queueAnswers({yes});
         if (way == "tab") {
             rig.tab(2);
@@ -170,8 +178,12 @@ private slots:
         } else {
             rig.click("closeButton");
         }
-        QCOMPARE(rig.prompt.questions(), QStringList{kChanged});
+        QCOMPARE(rig.prompt.questions(), QStringList{kChangedHere});
         QCOMPARE(rig.limitLevel(BoardFamily::RL, 0, 0), yes ? 1 : 0);
+        // Written or dropped, the field is no longer marked; kept, it still is.
+        const bool kept = !yes && (way == "copy" || way == "import" || way == "close");
+        QCOMPARE(rig.list("LimitLevel")->font().bold(), kept);
+        QCOMPARE(rig.frame.notes.size(), yes ? 1 : 0);
         // After a controller change the written card is the previous family's.
         const bool controller = way == "controller";
         QCOMPARE(rig.paramChangedSent(0), yes && !controller);
@@ -202,7 +214,7 @@ private slots:
         QVERIFY(rig.window->settleBeforeExit());
         QCOMPARE(rig.limitLevel(BoardFamily::RL, 0, 0), 1);
         QVERIFY(rig.paramChangedSent(0));
-        QCOMPARE(rig.prompt.questions(), QStringList(3, kChanged));
+        QCOMPARE(rig.prompt.questions(), QStringList(3, kChangedHere));
         // Nothing is left to ask when the window then closes.
         rig.window->requestClose();
         QCOMPARE(rig.prompt.questions().size(), 3);

@@ -33,6 +33,10 @@ private:
                 for (int card = 0; card < kMaxCards; ++card)
                     state.registry.setParametersChanged(family, card, true);
             state.active.family = BoardFamily::RN;
+            for (int card = 0; card < rlCards; ++card)
+                state.registry.setCardInfo(BoardFamily::RL, static_cast<CardNo>(card), 4, 0x21, 16);
+            for (int card = 0; card < rnCards; ++card)
+                state.registry.setCardInfo(BoardFamily::RN, static_cast<CardNo>(card), 4, 0x21, 16);
         }
         QString flags(BoardFamily family)
         {
@@ -53,16 +57,17 @@ private slots:
         QTest::addColumn<QStringList>("rnCalls");
         QTest::addColumn<QString>("rlFlags");
         QTest::addColumn<QString>("rnFlags");
+        QTest::addColumn<QStringList>("notes");
         QTest::newRow("one card") << false << false << 1 << QStringList{"SaveFile(1)"}
                                   << QStringList{} << "101"
-                                  << "111";
+                                  << "111" << QStringList{"Saved NRX-RL416V(1) to its parameter file"};
         QTest::newRow("all cards, yes")
             << true << true << 0 << QStringList{"SaveFile(0)", "SaveFile(1)"}
             << QStringList{"SaveFile(0)"} << "001"
-            << "011";
+            << "011" << QStringList{"Saved NRX-RL416V(0), NRX-RL416V(1), NRX-RN416V(0) to their parameter files"};
         QTest::newRow("all cards, no")
             << true << false << 0 << QStringList{} << QStringList{} << "111"
-            << "111";
+            << "111" << QStringList{};
     }
     void save_writesTheFilesAndClearsTheirFlags()
     {
@@ -86,6 +91,7 @@ private slots:
         QVERIFY(rig.rm.calls().isEmpty());
         QTEST(rig.flags(BoardFamily::RL), "rlFlags");
         QTEST(rig.flags(BoardFamily::RN), "rnFlags");
+        QTEST(rig.frame.notes, "notes");
         QVERIFY(rig.prompt.messages().isEmpty());
     }
 
@@ -101,6 +107,7 @@ private slots:
         QVERIFY2(rig.prompt.messages().front().endsWith(QLatin1String("(1): SaveFile returned -1")),
                  qPrintable(rig.prompt.messages().front()));
         QCOMPARE(rig.flags(BoardFamily::RL), QStringLiteral("111"));
+        QVERIFY(rig.frame.notes.isEmpty());
     }
 
     void selectors_offerOnlyRealChoices()
