@@ -2,6 +2,21 @@
 <!DOCTYPE TS>
 <TS version="2.1">
 <context>
+    <name>AllAxesStop</name>
+    <message>
+        <source>%1(%2) axis %3 (%4)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All axes stopped (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop All: %1 axes stopped; the board refused to stop %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>AxisMotionReadout</name>
     <message>
         <source>Command position of this axis</source>
@@ -1408,18 +1423,6 @@ Can not change active controller !</source>
     </message>
     <message>
         <source>Motion Status - %1(%2)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1(%2) axis %3 (%4)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>All axes stopped (%1)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Stop All: %1 axes stopped; the board refused to stop %2</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

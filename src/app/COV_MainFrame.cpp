@@ -1,5 +1,6 @@
 #include "COV_MainFrame.h"
 
+#include "AllAxesStop.h"
 #include "AppState.h"
 #include "BoardApi.h"
 #include "COV_AboutDlg.h"
@@ -552,45 +553,16 @@ void COV_MainFrame::closeAllTools()
 
 void COV_MainFrame::stopAllAxes()
 {
-    int stopped = 0;
-    QStringList refused;
-    for (BoardFamily family : kAllFamilies) {
-        for (int card = 0; card < m_state.registry.cardCount(family); ++card) {
-            for (int axis = 0; axis < m_state.registry.axisCount(family, card); ++axis) {
-                const nrx_i32 result = m_board.Sudden_Stop(family, static_cast<CardNo>(card),
-                                                           static_cast<AxisNo>(axis));
-                if (result >= 0) {
-                    ++stopped;
-                    continue;
-                }
-                refused << tr("%1(%2) axis %3 (%4)")
-                               .arg(
-                                   QString::fromStdString(m_state.registry.modelName(family, card)))
-                               .arg(card)
-                               .arg(axis)
-                               .arg(result);
-            }
-        }
-    }
+    const AllAxesStop stop(m_board, m_state.registry);
     for (ToolView* view : m_tools->openViews())
         view->endMotion();
     m_state.active.axesMoving = {};
     // The words stay until the next Stop All or motion: an axis left running must not be
     // hidden by a passing note.
-    if (refused.isEmpty()) {
-        qCInfo(lcMotion) << "Stop All Axes:" << stopped << "axes stopped";
-        m_stopReport->setText(tr("All axes stopped (%1)").arg(stopped));
-    } else {
-        qCWarning(lcMotion).noquote()
-            << "Stop All Axes:" << stopped << "axes stopped; the board refused to stop"
-            << refused.join(QStringLiteral(", "));
-        m_stopReport->setText(tr("Stop All: %1 axes stopped; the board refused to stop %2")
-                                  .arg(stopped)
-                                  .arg(refused.join(QStringLiteral(", "))));
-    }
-    m_stopReport->setStyleSheet(refused.isEmpty() ? QString()
-                                                  : QStringLiteral("color: #c00000; "
-                                                                   "font-weight: bold;"));
+    m_stopReport->setText(stop.report());
+    m_stopReport->setStyleSheet(stop.refused().isEmpty()
+                                    ? QString()
+                                    : QStringLiteral("color: #c00000; font-weight: bold;"));
     m_stopReport->show();
 }
 

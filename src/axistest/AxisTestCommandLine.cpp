@@ -5,8 +5,8 @@
 #include "AxisTestRun.h"
 #include "AxisUnits.h"
 #include "CardRegistry.h"
+#include "CommandLineStart.h"
 #include "HeadlessBoards.h"
-#include "LogFile.h"
 #include "ParameterCommandLine.h"
 #include "ParameterSet.h"
 
@@ -333,22 +333,14 @@ int AxisTestCommandLine::main(int argc, char** argv)
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
-    QCoreApplication::setApplicationName(QStringLiteral("Orvane"));
-    LogFile log(LogFile::defaultPath());
-    log.setEchoLevel(QtWarningMsg);
-    log.install();
-    QTextStream out(stdout);
-    QTextStream err(stderr);
-    const QStringList arguments = QCoreApplication::arguments().mid(2);
-    if (arguments.isEmpty() || arguments.contains(QLatin1String("--help")) ||
-        arguments.contains(QLatin1String("-h"))) {
-        (arguments.isEmpty() ? err : out) << usage();
-        return arguments.isEmpty() ? BadInput : Passed;
-    }
-    HeadlessBoards boards(err);
+    CommandLineStart start;
+    int exit = Passed;
+    if (start.printedUsage(usage(), BadInput, &exit))
+        return exit;
+    HeadlessBoards boards(start.err);
     if (!boards.load())
         return BadInput;
-    AxisTestCommandLine command(boards.api(), boards.registry(), out, err);
+    AxisTestCommandLine command(boards.api(), boards.registry(), start.out, start.err);
     command.setSettingsFile(ParameterCommandLine::settingsFilePath());
-    return command.run(arguments);
+    return command.run(start.arguments());
 }

@@ -2,8 +2,8 @@
 
 #include "BoardApi.h"
 #include "CardRegistry.h"
+#include "CommandLineStart.h"
 #include "HeadlessBoards.h"
-#include "LogFile.h"
 #include "OrvaneLog.h"
 #include "ParameterComparison.h"
 #include "ParameterImport.h"
@@ -99,27 +99,17 @@ bool ParameterCommandLine::isStray(int argc, char** argv)
 int ParameterCommandLine::main(int argc, char** argv)
 {
     QCoreApplication app(argc, argv);
-    // The window's log file; standard error carries only this command's own messages.
-    QCoreApplication::setApplicationName(QStringLiteral("Orvane"));
-    LogFile log(LogFile::defaultPath());
-    log.setEchoLevel(QtWarningMsg);
-    log.install();
-    QTextStream out(stdout);
-    QTextStream err(stderr);
-    const QStringList arguments = QCoreApplication::arguments().mid(2);
-    if (arguments.isEmpty() || arguments.contains(QLatin1String("--help")) ||
-        arguments.contains(QLatin1String("-h"))) {
-        (arguments.isEmpty() ? err : out) << usage();
-        return arguments.isEmpty() ? BadInput : Success;
-    }
-
-    HeadlessBoards boards(err);
+    CommandLineStart start;
+    int exit = Success;
+    if (start.printedUsage(usage(), BadInput, &exit))
+        return exit;
+    HeadlessBoards boards(start.err);
     if (!boards.load())
         return BadInput;
-    ParameterCommandLine command(boards.api(), boards.registry(), out, err);
+    ParameterCommandLine command(boards.api(), boards.registry(), start.out, start.err);
     command.setSimulated(boards.simulated());
     command.setSettingsFile(settingsFilePath());
-    return command.run(arguments);
+    return command.run(start.arguments());
 }
 
 QString ParameterCommandLine::settingsFilePath()
