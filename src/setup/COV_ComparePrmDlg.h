@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ParameterComparison.h"
+#include "ToolContext.h"
 
 #include <QDialog>
 
@@ -8,7 +9,6 @@ class ParameterSourceBox;
 class QCheckBox;
 class QLabel;
 class QTableWidget;
-struct ToolContext;
 
 // "Compare Parameters": two sources (an axis, a card or a file) side by side, one row per
 // parameter, the rows that differ highlighted.
@@ -32,7 +32,7 @@ private:
     void showRows();
     void showUnitRows();
 
-    const ToolContext& m_context;
+    ToolContext m_context;
     ParameterSourceBox* m_sources[2] = {};
     QCheckBox* m_differencesOnly = nullptr;
     QLabel* m_summary = nullptr;

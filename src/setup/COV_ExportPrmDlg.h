@@ -1,10 +1,11 @@
 #pragma once
 
+#include "ToolContext.h"
+
 #include <QDialog>
 
 class ParameterSourceBox;
 class QLineEdit;
-struct ToolContext;
 
 // "Export Parameters": writes the parameters of one card or of every card to a text file.
 class COV_ExportPrmDlg : public QDialog
@@ -23,7 +24,7 @@ private:
     // The model, card and date of what is exported ("NRX-RL416V_Card0_2026-11-24.ini").
     QString suggestedName() const;
 
-    const ToolContext& m_context;
+    ToolContext m_context;
     ParameterSourceBox* m_source = nullptr;
     QLineEdit* m_file = nullptr;
 };

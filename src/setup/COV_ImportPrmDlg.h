@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ToolContext.h"
+
 #include <QDialog>
 
 #include <memory>
@@ -11,7 +13,6 @@ class QPlainTextEdit;
 class QPushButton;
 class QTableWidget;
 class UnitScaleImport;
-struct ToolContext;
 
 // "Import Parameters": checks a parameter file against the boards, shows what it would change
 // and, once the user agrees, writes it.
@@ -36,7 +37,7 @@ private:
     void showUnitChanges();
     void writeUnits();
 
-    const ToolContext& m_context;
+    ToolContext m_context;
     std::unique_ptr<ParameterImport> m_import;
     std::unique_ptr<UnitScaleImport> m_units; // the file's axis scales
     QLineEdit* m_file = nullptr;
